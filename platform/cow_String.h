@@ -1,0 +1,60 @@
+#pragma once
+// The framework's reference-counted immutable string: copies share one body.
+#include <compare>
+#include <cstddef>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+
+class cow_String {
+ public:
+  cow_String() noexcept = default;
+  cow_String(const char* s);  // NOLINT: implicit by design, like the framework's
+  cow_String(std::string_view s);
+  cow_String(const std::string& s) : cow_String(std::string_view(s)) {}
+  cow_String(const cow_String& o) noexcept;
+  cow_String(cow_String&& o) noexcept : body_(o.body_) { o.body_ = nullptr; }
+  cow_String& operator=(const cow_String& o) noexcept;
+  cow_String& operator=(cow_String&& o) noexcept;
+  ~cow_String();
+
+  const char* c_str() const noexcept;
+  std::size_t size() const noexcept;
+  bool empty() const noexcept { return size() == 0; }
+  std::string_view view() const noexcept { return {c_str(), size()}; }
+  std::string str() const { return std::string(view()); }
+  operator std::string_view() const noexcept { return view(); }
+  // Number of handles sharing this body (0 for the empty string).
+  int UseCount() const noexcept;
+
+  friend bool operator==(const cow_String& a, const cow_String& b) noexcept {
+    return a.body_ == b.body_ || a.view() == b.view();
+  }
+  friend std::strong_ordering operator<=>(const cow_String& a, const cow_String& b) noexcept {
+    return a.view().compare(b.view()) <=> 0;
+  }
+  friend bool operator==(const cow_String& a, const char* b) noexcept { return a.view() == b; }
+
+ private:
+  struct Body;
+  Body* body_ = nullptr;
+};
+
+// Natural order, as repositories sort their keys: runs of digits compare by their numeric value
+// ("Part-2" before "Part-10"); ties fall back to plain byte order so the order stays total.
+int cow_NaturalCompare(std::string_view a, std::string_view b) noexcept;
+
+struct cow_NaturalLess {
+  bool operator()(const cow_String& a, const cow_String& b) const noexcept {
+    return cow_NaturalCompare(a.view(), b.view()) < 0;
+  }
+};
+
+std::ostream& operator<<(std::ostream& os, const cow_String& s);
+
+template <>
+struct std::hash<cow_String> {
+  std::size_t operator()(const cow_String& s) const noexcept {
+    return std::hash<std::string_view>()(s.view());
+  }
+};

@@ -1,0 +1,27 @@
+#pragma once
+// The type-erased face of a repository, through which the command layer and the database file
+// reach any container's elements without knowing the element class. Element pointers point at
+// the root class of the element's family, as cls_ClassMetadata hands them out.
+#include <vector>
+
+#include "platform/cls_ClassMetadata.h"
+#include "platform/cow_String.h"
+
+class mdl_Repository {
+ public:
+  virtual ~mdl_Repository() = default;
+  // The repository's scripting name ("adaptiveMeshControls").
+  virtual const char* RepositoryName() const = 0;
+  // The declared element class (may be the root of a polymorphic family).
+  virtual const cls_ClassMetadata& ElementClass() const = 0;
+  virtual std::vector<cow_String> Keys() const = 0;
+  virtual bool Contains(const cow_String& key) const = 0;
+  // The element and its class, or null when absent.
+  virtual const void* Find(const cow_String& key, const cls_ClassMetadata** cls = nullptr) const = 0;
+  // The element for modification: separated first, recorded as "Modify". Refuses a missing key.
+  virtual void* Modify(const cow_String& key, const cls_ClassMetadata** cls = nullptr) = 0;
+  // Takes ownership of an element made by the element class's metadata; recorded as "Insert".
+  virtual void InsertNew(const cow_String& key, void* owned) = 0;
+  // Recorded as "Remove"; false when the key is absent.
+  virtual bool RemoveKey(const cow_String& key) = 0;
+};

@@ -1,7 +1,6 @@
 #pragma once
 // The two exception families of the framework: validation failures (nex_PrimException) and
 // refusals of the command layer and of enumerations (nex_CmdException).
-#include <source_location>
 #include <string>
 
 #include "platform/QMXBasException.h"
@@ -44,5 +43,6 @@ using nex_PrimError = nex_PrimException<atr_String, 1>;
 using nex_CmdError = nex_CmdException<atr_String, 2>;
 
 // Throws a command-layer refusal with a plain (untranslated) message and the caller's position.
-[[noreturn]] void nex_ThrowCmd(const std::string& message,
-                               std::source_location where = std::source_location::current());
+// (The builtins rather than std::source_location: clang 14 with libstdc++ 12 lacks the latter.)
+[[noreturn]] void nex_ThrowCmd(const std::string& message, const char* file = __builtin_FILE(),
+                               int line = __builtin_LINE());

@@ -6,6 +6,8 @@
 #include "kad/kadC_AdptMeshCtrl_829.h"
 #include "kad/kadC_AdptMeshDomCont.h"
 #include "kad/kadC_AdptMeshDomain.h"
+#include "platform/bas_StartCount.h"
+#include "platform/bas_StartJournal.h"
 #include "platform/cls_ClassRegistrar.h"
 #include "platform/ddr_Model.h"
 #include "platform/omi_Singleton.h"
@@ -45,13 +47,14 @@ void kadC_formalize() {}
 int QMXOdbKadC_count() { return count; }
 
 void QMXOdbKadC_initialize(int& tally) {
-  if (count++ != 0) return;
-  ++tally;
+  if (!bas_FirstStart(count, tally)) return;
+  bas_StartJournal::Start("QMXOdbKadC");
   typ_ArchCompTable::InsertEntry(kArchKey, kadC_ArchEntry());
   {
     kadC_AdptMeshCtrlCont controls;
     kadC_ACWrapper prototype(controls);
     ddr_Model::RegisterAdaptiveMeshControlContainer(prototype);
+    bas_StartJournal::Register("kadC_ACWrapper");
   }
   auto& metadata = omi_Singleton<cls_MetadataRegistrar>::Instance();
   metadata.initClassMetadata(&kadC_AdptMeshDomain::InitializeMetadata, 7);
@@ -65,7 +68,7 @@ void QMXOdbKadC_initialize(int& tally) {
 }
 
 void QMXOdbKadC_finalize(int& tally) {
-  if (count-- != 1) return;
-  --tally;
+  if (!bas_LastStop(count, tally)) return;
+  bas_StartJournal::Stop("QMXOdbKadC");
   ddr_Model::UnRegisterAdaptiveMeshControlContainer();
 }

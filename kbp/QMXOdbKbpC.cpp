@@ -2,6 +2,27 @@
 
 #include <iterator>
 
+#include "kbp/kbpC_ArbitraryProfile.h"
+#include "kbp/kbpC_BPCWrapper.h"
+#include "kbp/kbpC_BeamProfile.h"
+#include "kbp/kbpC_BeamProfileContainer.h"
+#include "kbp/kbpC_BoxProfile.h"
+#include "kbp/kbpC_CbeamProfile.h"
+#include "kbp/kbpC_CircularProfile.h"
+#include "kbp/kbpC_GeneralizedProfile.h"
+#include "kbp/kbpC_HatProfile.h"
+#include "kbp/kbpC_HexagonalProfile.h"
+#include "kbp/kbpC_IbeamProfile.h"
+#include "kbp/kbpC_LbeamProfile.h"
+#include "kbp/kbpC_PipeProfile.h"
+#include "kbp/kbpC_ProfileLabels.h"
+#include "kbp/kbpC_RectangularProfile.h"
+#include "kbp/kbpC_TbeamProfile.h"
+#include "kbp/kbpC_TrapezoidalProfile.h"
+#include "platform/cls_ClassRegistrar.h"
+#include "platform/ddr_Model.h"
+#include "platform/omi_Singleton.h"
+
 namespace {
 int count = 0;
 constexpr std::uint16_t kArchKey = 612;
@@ -47,9 +68,33 @@ void QMXOdbKbpC_initialize(int& tally) {
   if (count++ != 0) return;
   ++tally;
   typ_ArchCompTable::InsertEntry(kArchKey, kbpC_ArchEntry());
+  {
+    kbpC_BeamProfileContainer profiles;
+    kbpC_BPCWrapper prototype(profiles);
+    ddr_Model::RegisterExtension(prototype);
+  }
+  auto& metadata = omi_Singleton<cls_MetadataRegistrar>::Instance();
+  metadata.initClassMetadata(&kbpC_BeamProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_RectangularProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_BoxProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_CircularProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_PipeProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_HexagonalProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_TrapezoidalProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_IbeamProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_LbeamProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_TbeamProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_CbeamProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_HatProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_ArbitraryProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_GeneralizedProfile::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbpC_BeamProfileContainer::InitializeMetadata, 3);
+  metadata.initClassMetadata(&kbpC_BPCWrapper::InitializeMetadata, 4);
 }
 
 void QMXOdbKbpC_finalize(int& tally) {
   if (count-- != 1) return;
   --tally;
+  ddr_Model::UnRegisterExtension(kbpC_BeamProfileContainer::Names::kRepositoryName);
+  kbpC_ReleaseDisplayLabels();
 }

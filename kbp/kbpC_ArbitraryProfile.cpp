@@ -1,0 +1,26 @@
+#include "kbp/kbpC_ArbitraryProfile.h"
+
+#include <cstddef>
+
+#include "framework/fw_FieldTable.h"
+#include "kbp/kbpC_assert.h"
+
+kbpC_ArbitraryProfile::kbpC_ArbitraryProfile(const cls_ReadVisitor& reader) : kbpC_BeamProfile(reader) { fw_ReadFields(*this, reader); }
+void kbpC_ArbitraryProfile::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
+kbpC_ArbitraryProfile* kbpC_ArbitraryProfile::Copy() const { return new kbpC_ArbitraryProfile(*this); }
+bool kbpC_ArbitraryProfile::operator==(const kbpC_ArbitraryProfile& o) const { return fw_EqualFields(*this, o); }
+bool kbpC_ArbitraryProfile::SameAs(const kbpC_BeamProfile& o) const { return *this == static_cast<const kbpC_ArbitraryProfile&>(o); }
+void kbpC_ArbitraryProfile::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbpC_ArbitraryProfile>(r); }
+void kbpC_ArbitraryProfile::CowDtor(void* p) { fw_CowDtor<kbpC_ArbitraryProfile>(p); }
+
+// Rule 11 already refuses a zero thickness, so rule 12 cannot fail after it; the order of the
+// rules is fixed, so it stays.
+void kbpC_ArbitraryProfile::AssertValid() const {
+  const bool hasThickness = table.Columns() == 3;
+  const std::size_t points = table.Rows();
+  const std::size_t segments = hasThickness && points > 0 ? points - 1 : 0;
+  for (std::size_t i = 1; i <= segments; ++i) kbpC_Assert(table(i, 2) > 0, kbpC_ThicknessesNotPositive);
+  for (std::size_t i = 2; i <= segments; ++i)
+    kbpC_Assert(table(i - 1, 2) != 0 || table(i, 2) != 0, kbpC_ConnectedSegmentsWithoutThickness);
+  kbpC_Assert(points == segments + 1, kbpC_PointsNotSegmentsPlusOne);
+}

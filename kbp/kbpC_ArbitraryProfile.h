@@ -1,0 +1,44 @@
+#pragma once
+// A thin-walled section given by a path of points. The table has one row per point: x, y and
+// the thickness of the segment that ends at the point. The first point starts the path, so its
+// thickness cell is not used; a table without the thickness column describes no segments.
+#include "kbp/kbpC_BeamProfile.h"
+#include "platform/cow_2DArray.h"
+
+class kbpC_ArbitraryProfile : public kbpC_BeamProfile {
+ public:
+  using BaseClass = kbpC_BeamProfile;
+  using RootClass = kbpC_BeamProfile;
+  static constexpr const char* kClassName = "kbpC_ArbitraryProfile";
+  static constexpr const char* kScriptName = "ArbitraryProfile";
+  static constexpr unsigned TypeId() { return fw_TypeId(612, 13); }
+
+  // Persistent fields in write order.
+  static constexpr auto Fields() {
+    using C = kbpC_ArbitraryProfile;
+    return std::tuple{
+        fw_Field{"table", 0, "table", &C::table},
+    };
+  }
+
+  kbpC_ArbitraryProfile() = default;
+  explicit kbpC_ArbitraryProfile(const cls_ReadVisitor& reader);
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  kbpC_ArbitraryProfile* Copy() const override;
+  void AssertValid() const override;
+  unsigned ClassTypeId() const override { return TypeId(); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+
+  bool operator==(const kbpC_ArbitraryProfile& o) const;
+  bool operator!=(const kbpC_ArbitraryProfile& o) const { return !(*this == o); }
+
+  const cow_2DArray<double>& GetTable() const { return table; }
+  void SetTable(const cow_2DArray<double>& v) { table = v; }
+
+ protected:
+  bool SameAs(const kbpC_BeamProfile& o) const override;
+
+ private:
+  cow_2DArray<double> table{{0.0, 0.0, 0.0}, {0.1, 0.0, 0.005}, {0.1, 0.1, 0.005}};
+};

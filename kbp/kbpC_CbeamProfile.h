@@ -1,0 +1,71 @@
+#pragma once
+// A channel: height h, the centroid's distance l from the bottom, bottom and top flange widths
+// b1 and b2, bottom and top flange thicknesses t1 and t2, web thickness t3 and the web's
+// offset o.
+#include "kbp/kbpC_BeamProfile.h"
+
+class kbpC_CbeamProfile : public kbpC_BeamProfile {
+ public:
+  using BaseClass = kbpC_BeamProfile;
+  using RootClass = kbpC_BeamProfile;
+  static constexpr const char* kClassName = "kbpC_CbeamProfile";
+  static constexpr const char* kScriptName = "ChannelProfile";
+  static constexpr unsigned TypeId() { return fw_TypeId(612, 11); }
+
+  // Persistent fields in write order.
+  static constexpr auto Fields() {
+    using C = kbpC_CbeamProfile;
+    return std::tuple{
+        fw_Field{"l", 0, "l", &C::l},
+        fw_Field{"h", 1, "h", &C::h},
+        fw_Field{"b1", 2, "b1", &C::b1},
+        fw_Field{"b2", 3, "b2", &C::b2},
+        fw_Field{"t1", 4, "t1", &C::t1},
+        fw_Field{"t2", 5, "t2", &C::t2},
+        fw_Field{"t3", 6, "t3", &C::t3},
+        fw_Field{"o", 7, "o", &C::o},
+    };
+  }
+
+  kbpC_CbeamProfile() = default;
+  explicit kbpC_CbeamProfile(const cls_ReadVisitor& reader);
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  kbpC_CbeamProfile* Copy() const override;
+  void AssertValid() const override;
+  unsigned ClassTypeId() const override { return TypeId(); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+
+  bool operator==(const kbpC_CbeamProfile& o) const;
+  bool operator!=(const kbpC_CbeamProfile& o) const { return !(*this == o); }
+
+  double GetL() const { return l; }
+  void SetL(double v) { l = v; }
+  double GetH() const { return h; }
+  void SetH(double v) { h = v; }
+  double GetB1() const { return b1; }
+  void SetB1(double v) { b1 = v; }
+  double GetB2() const { return b2; }
+  void SetB2(double v) { b2 = v; }
+  double GetT1() const { return t1; }
+  void SetT1(double v) { t1 = v; }
+  double GetT2() const { return t2; }
+  void SetT2(double v) { t2 = v; }
+  double GetT3() const { return t3; }
+  void SetT3(double v) { t3 = v; }
+  double GetO() const { return o; }
+  void SetO(double v) { o = v; }
+
+ protected:
+  bool SameAs(const kbpC_BeamProfile& o) const override;
+
+ private:
+  double l = 0.05;
+  double h = 0.1;
+  double b1 = 0.05;
+  double b2 = 0.05;
+  double t1 = 0.005;
+  double t2 = 0.005;
+  double t3 = 0.005;
+  double o = 0.0;
+};

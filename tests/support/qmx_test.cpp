@@ -5,18 +5,14 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "kad/QMXOdbKadC.h"
-#include "platform/cls_ClassRegistrar.h"
-#include "platform/ddr_Model.h"
+#include "frame/QMXOdbAttrEO2.h"
 
 void qmx_StartLibrary() {
-  static bool started = [] {
-    int tally = 0;
-    QMXOdbKadC_initialize(tally);
-    ddr_Model::InitializeMetadata(cls_ClassRegistrar::Instance());
-    return true;
-  }();
-  (void)started;
+  // Loading the library starts it; this only restarts a library that a test left stopped.
+  if (QMXOdbAttrEO2_libraryCount() > 0) return;
+  static int tally = 0;
+  QMXOdbAttrEO2_initialize(tally);
+  if (QMXOdbAttrEO2_libraryCount() <= 0) ADD_FAILURE() << "the library could not be started";
 }
 
 std::string qmx_TempDir(const std::string& name) {

@@ -23,7 +23,7 @@ E qmx_Catch(const std::function<void()>& fn) {
   throw std::runtime_error("expected exception not thrown");
 }
 
-// Starts what the tests need (the library, or the modules that exist) once per test program.
+// Makes sure the library is started (loading it starts it).
 void qmx_StartLibrary();
 
 // A fresh temporary directory for one test, removed by the caller's choice of path only.

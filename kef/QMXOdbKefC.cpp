@@ -1,0 +1,36 @@
+#include "kef/QMXOdbKefC.h"
+
+#include <iterator>
+
+#include "platform/bas_StartCount.h"
+#include "platform/bas_StartJournal.h"
+
+namespace {
+int count = 0;
+constexpr std::uint16_t kArchKey = 844;
+
+// Row i names the class whose type id is (844 << 16) | i. The class rows are added with the
+// module's classes; until then the table holds its leading empty row only.
+constexpr typ_ArchCompRecord kArchRows[] = {
+    {0, 0, 0, nullptr},
+};
+}  // namespace
+
+typ_ArchCompEntry kefC_ArchEntry() {
+  return typ_ArchCompEntry(kArchRows, static_cast<int>(std::size(kArchRows)));
+}
+
+void kefC_formalize() {}
+
+int QMXOdbKefC_count() { return count; }
+
+void QMXOdbKefC_initialize(int& tally) {
+  if (!bas_FirstStart(count, tally)) return;
+  bas_StartJournal::Start("QMXOdbKefC");
+  typ_ArchCompTable::InsertEntry(kArchKey, kefC_ArchEntry());
+}
+
+void QMXOdbKefC_finalize(int& tally) {
+  if (!bas_LastStop(count, tally)) return;
+  bas_StartJournal::Stop("QMXOdbKefC");
+}

@@ -19,6 +19,8 @@
 #include "kbp/kbpC_RectangularProfile.h"
 #include "kbp/kbpC_TbeamProfile.h"
 #include "kbp/kbpC_TrapezoidalProfile.h"
+#include "platform/bas_StartCount.h"
+#include "platform/bas_StartJournal.h"
 #include "platform/cls_ClassRegistrar.h"
 #include "platform/ddr_Model.h"
 #include "platform/omi_Singleton.h"
@@ -65,13 +67,14 @@ void kbpC_formalize() {}
 int QMXOdbKbpC_count() { return count; }
 
 void QMXOdbKbpC_initialize(int& tally) {
-  if (count++ != 0) return;
-  ++tally;
+  if (!bas_FirstStart(count, tally)) return;
+  bas_StartJournal::Start("QMXOdbKbpC");
   typ_ArchCompTable::InsertEntry(kArchKey, kbpC_ArchEntry());
   {
     kbpC_BeamProfileContainer profiles;
     kbpC_BPCWrapper prototype(profiles);
     ddr_Model::RegisterExtension(prototype);
+    bas_StartJournal::Register("kbpC_BPCWrapper");
   }
   auto& metadata = omi_Singleton<cls_MetadataRegistrar>::Instance();
   metadata.initClassMetadata(&kbpC_BeamProfile::InitializeMetadata, 7);
@@ -93,8 +96,8 @@ void QMXOdbKbpC_initialize(int& tally) {
 }
 
 void QMXOdbKbpC_finalize(int& tally) {
-  if (count-- != 1) return;
-  --tally;
+  if (!bas_LastStop(count, tally)) return;
+  bas_StartJournal::Stop("QMXOdbKbpC");
   ddr_Model::UnRegisterExtension(kbpC_BeamProfileContainer::Names::kRepositoryName);
   kbpC_ReleaseDisplayLabels();
 }

@@ -11,6 +11,7 @@
 #include "kbp/kbpC_PipeProfile.h"
 #include "kbp/kbpC_ProfileLabels.h"
 #include "kbp/kbpC_RectangularProfile.h"
+#include "platform/bas_StartJournal.h"
 #include "platform/cls_Record.h"
 #include "platform/ddr_Model.h"
 #include "platform/mdl_Repository.h"
@@ -183,6 +184,7 @@ TEST(KbpModule, StartsAndStopsCounted) {
   EXPECT_EQ(QMXOdbKbpC_count(), base);
 
   // bring it down to zero and back up: the repository goes and comes back
+  const std::size_t mark = bas_StartJournal::Mark();
   for (int i = 0; i < base; ++i) QMXOdbKbpC_finalize(tally);
   EXPECT_EQ(tally, -1);
   EXPECT_EQ(QMXOdbKbpC_count(), 0);
@@ -195,6 +197,8 @@ TEST(KbpModule, StartsAndStopsCounted) {
   // a restart does not register the classes again
   EXPECT_EQ(cls_ClassRegistrar::Instance().All().size(), metadataCount);
   EXPECT_STREQ(kbpC_DisplayLabel(kbpC_CircularProfile::TypeId()), "Circular");
+  const std::vector<std::string> journal = {"stop QMXOdbKbpC", "start QMXOdbKbpC", "register kbpC_BPCWrapper"};
+  EXPECT_EQ(bas_StartJournal::Since(mark), journal);
 }
 
 }  // namespace

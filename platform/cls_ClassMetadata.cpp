@@ -49,6 +49,9 @@ void cls_ClassMetadata::Write(const void*, const cls_WriteVisitor&) const { Unsu
 bool cls_ClassMetadata::Equal(const void*, const void*) const { Unsupported(name_, "be compared"); }
 void cls_ClassMetadata::AssertValid(const void*) const {}
 cls_Uid cls_ClassMetadata::UidOf(const void*) const { return cls_Uid::Null(); }
+const cls_ClassMetadata& cls_ClassMetadata::ClassOf(const void*) const { return *this; }
+mdl_Repository* cls_ClassMetadata::AsRepository(void*) const { return nullptr; }
+const mdl_Repository* cls_ClassMetadata::AsRepository(const void*) const { return nullptr; }
 
 void cls_ClassMetadata::Destroy(void* obj) const {
   if (!obj) return;

@@ -12,6 +12,7 @@
 class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassMetadata;
+class mdl_Repository;
 struct omu_EnumLiteral;
 
 struct cls_Attribute {
@@ -80,6 +81,12 @@ class cls_ClassMetadata {
   virtual bool Equal(const void* a, const void* b) const;
   virtual void AssertValid(const void* obj) const;  // nothing to check by default
   virtual cls_Uid UidOf(const void* obj) const;
+  // The metadata of an instance's own (most derived) class; this metadata unless overridden.
+  virtual const cls_ClassMetadata& ClassOf(const void* obj) const;
+  // The instance as a repository (a container of keyed or listed elements), or null when the
+  // class is not one; lets the command layer walk into containers nested in objects.
+  virtual mdl_Repository* AsRepository(void* obj) const;
+  virtual const mdl_Repository* AsRepository(const void* obj) const;
   void Destroy(void* obj) const;
 
  private:

@@ -7,6 +7,7 @@
 
 #include "platform/bas_Alloc.h"
 #include "platform/cls_Family.h"
+#include "platform/mdl_Repository.h"
 
 template <class C>
 class cls_TypedMetadata : public cls_ClassMetadata {
@@ -51,6 +52,19 @@ class cls_TypedMetadata : public cls_ClassMetadata {
     if constexpr (requires(const C& c) { c.AssertValid(); }) Obj(p).AssertValid();
   }
   cls_Uid UidOf(const void* p) const override { return Obj(p).GetUid(); }
+  const cls_ClassMetadata& ClassOf(const void* p) const override {
+    if constexpr (requires(const Root& r) { r.ClassTypeId(); })
+      return cls_MetadataOf(static_cast<const Root*>(p)->ClassTypeId());
+    else return *this;
+  }
+  mdl_Repository* AsRepository(void* p) const override {
+    if constexpr (std::is_base_of_v<mdl_Repository, C>) return static_cast<C*>(static_cast<Root*>(p));
+    else return nullptr;
+  }
+  const mdl_Repository* AsRepository(const void* p) const override {
+    if constexpr (std::is_base_of_v<mdl_Repository, C>) return &Obj(p);
+    else return nullptr;
+  }
 
  protected:
   static const C& Obj(const void* p) { return *static_cast<const C*>(static_cast<const Root*>(p)); }

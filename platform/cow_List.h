@@ -23,7 +23,8 @@ class cow_List {
   std::size_t Length() const noexcept { return box_.IsNull() ? 0 : box_.Get().size(); }
   std::size_t size() const noexcept { return Length(); }
   bool empty() const noexcept { return Length() == 0; }
-  const T& operator[](std::size_t i) const { return Items()[i]; }
+  // const_reference: a list of bools hands out values, not references.
+  typename std::vector<T>::const_reference operator[](std::size_t i) const { return Items()[i]; }
   T& Get(std::size_t i) { return Vec()[i]; }
   const T* GetCArray() const noexcept { return box_.IsNull() ? nullptr : box_.Get().data(); }
   const std::vector<T>& Items() const noexcept {

@@ -22,6 +22,8 @@ struct mdl_MapTraits;  // kClassName, TypeId(), kRepositoryName
 template <class T>
 class mdl_MapString2ObjCow : public mem_Allocated, public mdl_Repository {
  public:
+  using Element = T;
+  using Key = cow_String;
   using Handle = cow_COW<T, cow_Virtual<T>>;
   using Names = mdl_MapTraits<T>;
   using Map = std::map<cow_String, Handle, cow_NaturalLess>;

@@ -288,6 +288,7 @@ template <fw_Persistent T, class P>
 struct fw_Traits<cow_List<cow_COW<T, P>>> {
   using H = cow_COW<T, P>;
   using L = cow_List<H>;
+  using Element = T;  // the declared class of the elements, offered to scripts
   static constexpr int kType = cls_AttrObjectList, kCollection = cls_List1D;
   static void Write(const cls_WriteVisitor& w, const char* n, const L& v) {
     std::vector<const void*> objs;

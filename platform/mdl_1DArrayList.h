@@ -121,6 +121,7 @@ class mdl_1DArrayList : public mem_Allocated, public mdl_Repository {
     auto i = mdl_ParseIntegerKey(key.view());
     return i && Remove(*i);
   }
+  bool Positional() const override { return true; }
 
  private:
   bool InRange(Key i) const noexcept { return i >= 0 && static_cast<std::size_t>(i) < items_.size(); }

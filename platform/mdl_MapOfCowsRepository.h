@@ -22,12 +22,13 @@
 template <class T>
 struct mdl_MapOfCowsTraits;
 
-// The integer a key text stands for: decimal digits with an optional leading '-', within 32 bits.
+// The integer a key text stands for: its canonical decimal form within 32 bits ("7", "-2"; not
+// "07", "+7" or "-0"), so that every key has exactly one text.
 inline std::optional<std::int32_t> mdl_ParseIntegerKey(std::string_view text) {
   std::int32_t v = 0;
   const char* end = text.data() + text.size();
   auto [p, ec] = std::from_chars(text.data(), end, v);
-  if (text.empty() || ec != std::errc() || p != end) return std::nullopt;
+  if (text.empty() || ec != std::errc() || p != end || std::to_string(v) != text) return std::nullopt;
   return v;
 }
 

@@ -24,4 +24,7 @@ class mdl_Repository {
   virtual void InsertNew(const cow_String& key, void* owned) = 0;
   // Recorded as "Remove"; false when the key is absent.
   virtual bool RemoveKey(const cow_String& key) = 0;
+  // True for a list whose keys are positions: InsertNew then inserts before the element at the
+  // key, where a keyed repository puts the element under the key.
+  virtual bool Positional() const { return false; }
 };

@@ -1,0 +1,29 @@
+#pragma once
+// The subcommands of odbattr. Each returns the process exit code: 0 when everything succeeded,
+// 1 when a command failed or an object is invalid, 2 when a file is unusable.
+#include <string>
+
+namespace odbattr {
+
+constexpr int kOk = 0;
+constexpr int kFailed = 1;
+constexpr int kUnusable = 2;
+
+// Runs a script of JSON Lines ("-" reads standard input), one result line per command; with a
+// database file, opens it (or starts an empty one) and saves it at the end.
+int Run(const std::string& script, const std::string& db);
+// Opens (upgrading in memory) and validates every object; prints each failure with its path.
+int Check(const std::string& file);
+// Prints the database, or what a path names in it, as JSON.
+int Dump(const std::string& file, const std::string& path);
+// Writes the file upgraded to the current versions as a new file.
+int Upgrade(const std::string& in, const std::string& out);
+// Lists the registered classes with their type ids, versions and fields.
+int Classes();
+// Builds the example models from the scripts of a directory into a database file and checks it.
+int Example(const std::string& dir, const std::string& db);
+
+// Prints "odbattr: <message>" on standard error.
+void Complain(const std::string& message);
+
+}  // namespace odbattr

@@ -1,0 +1,69 @@
+#include <iostream>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "cli/odbattr_Commands.h"
+#include "cli/odbattr_Progress.h"
+#include "platform/cmd_Session.h"
+#include "platform/dbf_File.h"
+
+namespace odbattr {
+
+namespace {
+
+// "Model-1/adaptiveMeshControls/C-1" or ["Model-1","adaptiveMeshControls","C-1"].
+cmd_Json PathSteps(const std::string& text) {
+  if (!text.empty() && text.front() == '[') return cmd_Json::parse(text);
+  cmd_Json steps = cmd_Json::array();
+  std::size_t from = 0;
+  while (from <= text.size()) {
+    const std::size_t slash = std::min(text.find('/', from), text.size());
+    if (slash > from) steps.push_back(text.substr(from, slash - from));
+    from = slash + 1;
+  }
+  return steps;
+}
+
+}  // namespace
+
+int Dump(const std::string& file, const std::string& path) {
+  ddr_Database db;
+  try {
+    db = dbf_Open(file);
+  } catch (const std::exception& e) {
+    Complain(e.what());
+    return kUnusable;
+  }
+  cmd_Json command = cmd_Json::object();
+  command["op"] = "get";
+  try {
+    command["path"] = PathSteps(path);
+  } catch (const cmd_Json::exception& e) {
+    Complain("the path " + path + " is not a JSON array of steps: " + e.what());
+    return kFailed;
+  }
+  cmd_Session session(std::move(db));
+  const cmd_Json r = session.Execute(command);
+  if (!r["ok"].get<bool>()) {
+    Complain(r["error"]["message"].get<std::string>());
+    return kFailed;
+  }
+  std::cout << r["result"].dump(2) << std::endl;
+  return kOk;
+}
+
+int Upgrade(const std::string& in, const std::string& out) {
+  try {
+    Progress progress("upgrading " + in);
+    progress.Stage("reading, upgrading and writing " + out);
+    dbf_Upgrade(in, out);
+  } catch (const std::exception& e) {
+    Complain(e.what());
+    return kUnusable;
+  }
+  std::cout << in << " upgraded to database version " << dbf_DatabaseVersion() << " as " << out << std::endl;
+  return kOk;
+}
+
+}  // namespace odbattr

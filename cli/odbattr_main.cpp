@@ -24,15 +24,15 @@ int main(int argc, char** argv) {
   CLI::App* check = app.add_subcommand(
       "check", "Open a database file (upgrading it in memory) and validate every object; exit 1 when an object is "
                "invalid, 2 when the file is unusable");
-  check->add_option("FILE", file, "the database file")->required()->check(CLI::ExistingFile);
+  check->add_option("FILE", file, "the database file")->required();
 
   CLI::App* dump = app.add_subcommand("dump", "Print a database file, or what a path names in it, as JSON");
-  dump->add_option("FILE", file, "the database file")->required()->check(CLI::ExistingFile);
+  dump->add_option("FILE", file, "the database file")->required();
   dump->add_option("PATH", path,
                    "steps separated by / (Model-1/adaptiveMeshControls/C-1), or a JSON array of steps");
 
   CLI::App* upgrade = app.add_subcommand("upgrade", "Write a database file upgraded to the current class versions");
-  upgrade->add_option("IN", in, "the database file to read; it is not changed")->required()->check(CLI::ExistingFile);
+  upgrade->add_option("IN", in, "the database file to read; it is not changed")->required();
   upgrade->add_option("OUT", out, "the database file to write")->required();
 
   app.add_subcommand("classes", "List the registered classes with their type ids, versions and fields");
@@ -44,7 +44,12 @@ int main(int argc, char** argv) {
   example->add_option("--db", db, "the database file to write (default: odbattr-example.db in the temporary "
                                   "directory)");
 
-  CLI11_PARSE(app, argc, argv);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& e) {
+    // Help answers 0; any misuse of the command line is an unusable request, like a bad file.
+    return app.exit(e) == 0 ? odbattr::kOk : odbattr::kUnusable;
+  }
 
   int tally = 0;
   QMXOdbAttrEO2_initialize(tally);  // loading the library started it already; this only counts

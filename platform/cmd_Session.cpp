@@ -180,8 +180,8 @@ cmd_Json cmd_Session::Dispatch(const cmd_Json& command) {
     for (const auto& s : Ops()) names.push_back(s.op);
     cmd_Refuse("Unknown op \"" + op + "\"; the ops are " + Join(names));
   }
-  for (const auto& [key, v] : command.items()) {
-    (void)v;
+  for (const auto& item : command.items()) {
+    const std::string& key = item.key();
     if (std::none_of(spec->keys.begin(), spec->keys.end(), [&](const char* k) { return key == k; }))
       cmd_Refuse("The command \"" + op + "\" takes no \"" + key + "\"; it takes " + Join(spec->keys));
   }

@@ -169,3 +169,7 @@ class cmdT_ControlInHolderShortcut
 
 // Registers the test classes and extensions once per test program (after the library started).
 void cmdT_Register();
+// As the first member of a fixture: registers before the fixture's models are made.
+struct cmdT_Registered {
+  cmdT_Registered() { cmdT_Register(); }
+};

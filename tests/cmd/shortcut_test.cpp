@@ -9,6 +9,8 @@
 #include "kad/kadC_AdptMeshDomainInAdptMeshDomContShortcut.h"
 #include "kad/kadC_AdptMeshDomainShortcut.h"
 #include "platform/cls_Record.h"
+#include "platform/cmd_Path.h"
+#include "platform/ddr_Database.h"
 #include "platform/ddr_Model.h"
 #include "platform/omu_ChangeHistory.h"
 #include "tests/cmd/cmdT_Holder.h"
@@ -50,7 +52,6 @@ TEST(KadShortcuts, TypeIdsAreTheRowsOfTheArchitectureTable) {
 class ShortcutTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    cmdT_Register();
     Ctrl c1;
     c1.SetInitialFeatureAngle(12);
     Controls().Insert("C-1", c1);
@@ -60,6 +61,7 @@ class ShortcutTest : public ::testing::Test {
   kadC_AdptMeshCtrlCont& Controls() {
     return dynamic_cast<kadC_AdptMeshCtrlCont&>(*model.ModifyRepository("adaptiveMeshControls"));
   }
+  cmdT_Registered registered;
   ddr_Model model;
 };
 
@@ -186,6 +188,23 @@ TEST_F(ShortcutTest, MemberAndSequenceShortcutsThroughANestedContainer) {
   auto e = qmx_Catch<nex_CmdError>([&] { control.Get(model); });
   EXPECT_STREQ(e.what(), "The shortcut \"holders/H-1/control\" addresses nothing: the member is empty");
   EXPECT_EQ(omu_ChangeHistory::Instance().Size(), 0u);
+
+  // The command layer, given the shortcut's path below the model, reaches the same object.
+  ddr_Database db;
+  db.PutModel("M", ddr_Database::ModelHandle(model));
+  const ddr_Model& inDb = *db.FindModel("M");
+  auto reach = [&](const std::vector<cow_String>& steps) {
+    cmd_Path path{"M"};
+    path.insert(path.end(), steps.begin(), steps.end());
+    const void* reached = nullptr;
+    cmd_WalkConst(db, path, [&](const cmd_Node& n) {
+      reached = n.kind == cmd_Node::kRepository ? static_cast<const void*>(n.repo) : n.obj;
+    });
+    return reached;
+  };
+  EXPECT_EQ(reach(domain.Path()), static_cast<const void*>(domain.ConstGet(inDb)));
+  EXPECT_EQ(reach(domains.Path()), static_cast<const void*>(static_cast<const mdl_Repository*>(domains.ConstGet(inDb))));
+  EXPECT_EQ(reach(holder.Path()), static_cast<const void*>(holder.ConstGet(inDb)));
 
   // Round trip of the three-level path through a record: the kad handle reads the holder's
   // member shortcut through the reader the test registered for it.

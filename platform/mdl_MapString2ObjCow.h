@@ -44,9 +44,13 @@ class mdl_MapString2ObjCow : public mem_Allocated, public mdl_Repository {
     if (keys.size() != values.size())
       nex_ThrowCmd(std::string("The stored container ") + kClassName + " has " + std::to_string(keys.size()) +
                    " keys for " + std::to_string(values.size()) + " elements");
-    for (std::size_t i = 0; i < keys.size(); ++i)
-      if (!items_.emplace(keys[i], values[i]).second)
+    // Keys are stored in the map's order, so each goes at the end: one comparison, not a search.
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+      const std::size_t before = items_.size();
+      items_.emplace_hint(items_.end(), keys[i], values[i]);
+      if (items_.size() == before)
         nex_ThrowCmd(std::string("The stored container ") + kClassName + " holds the key \"" + keys[i].str() + "\" twice");
+    }
   }
   void DBWrite(const cls_WriteVisitor& w) const {
     if (!w.StartWrite(TypeId(), uid_)) return;

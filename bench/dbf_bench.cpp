@@ -1,0 +1,349 @@
+// Saving and opening a model database of N objects (adaptive mesh controls and, one in ten,
+// tables of doubles), each measured against raw SQLite writing and reading the same rows with
+// prepared statements in one transaction, in the same iteration. Counters:
+//   objects_per_s      this library (dbf_Save / dbf_Open)
+//   raw_objects_per_s  the raw baseline
+//   ratio_to_raw       this library's time over the baseline's (the target is at most 1.5)
+// BM_SaveJournal compares the journal modes and page sizes of a whole save into a new file.
+// Files go to $QMX_BENCH_DIR, or the system's temporary directory.
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "bench/bnhT_Table.h"
+#include "kad/kadC_ACWrapper.h"
+#include "platform/dbf_File.h"
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+std::string BenchDir() {
+  const char* env = std::getenv("QMX_BENCH_DIR");
+  std::filesystem::path dir =
+      std::filesystem::path(env ? env : std::filesystem::temp_directory_path().string()) /
+      ("bench_dbf-" + std::to_string(::getpid()));
+  std::filesystem::create_directories(dir);
+  return dir.string();
+}
+
+const std::string& Dir() {
+  static const std::string dir = BenchDir();
+  return dir;
+}
+
+std::int64_t Tables(std::int64_t n) { return n / 10; }
+std::int64_t Controls(std::int64_t n) { return n - Tables(n); }
+
+// One model: controls "C-i" with varied values and tables "T-i" of 16 rows by 2 columns.
+const ddr_Database& Database(std::int64_t n) {
+  static std::map<std::int64_t, std::unique_ptr<ddr_Database>> cache;
+  auto& slot = cache[n];
+  if (slot) return *slot;
+  bnhT_Start();
+  slot = std::make_unique<ddr_Database>();
+  ddr_Model& m = slot->CreateModel("Model-1");
+  auto& controls = dynamic_cast<kadC_AdptMeshCtrlCont&>(*m.ModifyRepository("adaptiveMeshControls"));
+  for (std::int64_t i = 0; i < Controls(n); ++i) {
+    kadC_AdptMeshCtrl c;
+    c.SetInitialFeatureAngle(static_cast<double>(i % 180));
+    c.SetTransitionFeatureAngle(static_cast<double>((i * 7) % 180) + 0.25);
+    c.SetLaplacianSmoothingWeight(static_cast<double>(i) * 1e-6);
+    c.SetSmoothingAlgorithm(static_cast<kadC_AdptMeshCtrl::SmoothingAlgorithmEnm>(i % 3));
+    c.SetAdvection(static_cast<kadC_AdptMeshCtrl::AdvectionEnm>(i % 2));
+    controls.Insert("C-" + std::to_string(i), c);
+  }
+  auto& tables = dynamic_cast<bnhT_TableCont&>(*m.ModifyRepository("benchTables"));
+  for (std::int64_t i = 0; i < Tables(n); ++i) {
+    bnhT_Table t;
+    t.description = "table " + std::to_string(i);
+    t.table = cow_2DArray<double>(16, 2);
+    for (std::size_t r = 0; r < 16; ++r) {
+      t.table(r, 0) = static_cast<double>(r) * 0.1;
+      t.table(r, 1) = static_cast<double>(i + r) * 1.5e3;
+    }
+    tables.Insert("T-" + std::to_string(i), t);
+  }
+  return *slot;
+}
+
+void Check(int rc, sqlite3* db) {
+  if (rc != SQLITE_OK && rc != SQLITE_DONE && rc != SQLITE_ROW) {
+    std::fprintf(stderr, "sqlite: %s\n", sqlite3_errmsg(db));
+    std::abort();
+  }
+}
+
+void Exec(sqlite3* db, const std::string& sql) { Check(sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr), db); }
+
+void HexUid(const cls_Uid& uid, char* out) {
+  static const char* kHex = "0123456789abcdef";
+  std::uint64_t hi = uid.High(), lo = uid.Low();
+  for (int i = 15; i >= 0; --i, hi >>= 4) out[i] = kHex[hi & 0xf];
+  for (int i = 31; i >= 16; --i, lo >>= 4) out[i] = kHex[lo & 0xf];
+}
+
+void JsonKey(std::string& out, const cow_String& key) {
+  out += '"';
+  out.append(key.c_str(), key.size());
+  out += '"';
+}
+
+void FsyncFile(const std::string& path) {
+  int fd = ::open(path.c_str(), O_RDONLY);
+  ::fsync(fd);
+  ::close(fd);
+}
+
+// --- the raw baseline ---------------------------------------------------------------------------
+
+// The same element rows and container rows, bound straight from the objects' getters.
+void RawSave(const ddr_Database& db, const std::string& path, int pageSize) {
+  std::filesystem::remove(path);
+  sqlite3* s = nullptr;
+  Check(sqlite3_open_v2(path.c_str(), &s, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr), s);
+  Exec(s, "PRAGMA page_size = " + std::to_string(pageSize));
+  Exec(s, "PRAGMA synchronous = OFF; PRAGMA locking_mode = EXCLUSIVE; PRAGMA cache_size = -65536; BEGIN");
+  Exec(s,
+       "CREATE TABLE ctrl (OID INTEGER PRIMARY KEY, UID TEXT NOT NULL, advection TEXT, smoothingAlgorithm TEXT,"
+       " smoothingPriority TEXT, initialFeatureAngle REAL, transitionFeatureAngle REAL, momentumAdvection TEXT,"
+       " remeshPredictor TEXT, curvatureRefinement REAL, volumetricSmoothingWeight REAL,"
+       " standardVolumetricSmoothingWeight REAL, laplacianSmoothingWeight REAL, equipotentialSmoothingWeight REAL,"
+       " meshConstraintAngle REAL, originalConfigurationProjectionWeight REAL)");
+  Exec(s, "CREATE TABLE tbl (OID INTEGER PRIMARY KEY, UID TEXT NOT NULL, description TEXT, \"table\" BLOB)");
+  Exec(s, "CREATE TABLE cont (OID INTEGER PRIMARY KEY, UID TEXT NOT NULL, keys TEXT, \"values\" TEXT)");
+  sqlite3_stmt *ctrl, *tbl, *cont;
+  Check(sqlite3_prepare_v2(s, "INSERT INTO ctrl VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)", -1, &ctrl, nullptr), s);
+  Check(sqlite3_prepare_v2(s, "INSERT INTO tbl VALUES (?,?,?,?)", -1, &tbl, nullptr), s);
+  Check(sqlite3_prepare_v2(s, "INSERT INTO cont VALUES (?,?,?,?)", -1, &cont, nullptr), s);
+  const ddr_Model& m = db.GetModels().begin()->second.Get();
+  char uid[32];
+  auto text = [](sqlite3_stmt* st, int i, const char* t) { sqlite3_bind_text(st, i, t, -1, SQLITE_STATIC); };
+  auto insertCont = [&](std::int64_t oid, const std::string& keys, const std::string& values) {
+    sqlite3_bind_int64(cont, 1, oid);
+    sqlite3_bind_text(cont, 2, uid, 32, SQLITE_STATIC);
+    sqlite3_bind_text(cont, 3, keys.data(), static_cast<int>(keys.size()), SQLITE_STATIC);
+    sqlite3_bind_text(cont, 4, values.data(), static_cast<int>(values.size()), SQLITE_STATIC);
+    Check(sqlite3_step(cont), s);
+    sqlite3_reset(cont);
+  };
+  {
+    const auto& controls = dynamic_cast<const kadC_AdptMeshCtrlCont&>(*m.FindRepository("adaptiveMeshControls"));
+    std::string keys = "[", values = "[";
+    std::int64_t oid = 0;
+    for (const auto& [key, h] : controls.Items()) {
+      const kadC_AdptMeshCtrl& c = h.Get();
+      ++oid;
+      HexUid(c.GetUid(), uid);
+      sqlite3_bind_int64(ctrl, 1, oid);
+      sqlite3_bind_text(ctrl, 2, uid, 32, SQLITE_STATIC);
+      text(ctrl, 3, omu_LiteralOf(c.GetAdvection()));
+      text(ctrl, 4, omu_LiteralOf(c.GetSmoothingAlgorithm()));
+      text(ctrl, 5, omu_LiteralOf(c.GetSmoothingPriority()));
+      sqlite3_bind_double(ctrl, 6, c.GetInitialFeatureAngle());
+      sqlite3_bind_double(ctrl, 7, c.GetTransitionFeatureAngle());
+      text(ctrl, 8, omu_LiteralOf(c.GetMomentumAdvection()));
+      text(ctrl, 9, omu_LiteralOf(c.GetRemeshPredictor()));
+      sqlite3_bind_double(ctrl, 10, c.GetCurvatureRefinement());
+      sqlite3_bind_double(ctrl, 11, c.GetVolumetricSmoothingWeight());
+      sqlite3_bind_double(ctrl, 12, c.GetStandardVolumetricSmoothingWeight());
+      sqlite3_bind_double(ctrl, 13, c.GetLaplacianSmoothingWeight());
+      sqlite3_bind_double(ctrl, 14, c.GetEquipotentialSmoothingWeight());
+      sqlite3_bind_double(ctrl, 15, c.GetMeshConstraintAngle());
+      sqlite3_bind_double(ctrl, 16, c.GetOriginalConfigurationProjectionWeight());
+      Check(sqlite3_step(ctrl), s);
+      sqlite3_reset(ctrl);
+      if (oid > 1) keys += ',', values += ',';
+      JsonKey(keys, key);
+      values += "[" + std::to_string(oid) + "," + std::to_string(kadC_AdptMeshCtrl::TypeId()) + "]";
+    }
+    keys += ']', values += ']';
+    HexUid(controls.GetUid(), uid);
+    insertCont(1, keys, values);
+  }
+  {
+    const auto& tables = dynamic_cast<const bnhT_TableCont&>(*m.FindRepository("benchTables"));
+    std::string keys = "[", values = "[", blob;
+    std::int64_t oid = 0;
+    for (const auto& [key, h] : tables.Items()) {
+      const bnhT_Table& t = h.Get();
+      ++oid;
+      HexUid(t.GetUid(), uid);
+      std::uint32_t dims[2] = {static_cast<std::uint32_t>(t.table.Rows()), static_cast<std::uint32_t>(t.table.Columns())};
+      blob.assign(reinterpret_cast<const char*>(dims), 8);
+      blob.append(reinterpret_cast<const char*>(t.table.Data()), 8 * t.table.Rows() * t.table.Columns());
+      sqlite3_bind_int64(tbl, 1, oid);
+      sqlite3_bind_text(tbl, 2, uid, 32, SQLITE_STATIC);
+      sqlite3_bind_text(tbl, 3, t.description.c_str(), static_cast<int>(t.description.size()), SQLITE_STATIC);
+      sqlite3_bind_blob(tbl, 4, blob.data(), static_cast<int>(blob.size()), SQLITE_STATIC);
+      Check(sqlite3_step(tbl), s);
+      sqlite3_reset(tbl);
+      if (oid > 1) keys += ',', values += ',';
+      JsonKey(keys, key);
+      values += "[" + std::to_string(oid) + "," + std::to_string(bnhT_Table::TypeId()) + "]";
+    }
+    keys += ']', values += ']';
+    HexUid(tables.GetUid(), uid);
+    insertCont(2, keys, values);
+  }
+  sqlite3_finalize(ctrl);
+  sqlite3_finalize(tbl);
+  sqlite3_finalize(cont);
+  Exec(s, "COMMIT");
+  sqlite3_close(s);
+  FsyncFile(path);
+}
+
+struct RawControl {
+  std::int64_t oid;
+  std::string uid;
+  std::string enums[5];
+  double values[9];
+};
+struct RawTable {
+  std::int64_t oid;
+  std::string uid, description;
+  std::vector<double> table;
+};
+
+struct RawRows {
+  std::vector<RawControl> controls;
+  std::vector<RawTable> tables;
+  std::vector<std::string> conts;
+};
+
+// Every row and column of the baseline's file, copied out into plain structures.
+void RawRead(const std::string& path, RawRows& rows) {
+  sqlite3* s = nullptr;
+  Check(sqlite3_open_v2(path.c_str(), &s, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr), s);
+  auto str = [](sqlite3_stmt* st, int i) {
+    return std::string(reinterpret_cast<const char*>(sqlite3_column_text(st, i)),
+                       static_cast<std::size_t>(sqlite3_column_bytes(st, i)));
+  };
+  auto& controls = rows.controls;
+  auto& tables = rows.tables;
+  auto& conts = rows.conts;
+  sqlite3_stmt* st;
+  Check(sqlite3_prepare_v2(s, "SELECT * FROM ctrl ORDER BY OID", -1, &st, nullptr), s);
+  static const int kEnumCols[5] = {2, 3, 4, 7, 8};
+  static const int kValueCols[9] = {5, 6, 9, 10, 11, 12, 13, 14, 15};
+  while (sqlite3_step(st) == SQLITE_ROW) {
+    RawControl c;
+    c.oid = sqlite3_column_int64(st, 0);
+    c.uid = str(st, 1);
+    for (int i = 0; i < 5; ++i) c.enums[i] = str(st, kEnumCols[i]);
+    for (int i = 0; i < 9; ++i) c.values[i] = sqlite3_column_double(st, kValueCols[i]);
+    controls.push_back(std::move(c));
+  }
+  sqlite3_finalize(st);
+  Check(sqlite3_prepare_v2(s, "SELECT * FROM tbl ORDER BY OID", -1, &st, nullptr), s);
+  while (sqlite3_step(st) == SQLITE_ROW) {
+    RawTable t;
+    t.oid = sqlite3_column_int64(st, 0);
+    t.uid = str(st, 1);
+    t.description = str(st, 2);
+    const auto* b = static_cast<const unsigned char*>(sqlite3_column_blob(st, 3));
+    int n = sqlite3_column_bytes(st, 3);
+    t.table.assign(reinterpret_cast<const double*>(b + 8), reinterpret_cast<const double*>(b + n));
+    tables.push_back(std::move(t));
+  }
+  sqlite3_finalize(st);
+  Check(sqlite3_prepare_v2(s, "SELECT keys, \"values\" FROM cont ORDER BY OID", -1, &st, nullptr), s);
+  while (sqlite3_step(st) == SQLITE_ROW) conts.push_back(str(st, 0) + str(st, 1));
+  sqlite3_finalize(st);
+  sqlite3_close(s);
+}
+
+double Seconds(Clock::time_point a, Clock::time_point b) { return std::chrono::duration<double>(b - a).count(); }
+
+void Report(benchmark::State& state, std::int64_t n, double ours, double raw) {
+  const double iterations = static_cast<double>(state.iterations());
+  state.counters["objects_per_s"] = static_cast<double>(n) * iterations / ours;
+  state.counters["raw_objects_per_s"] = static_cast<double>(n) * iterations / raw;
+  state.counters["ratio_to_raw"] = ours / raw;
+}
+
+// --- the benchmarks -----------------------------------------------------------------------------
+
+void BM_Save(benchmark::State& state) {
+  const std::int64_t n = state.range(0);
+  const ddr_Database& db = Database(n);
+  const std::string path = Dir() + "/save.odb", raw = Dir() + "/raw-save.sqlite";
+  dbf_SaveOptions options;
+  double ours = 0, base = 0;
+  for (auto _ : state) {
+    auto t0 = Clock::now();
+    dbf_Save(db, path, options);
+    auto t1 = Clock::now();
+    RawSave(db, raw, options.pageSize);
+    auto t2 = Clock::now();
+    ours += Seconds(t0, t1);
+    base += Seconds(t1, t2);
+    state.SetIterationTime(Seconds(t0, t1));
+  }
+  Report(state, n, ours, base);
+}
+
+void BM_Open(benchmark::State& state) {
+  const std::int64_t n = state.range(0);
+  const std::string path = Dir() + "/open-" + std::to_string(n) + ".odb";
+  const std::string raw = Dir() + "/raw-open-" + std::to_string(n) + ".sqlite";
+  dbf_Save(Database(n), path);
+  RawSave(Database(n), raw, dbf_SaveOptions().pageSize);
+  double ours = 0, base = 0;
+  for (auto _ : state) {
+    // What was read is released outside both measures.
+    auto t0 = Clock::now();
+    auto db = std::make_unique<ddr_Database>(dbf_Open(path));
+    auto t1 = Clock::now();
+    auto rows = std::make_unique<RawRows>();
+    RawRead(raw, *rows);
+    auto t2 = Clock::now();
+    benchmark::DoNotOptimize(db.get());
+    benchmark::DoNotOptimize(rows.get());
+    db.reset();
+    rows.reset();
+    ours += Seconds(t0, t1);
+    base += Seconds(t1, t2);
+    state.SetIterationTime(Seconds(t0, t1));
+  }
+  Report(state, n, ours, base);
+}
+
+void BM_SaveJournal(benchmark::State& state) {
+  const std::int64_t n = state.range(0);
+  const ddr_Database& db = Database(n);
+  dbf_SaveOptions options;
+  options.journal = static_cast<dbf_Journal>(state.range(1));
+  options.pageSize = static_cast<int>(state.range(2));
+  const char* names[] = {"rollback", "wal", "off"};
+  state.SetLabel(std::string(names[state.range(1)]) + " journal, " + std::to_string(options.pageSize) + "-byte pages");
+  const std::string path = Dir() + "/journal.odb";
+  for (auto _ : state) {
+    auto t0 = Clock::now();
+    dbf_Save(db, path, options);
+    state.SetIterationTime(Seconds(t0, Clock::now()));
+  }
+  state.counters["objects_per_s"] = benchmark::Counter(static_cast<double>(n), benchmark::Counter::kIsIterationInvariantRate);
+  state.counters["file_MB"] = static_cast<double>(std::filesystem::file_size(path)) / 1e6;
+}
+
+}  // namespace
+
+BENCHMARK(BM_Save)->RangeMultiplier(10)->Range(1000, 1000000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Open)->RangeMultiplier(10)->Range(1000, 1000000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SaveJournal)
+    ->ArgsProduct({{100000}, {0, 1, 2}, {4096, 16384, 65536}})
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+BENCHMARK_MAIN();

@@ -1,0 +1,24 @@
+#pragma once
+// Page checksums for the model database file. SQLite itself notices a damaged structure but not
+// a changed value, so every page of a model database keeps an 8-byte checksum of its contents
+// and its page number in the reserved bytes at its end (the bytes SQLite sets aside for such
+// extensions and never touches). A VFS layered over the platform's default one writes the
+// checksum with each page and verifies it on each page read; a mismatch fails the read with
+// SQLITE_IOERR_DATA. Other files (journals) pass through unchanged. A standard sqlite3 shell
+// reads such files normally; writing them with it leaves stale checksums, which this library
+// then refuses as damage.
+#include <sqlite3.h>
+
+#include <cstddef>
+#include <cstdint>
+
+inline constexpr int dbf_kChecksumBytes = 8;
+
+// The name of the checksumming VFS, registered (not as the default) on first use.
+const char* dbf_ChecksumVfs();
+
+// The page whose checksum failed last on the connection's main file, or 0.
+std::int64_t dbf_ChecksumFailedPage(sqlite3* db);
+
+// The checksum of the first `size` bytes of page `pageNumber` (1-based).
+std::uint64_t dbf_PageChecksum(const unsigned char* page, std::size_t size, std::int64_t pageNumber);

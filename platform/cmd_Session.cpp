@@ -113,6 +113,62 @@ std::vector<cls_RecordPtr> ListOf(const cmd_Node& list) {
 
 bool IsObjectList(const cmd_Node& n) { return n.kind == cmd_Node::kMember && n.field->type == cls_AttrObjectList; }
 
+// What a failed command must put back. A command changes at most one element of a model's
+// repository: it inserts or removes it, or changes something inside it (nested containers and
+// lists included). Keeping a copy of that element (or its absence) before the command runs and
+// putting it back on failure undoes the command at the cost of one element, where a copy of the
+// database would separate a whole repository on the first change. Models are made and removed
+// by single steps that cannot fail halfway, and open replaces the database only when it succeeds.
+class SlotGuard {
+ public:
+  static std::optional<SlotGuard> For(const ddr_Database& db, const cmd_Json& command) {
+    if (!command.is_object() || !command.contains("op")) return std::nullopt;
+    const cmd_Json& op = command["op"];
+    if (op != "create" && op != "set" && op != "delete") return std::nullopt;
+    cmd_Path path;
+    try {
+      path = PathOf(command);
+    } catch (const QMXBasException&) {
+      return std::nullopt;  // the command fails before it changes anything
+    }
+    if (path.size() < 3) return std::nullopt;
+    const ddr_Model* model = db.FindModel(path[0]);
+    const mdl_Repository* repo = model ? model->FindRepository(path[1].view()) : nullptr;
+    if (!repo) return std::nullopt;
+    SlotGuard g(path[0], path[1], path[2], repo->Count());
+    const cls_ClassMetadata* cls = nullptr;
+    if (const void* e = repo->Find(path[2], &cls)) g.saved_ = cmd_OwnedObject(cls->Clone(e), cmd_ObjectDeleter{cls});
+    return g;
+  }
+
+  void Restore(ddr_Database& db) {
+    ddr_Model* model = db.ModifyModel(model_);
+    mdl_Repository* repo = model ? model->ModifyRepository(repo_.view()) : nullptr;
+    if (!repo) return;
+    if (repo->Positional()) {
+      const std::size_t now = repo->Count();
+      if (now > count_) {  // the command inserted an element at the key
+        repo->RemoveKey(key_);
+        return;
+      }
+      if (now < count_) {  // the command removed the element at the key
+        repo->InsertNew(key_, saved_.release());
+        return;
+      }
+    }
+    if (repo->Contains(key_)) repo->RemoveKey(key_);
+    if (saved_) repo->InsertNew(key_, saved_.release());
+  }
+
+ private:
+  SlotGuard(cow_String model, cow_String repo, cow_String key, std::size_t count)
+      : model_(std::move(model)), repo_(std::move(repo)), key_(std::move(key)), count_(count),
+        saved_(nullptr, cmd_ObjectDeleter{nullptr}) {}
+  cow_String model_, repo_, key_;
+  std::size_t count_;
+  cmd_OwnedObject saved_;
+};
+
 cmd_Json ErrorOf(const std::string& kind, const std::string& message, const std::string& file, int line) {
   cmd_Json e = cmd_Json::object();
   e["kind"] = kind;
@@ -139,10 +195,11 @@ cmd_Json cmd_Session::ExecuteLine(std::string_view line) {
 }
 
 cmd_Json cmd_Session::Execute(const cmd_Json& command) {
-  const ddr_Database snapshot = db_;  // shares every model: a copy costs one map of handles
   const std::size_t history = omu_ChangeHistory::Instance().Size();
+  std::optional<SlotGuard> guard;
   cmd_Json error;
   try {
+    guard = SlotGuard::For(db_, command);
     cmd_Json result = Dispatch(command);
     ++succeeded_;
     cmd_Json r = cmd_Json::object();
@@ -161,7 +218,7 @@ cmd_Json cmd_Session::Execute(const cmd_Json& command) {
   } catch (const std::exception& e) {
     error = ErrorOf("Error", e.what(), "", 0);
   }
-  db_ = snapshot;
+  if (guard) guard->Restore(db_);
   omu_ChangeHistory::Instance().Truncate(history);
   ++failed_;
   cmd_Json r = cmd_Json::object();

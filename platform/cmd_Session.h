@@ -9,9 +9,9 @@
 //   {"op":"get","path":[...]}  {"op":"list","path":[...]}  {"op":"validate","path":[...]}
 //   {"op":"delete","path":[...]}  {"op":"save","file":"x.db"}  {"op":"open","file":"x.db"}
 // Each command answers {"ok":true,"result":...} or {"ok":false,"error":{"kind":...,"message":...,
-// "file":...,"line":...}}. A failed command changes nothing: the database is snapshotted before
-// each command (cheaply: models, containers and objects are copy-on-write) and restored on
-// failure, and the change history is cut back to where it was.
+// "file":...,"line":...}}. A failed command changes nothing: the one repository element it may
+// change is copied before it runs and put back on failure, and the change history is cut back to
+// where it was.
 #include <cstddef>
 #include <string_view>
 

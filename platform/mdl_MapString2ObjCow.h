@@ -113,6 +113,7 @@ class mdl_MapString2ObjCow : public mem_Allocated, public mdl_Repository {
 
   // --- mdl_Repository ---
   const char* RepositoryName() const override { return Names::kRepositoryName; }
+  std::size_t Count() const override { return items_.size(); }
   const cls_ClassMetadata& ElementClass() const override { return cls_MetadataOf(T::kClassName); }
   std::vector<cow_String> Keys() const override {
     std::vector<cow_String> keys;

@@ -2,6 +2,7 @@
 // The type-erased face of a repository, through which the command layer and the database file
 // reach any container's elements without knowing the element class. Element pointers point at
 // the root class of the element's family, as cls_ClassMetadata hands them out.
+#include <cstddef>
 #include <vector>
 
 #include "platform/cls_ClassMetadata.h"
@@ -24,6 +25,8 @@ class mdl_Repository {
   virtual void InsertNew(const cow_String& key, void* owned) = 0;
   // Recorded as "Remove"; false when the key is absent.
   virtual bool RemoveKey(const cow_String& key) = 0;
+  // The number of elements.
+  virtual std::size_t Count() const { return Keys().size(); }
   // True for a list whose keys are positions: InsertNew then inserts before the element at the
   // key, where a keyed repository puts the element under the key.
   virtual bool Positional() const { return false; }

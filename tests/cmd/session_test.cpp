@@ -83,6 +83,44 @@ TEST_F(SessionTest, AFailedCommandChangesNothing) {
   EXPECT_TRUE(s.Database() == before);
 }
 
+// Commands change their element in place: the container is not copied for each command (which
+// would make a script quadratic in the size of its containers), failed or not.
+TEST_F(SessionTest, CommandsDoNotCopyTheContainer) {
+  const mdl_Repository* container = s.Database().FindModel("M")->FindRepository("adaptiveMeshControls");
+  cmdT_Ok(s, R"({"op":"create","path":["M","adaptiveMeshControls","C-2"],"type":"AdaptiveMeshControl"})");
+  cmdT_Ok(s, R"({"op":"set","path":["M","adaptiveMeshControls","C-1","curvatureRefinement"],"value":3})");
+  cmdT_Fails(s, R"({"op":"set","path":["M","adaptiveMeshControls","C-1"],"values":{"curvatureRefinement":4,"remapping":"x"}})");
+  cmdT_Ok(s, R"({"op":"delete","path":["M","adaptiveMeshControls","C-2"]})");
+  EXPECT_EQ(s.Database().FindModel("M")->FindRepository("adaptiveMeshControls"), container);
+  EXPECT_EQ(Control("C-1").GetCurvatureRefinement(), 3);
+}
+
+TEST_F(SessionTest, FailuresInsidePositionsAndNestedContainersAreUndone) {
+  for (int f : {1, 2, 3})
+    cmdT_Ok(s, R"({"op":"create","path":["M","domainList",)" + std::to_string(f - 1) +
+                   R"(],"type":"AdaptiveMeshDomain","values":{"frequency":)" + std::to_string(f) + "}}");
+  cmdT_Ok(s, R"({"op":"create","path":["M","holders","H"],"type":"Holder"})");
+  cmdT_Ok(s, R"({"op":"create","path":["M","holders","H","domains","D-1"],"type":"AdaptiveMeshDomain"})");
+  const ddr_Database before = s.Database();
+  const std::size_t history = omu_ChangeHistory::Instance().Size();
+  const char* failing[] = {
+      // the first value goes in before the second is refused
+      R"({"op":"set","path":["M","domainList",1],"values":{"frequency":7,"meshSweeps":"x"}})",
+      R"({"op":"create","path":["M","domainList",1],"type":"AdaptiveMeshDomain","values":{"meshSweeps":"x"}})",
+      R"({"op":"set","path":["M","domainList",1],"type":"AdaptiveMeshDomain","values":{"nothing":1}})",
+      R"({"op":"delete","path":["M","domainList",3]})",
+      R"({"op":"create","path":["M","holders","H","domains","D-2"],"type":"AdaptiveMeshDomain","values":{"frequency":1.5}})",
+      R"({"op":"set","path":["M","holders","H"],"values":{"label":"changed","control":{"type":"Holder"}}})",
+      R"({"op":"set","path":["M","holders","H","domains","D-1"],"values":{"controls":"C-1","frequency":"often"}})",
+  };
+  for (const char* line : failing) {
+    SCOPED_TRACE(line);
+    cmdT_Fails(s, line);
+    EXPECT_TRUE(s.Database() == before);
+    EXPECT_EQ(omu_ChangeHistory::Instance().Size(), history);
+  }
+}
+
 TEST_F(SessionTest, EnumerationsTakeTheirLiteralOrTheirValue) {
   struct Case {
     const char* value;

@@ -95,6 +95,8 @@ void dbf_Reader::CheckFile(const std::string& path) {
   if (h.userVersion > static_cast<std::uint32_t>(dbf_DatabaseVersion()))
     nex_ThrowCmd(std::string("the file was written by a newer library (database version ") + std::to_string(h.userVersion) +
                  "; this library reads versions up to " + std::to_string(dbf_DatabaseVersion()) + ")");
+  if (h.pageSize < 512 || h.pageSize > 65536 || (h.pageSize & (h.pageSize - 1)) != 0)
+    Damaged(std::string("its header gives the page size ") + std::to_string(h.pageSize));
   if (h.reservedBytes != dbf_kChecksumBytes) Damaged("its pages carry no checksums");
   const std::uintmax_t expected = std::uintmax_t(h.pageCount) * h.pageSize;
   if (h.pageCount != 0 && expected > size)
@@ -234,7 +236,24 @@ void dbf_Reader::PrepareTable(dbf_ReadTable& t) {
   std::int64_t lo = sqlite3_column_int64(range.Get(), 0), hi = sqlite3_column_int64(range.Get(), 1);
   if (empty ? t.rows != 0 : (lo != 1 || hi != t.rows))
     Damaged("the rows of class " + t.className + " are not numbered 1 to " + std::to_string(t.rows));
-  t.seen.assign(static_cast<std::size_t>(t.rows) + 1, 0);
+}
+
+bool dbf_Reader::MarkLoaded(dbf_ReadTable& t, std::int64_t oid) {
+  const auto i = static_cast<std::size_t>(oid);
+  if (i >= t.seen.size() && i <= 2 * t.seen.size() + 4096) t.seen.resize(std::max(i + 1, 2 * t.seen.size()), 0);
+  if (i < t.seen.size()) {
+    if (t.seen[i] || (!t.seenSparse.empty() && t.seenSparse.count(oid))) return false;
+    t.seen[i] = 1;
+    return true;
+  }
+  return t.seenSparse.insert(oid).second;
+}
+
+dbf_Reader::Nesting::Nesting(dbf_Reader& r) : reader_(r) {
+  if (++reader_.depth_ > kMaxDepth) {
+    --reader_.depth_;
+    Damaged(std::string("its objects nest more than ") + std::to_string(kMaxDepth) + " levels deep");
+  }
 }
 
 dbf_ReadTable& dbf_Reader::TableOf(std::uint32_t storedClassId) const {
@@ -268,9 +287,8 @@ void dbf_Reader::Load(const dbf_Ref& ref, dbf_LoadedRow& row) {
   if (ref.oid < 1 || ref.oid > t.rows)
     Damaged(std::string("it refers to row ") + std::to_string(ref.oid) + " of class " + t.className + ", which holds " +
             std::to_string(t.rows) + " rows");
-  unsigned char& seen = t.seen[static_cast<std::size_t>(ref.oid)];
-  if (seen) Damaged(std::string("row ") + std::to_string(ref.oid) + " of class " + t.className + " is held twice");
-  seen = 1;
+  if (!MarkLoaded(t, ref.oid))
+    Damaged(std::string("row ") + std::to_string(ref.oid) + " of class " + t.className + " is held twice");
   ++t.loaded;
   sqlite3_stmt* s = Position(t, ref.oid);
   if (!s) Damaged(std::string("row ") + std::to_string(ref.oid) + " of class " + t.className + " is missing");
@@ -389,7 +407,7 @@ void dbf_Reader::Upgrade(dbf_LoadedRow& row) {
     if (ref.oid == 0) return nullptr;
     auto rec = std::make_shared<cls_Record>();
     rec->typeId = CurrentTypeId(ref.classId);
-    up->stubs.emplace(rec.get(), ref);
+    up->stubs.emplace(rec.get(), std::pair{cls_RecordPtr(rec), ref});
     return rec;
   };
   for (std::size_t i = 0; i < t.fields.size(); ++i) {

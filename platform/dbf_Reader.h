@@ -14,6 +14,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "platform/cls_ClassMetadata.h"
@@ -47,7 +48,10 @@ struct dbf_ReadTable {
   bool scanStarted = false;
   bool scanDone = false;
   std::int64_t scanOid = 0;
-  std::vector<unsigned char> seen;  // by OID
+  // The rows loaded so far, by OID: densely while OIDs come in order, as a set beyond that, so
+  // that a row count a damaged catalog inflates costs no memory.
+  std::vector<unsigned char> seen;
+  std::unordered_set<std::int64_t> seenSparse;
   std::int64_t loaded = 0;
 };
 
@@ -55,7 +59,9 @@ struct dbf_ReadTable {
 struct dbf_LoadedRow {
   struct Upgraded {
     cls_Record record;  // the row as the conversions left it; member objects are stub records
-    std::unordered_map<const cls_Record*, dbf_Ref> stubs;
+    // Each stub with the row it stands for. Holding the stub keeps its address from being
+    // reused by a record a conversion makes.
+    std::unordered_map<const cls_Record*, std::pair<cls_RecordPtr, dbf_Ref>> stubs;
   };
   dbf_ReadTable* table = nullptr;
   std::int64_t oid = 0;
@@ -79,6 +85,19 @@ class dbf_Reader {
 
   // --- for row readers ---
   void Load(const dbf_Ref& ref, dbf_LoadedRow& row);
+  // Counts the nesting of member objects being read; refuses a depth no model reaches, before
+  // the reading recursion could exhaust the stack.
+  class Nesting {
+   public:
+    explicit Nesting(dbf_Reader& r);
+    ~Nesting() { --reader_.depth_; }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+
+   private:
+    dbf_Reader& reader_;
+  };
+  static constexpr int kMaxDepth = 256;
   // Today's type id of a stored class id.
   unsigned CurrentTypeId(std::uint32_t storedClassId) const;
 
@@ -92,11 +111,13 @@ class dbf_Reader {
   sqlite3_stmt* Position(dbf_ReadTable& t, std::int64_t oid);
   void Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row);
   void Upgrade(dbf_LoadedRow& row);
+  // False when the row was loaded before.
+  static bool MarkLoaded(dbf_ReadTable& t, std::int64_t oid);
 
   const dbc_UpgradeDriver& driver_;
   std::unique_ptr<dbf_Connection> conn_;
   int databaseVersion_ = 0;
   std::vector<std::unique_ptr<dbf_ReadTable>> tables_;
   std::unordered_map<std::uint32_t, dbf_ReadTable*> byStoredId_;
-  std::vector<char> scratch_;
+  int depth_ = 0;
 };

@@ -38,8 +38,10 @@ void Save(const std::vector<dbf_Root>& roots, const std::string& path, const dbf
     dbf_Connection conn(file.TempPath(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX,
                         dbf_ChecksumVfs());
     conn.Exec(std::string("PRAGMA page_size = ") + std::to_string(page));
-    int reserve = dbf_kChecksumBytes;
+    int reserve = dbf_kChecksumBytes, reserved = -1;
     sqlite3_file_control(conn.Get(), "main", SQLITE_FCNTL_RESERVE_BYTES, &reserve);
+    sqlite3_file_control(conn.Get(), "main", SQLITE_FCNTL_RESERVE_BYTES, &reserved);
+    if (reserved != dbf_kChecksumBytes) nex_ThrowCmd("SQLite does not reserve the bytes of the page checksums");
     conn.Exec(std::string("PRAGMA journal_mode = ") + JournalMode(options.journal));
     // The file is synced once, whole, before it is renamed into place.
     conn.Exec("PRAGMA synchronous = OFF");

@@ -71,6 +71,7 @@ cow_2DArray<double> dbf_RowReader::ReadDoubleTable(const char* name) const {
 
 template <class F>
 void dbf_RowReader::WithChild(const dbf_Ref& ref, dbf_LoadedRow& child, F fn) const {
+  dbf_Reader::Nesting nesting(reader_);
   reader_.Load(ref, child);
   dbf_RowReader r(reader_, child);
   fn(r);
@@ -80,13 +81,12 @@ bool dbf_RowReader::ReadObject(const char* name, const cls_ReadFn& fn) const {
   dbf_LoadedRow child;
   if (row_.upgraded) {
     const cls_Value* v = row_.upgraded->record.Find(name);
-    if (!v) Get<cls_RecordPtr>(name, "object");  // refuses the missing field
-    if (std::holds_alternative<std::monostate>(*v)) return false;
-    const cls_RecordPtr& p = Get<cls_RecordPtr>(name, "object");
+    if (v && std::holds_alternative<std::monostate>(*v)) return false;
+    const cls_RecordPtr& p = Get<cls_RecordPtr>(name, "object");  // refuses a missing field
     if (!p) return false;
     auto stub = row_.upgraded->stubs.find(p.get());
     if (stub == row_.upgraded->stubs.end()) fn(cls_RecordReader(*p));  // made by a conversion
-    else WithChild(stub->second, child, fn);
+    else WithChild(stub->second.second, child, fn);
     return true;
   }
   long i = Index(name);
@@ -115,7 +115,7 @@ std::size_t dbf_RowReader::ReadObjectList(const char* name, const cls_ReadListFn
         cls_RecordReader r(*p);
         fn(k, &r);
       } else {
-        WithChild(stub->second, child, [&](const cls_ReadVisitor& r) { fn(k, &r); });
+        WithChild(stub->second.second, child, [&](const cls_ReadVisitor& r) { fn(k, &r); });
       }
     }
     return list.size();

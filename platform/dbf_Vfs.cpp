@@ -69,6 +69,9 @@ int Read(sqlite3_file* f, void* buf, int amount, sqlite3_int64 offset) {
 
 int Write(sqlite3_file* f, const void* buf, int amount, sqlite3_int64 offset) {
   if (!Ck(f)->mainDb || !IsPage(amount, offset)) return M(f)->xWrite(Real(f), buf, amount, offset);
+  // A first page whose header reserves no room for the checksum means every page would lose its
+  // last bytes to it: refuse the write rather than damage the file.
+  if (offset == 0 && static_cast<const unsigned char*>(buf)[20] != dbf_kChecksumBytes) return SQLITE_IOERR_WRITE;
   CkFile* ck = Ck(f);
   if (ck->scratchSize < amount) {
     void* grown = sqlite3_realloc(ck->scratch, amount);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <random>
 
@@ -119,6 +120,25 @@ TEST_F(DbRefusal, EveryFlippedByteIsCaught) {
     damaged += reason.find("damaged") != std::string::npos;
   }
   EXPECT_GE(damaged, static_cast<int>(offsets.size()) - 4);  // a few header bytes read as "not a model database"
+  // Header fields that the file's size and layout hang on.
+  struct Header {
+    std::size_t at;
+    unsigned char value;
+    std::string reason;
+  };
+  const Header headers[] = {
+      {16, 0x00, "the file is damaged (its header gives the page size 0)"},
+      {17, 0x01, "the file is damaged (its header gives the page size 16385)"},
+      {20, 0x00, "the file is damaged (its pages carry no checksums)"},
+      {31, 0xff, "the file is damaged (truncated: it holds " + std::to_string(bytes_.size()) + " of its "},
+  };
+  for (const Header& h : headers) {
+    auto changed = bytes_;
+    changed[h.at] = h.value;
+    dbtT_WriteBytes(Path("header.odb"), changed);
+    const std::string reason = Reason(Path("header.odb"));
+    EXPECT_EQ(reason.substr(0, h.reason.size()), h.reason) << h.at;
+  }
   // One flipped bit in a stored double, which SQLite alone would read without complaint.
   dbtT_Edit(good_, "UPDATE kadC_AdptMeshCtrl SET initialFeatureAngle = 1234.5 WHERE OID = 7");
   auto edited = dbtT_ReadBytes(good_);
@@ -184,6 +204,17 @@ TEST_F(DbRefusal, RowsThatContradictTheFormat) {
        "the file is damaged (1 of the 301 rows of class kadC_AdptMeshCtrl belong to nothing it holds)"},
       {"rows beyond the catalog", "DELETE FROM kadC_AdptMeshCtrl WHERE OID = 300",
        "the file is damaged (the rows of class kadC_AdptMeshCtrl are not numbered 1 to 300)"},
+      {"a row count inflated past memory",
+       "UPDATE kadC_AdptMeshCtrl SET OID = 1000000000000 WHERE OID = 300;"
+       "UPDATE dbf_Catalog SET rows = 1000000000000 WHERE name = 'kadC_AdptMeshCtrl';"
+       "UPDATE kadC_AdptMeshCtrlCont SET \"values\" = json_set(\"values\", '$[#-1]', json('[1000000000000," + ctrl +
+           "]')) WHERE OID = 1",
+       "the file is damaged (999999999700 of the 1000000000000 rows of class kadC_AdptMeshCtrl belong to nothing it "
+       "holds)"},
+      {"reference to a missing row",
+       "UPDATE kadC_AdptMeshCtrl SET OID = 301 WHERE OID = 300;"
+       "UPDATE dbf_Catalog SET rows = 301 WHERE name = 'kadC_AdptMeshCtrl'",
+       "the file is damaged (row 300 of class kadC_AdptMeshCtrl is missing)"},
       {"reference to a missing class", "UPDATE dbtT_Sample SET \"fixed#ClassID\" = 12345 WHERE OID = 1",
        "the file is damaged (it refers to class id 12345, which its catalog lacks)"},
       {"reference past the rows", "UPDATE dbtT_Sample SET \"fixed#OID\" = 99 WHERE OID = 1",
@@ -211,6 +242,22 @@ TEST_F(DbRefusal, RowsThatContradictTheFormat) {
     dbtT_Edit(f, c.sql);
     EXPECT_EQ(Reason(f), c.reason);
   }
+}
+
+TEST_F(DbRefusal, ObjectsNestedDeeperThanAnyModelAreRefused) {
+  ddr_Database db = dbtT_MakeDatabase(1);
+  auto* samples = dynamic_cast<dbtT_SampleCont*>(db.ModifyModel("Model-1")->ModifyRepository("samples"));
+  dbtT_Detail chain(0, "deepest");
+  for (int i = 1; i < 300; ++i) {
+    dbtT_Detail outer(i, "level");
+    outer.SetInner(chain);
+    chain = outer;
+  }
+  dbtT_Sample deep;
+  deep.detail = dbtT_Detail::Handle(chain);
+  samples->Insert("Deep", deep);
+  dbf_Save(db, Path("deep.odb"));
+  EXPECT_EQ(Reason(Path("deep.odb")), "the file is damaged (its objects nest more than 256 levels deep)");
 }
 
 TEST_F(DbRefusal, AFailedOpenLeavesTheCallersDatabaseAlone) {

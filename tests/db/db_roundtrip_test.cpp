@@ -47,7 +47,8 @@ TEST_F(DbRoundTrip, EveryRegisteredClassThroughTheGenericObjectPath) {
   std::vector<dbf_Root> roots;
   int filledFields = 0;
   for (const cls_ClassMetadata* md : cls_ClassRegistrar::Instance().All()) {
-    if (!md->CanConstruct()) continue;
+    // Classes that the atomic-save tests of this program register to break the rules on purpose.
+    if (!md->CanConstruct() || md->Name().view().starts_with("dbtT_Rogue")) continue;
     int fields = 0;
     objects.push_back(std::make_unique<Owned>(md, md->NewDefault()));
     roots.push_back(dbf_Root{md->Name().str() + "/default", md, objects.back()->obj});

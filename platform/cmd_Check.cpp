@@ -52,7 +52,8 @@ void cmd_Checker::Object(const cmd_Path& path, const void* obj, const cls_ClassM
   }
   ++checked_;
   if (progress_) progress_(checked_);
-  Nested(path, obj, md);
+  if (const mdl_Repository* repo = md.AsRepository(obj)) Repository(path, *repo);  // a container as an element
+  else Nested(path, obj, md);
 }
 
 void cmd_Checker::Nested(const cmd_Path& path, const void* obj, const cls_ClassMetadata& md) {

@@ -87,9 +87,14 @@ class Walker {
         const cls_ClassMetadata* cls = nullptr;
         void* o = modify_ ? n.repo->Modify(step, &cls) : const_cast<void*>(n.repo->Find(step, &cls));
         cmd_Node c = Below(n);
-        c.kind = cmd_Node::kObject;
-        c.obj = o;
-        c.md = cls;
+        if (mdl_Repository* r = cls->AsRepository(o)) {  // an element that is itself a container
+          c.kind = cmd_Node::kRepository;
+          c.repo = r;
+        } else {
+          c.kind = cmd_Node::kObject;
+          c.obj = o;
+          c.md = cls;
+        }
         return Next(c, i + 1);
       }
       case cmd_Node::kObject:

@@ -18,6 +18,12 @@ struct mdl_WrapperTraits<cmdT_NumberedControls> {
   static constexpr unsigned TypeId() { return fw_TypeId(kCmdTestKey, 6); }
 };
 template <>
+struct mdl_WrapperTraits<cmdT_DomainGroups> {
+  static constexpr const char* kClassName = "cmdT_DomainGroupsWrapper";
+  static constexpr int kVersion = 1;
+  static constexpr unsigned TypeId() { return fw_TypeId(kCmdTestKey, 9); }
+};
+template <>
 struct mdl_WrapperTraits<cmdT_DomainList> {
   static constexpr const char* kClassName = "cmdT_DomainListWrapper";
   static constexpr int kVersion = 1;
@@ -52,10 +58,13 @@ void cmdT_Register() {
     mdl_ExtensionWrapper<cmdT_HolderCont>::InitializeMetadata(reg);
     mdl_ExtensionWrapper<cmdT_NumberedControls>::InitializeMetadata(reg);
     mdl_ExtensionWrapper<cmdT_DomainList>::InitializeMetadata(reg);
+    cmdT_DomainGroups::InitializeMetadata(reg);
+    mdl_ExtensionWrapper<cmdT_DomainGroups>::InitializeMetadata(reg);
     ddr_RegisterShortcutReader<cmdT_DomContInHolderShortcut>();
     ddr_Model::RegisterExtension(mdl_ExtensionWrapper<cmdT_HolderCont>());
     ddr_Model::RegisterExtension(mdl_ExtensionWrapper<cmdT_NumberedControls>());
     ddr_Model::RegisterExtension(mdl_ExtensionWrapper<cmdT_DomainList>());
+    ddr_Model::RegisterExtension(mdl_ExtensionWrapper<cmdT_DomainGroups>());
     return true;
   }();
   (void)done;

@@ -118,6 +118,17 @@ struct mdl_1DArrayListTraits<kadC_AdptMeshDomain> {
 };
 using cmdT_DomainList = mdl_1DArrayList<kadC_AdptMeshDomain>;
 
+// Containers as the elements of a repository ("domainGroups"), the way an object that holds
+// several named containers offers them.
+template <>
+struct mdl_MapTraits<kadC_AdptMeshDomCont> {
+  static constexpr const char* kClassName = "cmdT_DomainGroups";
+  static constexpr const char* kRepositoryName = "domainGroups";
+  static constexpr int kVersion = 1;
+  static constexpr unsigned TypeId() { return fw_TypeId(kCmdTestKey, 8); }
+};
+using cmdT_DomainGroups = mdl_MapString2ObjCow<kadC_AdptMeshDomCont>;
+
 // --- shortcuts through the holder: a member shortcut places a kad domain container ------------
 
 class cmdT_HolderContIMPLSC : public ddr_ShortcutIMPL<cmdT_HolderCont> {

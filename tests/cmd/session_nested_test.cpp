@@ -48,6 +48,22 @@ TEST_F(NestedTest, AContainerInsideAnObject) {
   EXPECT_EQ(Holder().Domains().Size(), 0u);
 }
 
+// A repository whose elements are containers: the path goes from the element on into it.
+TEST_F(NestedTest, AContainerAsAnElement) {
+  auto& groups = dynamic_cast<cmdT_DomainGroups&>(*s.Database().ModifyModel("M")->ModifyRepository("domainGroups"));
+  groups.Insert("G-1", kadC_AdptMeshDomCont());
+  cmdT_Ok(s, R"({"op":"create","path":["M","domainGroups","G-1","D-1"],"type":"AdaptiveMeshDomain"})");
+  cmdT_Ok(s, R"({"op":"set","path":["M","domainGroups","G-1","D-1","meshSweeps"],"value":0})");
+  EXPECT_EQ(Get(R"(["M","domainGroups","G-1","D-1","meshSweeps"])"), 0);
+  EXPECT_EQ(cmdT_Ok(s, R"({"op":"list","path":["M","domainGroups","G-1"]})"), cmd_Json::parse(R"(["D-1"])"));
+  EXPECT_EQ(Get(R"(["M","domainGroups"])")["G-1"]["D-1"]["meshSweeps"], 0);
+  const cmd_Json e = cmdT_Fails(s, R"({"op":"validate","path":["M","domainGroups"]})");
+  EXPECT_EQ(e["message"], "Sweeps per increment must be greater than zero.");
+  EXPECT_EQ(e["path"], cmd_Json::parse(R"(["M","domainGroups","G-1","D-1"])"));
+  EXPECT_EQ(cmdT_Fails(s, R"({"op":"get","path":["M","domainGroups","G-1","D-2"]})")["message"],
+            R"(There is no "D-2" in adaptiveMeshDomains)");
+}
+
 TEST_F(NestedTest, AnOptionalMemberObjectIsCreatedSetAndCleared) {
   EXPECT_EQ(Get(R"(["M","holders","H","control"])"), nullptr);
   EXPECT_EQ(cmdT_Fails(s, R"({"op":"set","path":["M","holders","H","control","remapping"],"value":0})")["message"],

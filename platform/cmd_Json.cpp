@@ -256,12 +256,22 @@ const cls_ClassMetadata& cmd_ClassForConstructor(const std::string& scriptName, 
   if (!md || scriptName.empty()) cmd_Refuse("There is no constructor \"" + scriptName + "\"");
   if (!md->IsA(declared))
     cmd_Refuse(cmd_ClassLabel(*md) + " cannot stand where " + cmd_ClassLabel(declared) + " is expected");
-  if (!md->CanConstruct()) cmd_Refuse(cmd_ClassLabel(*md) + " cannot be constructed; name one of its kinds");
+  if (!md->CanConstruct())
+    cmd_Refuse(cmd_ClassLabel(*md) + " cannot be constructed; name one of its kinds: " + cmd_ConstructorNames(*md));
   return *md;
 }
 
+std::string cmd_ConstructorNames(const cls_ClassMetadata& declared) {
+  std::string names;
+  for (const cls_ClassMetadata* md : cls_ClassRegistrar::Instance().All())
+    if (*md->ScriptName() && md->CanConstruct() && md->IsA(declared))
+      names += (names.empty() ? "" : ", ") + std::string(md->ScriptName());
+  return names.empty() ? "none" : names;
+}
+
 cmd_OwnedObject cmd_NewObject(const cls_ClassMetadata& md, const cmd_Json* values) {
-  if (!md.CanConstruct()) cmd_Refuse(cmd_ClassLabel(md) + " cannot be constructed; name one of its kinds");
+  if (!md.CanConstruct())
+    cmd_Refuse(cmd_ClassLabel(md) + " cannot be constructed; name one of its kinds: " + cmd_ConstructorNames(md));
   cmd_OwnedObject obj(md.NewDefault(), cmd_ObjectDeleter{&md});
   if (values) cmd_SetValues(obj.get(), md, *values);
   return obj;

@@ -6,6 +6,7 @@
 // accepted on input everywhere).
 #include <cstddef>
 #include <memory>
+#include <string>
 
 #include <nlohmann/json_fwd.hpp>
 
@@ -32,6 +33,10 @@ void cmd_SetValues(void* obj, const cls_ClassMetadata& md, const cmd_Json& value
 // The class a scripting constructor name stands for, which must be `declared` or one of its kinds
 // and constructible.
 const cls_ClassMetadata& cmd_ClassForConstructor(const std::string& scriptName, const cls_ClassMetadata& declared);
+
+// The scripting constructors that make a `declared` (it and its kinds), in registration order,
+// separated by ", ".
+std::string cmd_ConstructorNames(const cls_ClassMetadata& declared);
 
 // A new object (owned by the caller; release it through md.Destroy) of class md, with defaults and
 // then the given values.

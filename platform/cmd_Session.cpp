@@ -269,8 +269,8 @@ cmd_Json cmd_Session::Create(const cmd_Json& command) {
       if (!parent.repo->Positional() && parent.repo->Contains(last))
         cmd_Refuse(std::string(parent.repo->RepositoryName()) + " already holds \"" + last.str() + "\"");
       if (!type)
-        cmd_Refuse("A new element of " + std::string(parent.repo->RepositoryName()) +
-                   " needs a \"type\": its constructor, such as " + cmd_ClassLabel(parent.repo->ElementClass()));
+        cmd_Refuse("A new element of " + std::string(parent.repo->RepositoryName()) + " needs a \"type\": " +
+                   cmd_ConstructorNames(parent.repo->ElementClass()));
       const cls_ClassMetadata& cls = cmd_ClassForConstructor(*type, parent.repo->ElementClass());
       cmd_OwnedObject obj = cmd_NewObject(cls, values);
       parent.repo->InsertNew(last, obj.release());

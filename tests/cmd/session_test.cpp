@@ -212,7 +212,7 @@ TEST_F(SessionTest, APathThatNamesNothingIsRefusedByItsStep) {
       {R"({"op":"create","path":["M","adaptiveMeshControls","C-1"],"type":"AdaptiveMeshControl"})",
        R"(adaptiveMeshControls already holds "C-1")"},
       {R"({"op":"create","path":["M","adaptiveMeshControls","C-2"]})",
-       R"(A new element of adaptiveMeshControls needs a "type": its constructor, such as AdaptiveMeshControl)"},
+       R"(A new element of adaptiveMeshControls needs a "type": AdaptiveMeshControl)"},
       {R"({"op":"create","path":["M","adaptiveMeshControls","C-2"],"type":"AdaptiveMeshDomain"})",
        "AdaptiveMeshDomain cannot stand where AdaptiveMeshControl is expected"},
       {R"({"op":"create","path":["M","adaptiveMeshControls","C-2"],"type":"Mesh"})", R"(There is no constructor "Mesh")"},

@@ -26,13 +26,13 @@ struct ValidationFailure {
   std::size_t count;
 };
 
-struct OpSpec {
+struct OpKeys {
   const char* op;
   std::vector<const char*> keys;
 };
 
-const std::vector<OpSpec>& Ops() {
-  static const std::vector<OpSpec> kOps = {
+const std::vector<OpKeys>& Ops() {
+  static const std::vector<OpKeys> kOps = {
       {"create", {"op", "path", "type", "values"}},
       {"set", {"op", "path", "type", "values", "value"}},
       {"get", {"op", "path"}},
@@ -231,16 +231,16 @@ cmd_Json cmd_Session::Dispatch(const cmd_Json& command) {
   if (!command.is_object()) cmd_Refuse("A command is a JSON object, not " + command.dump());
   if (!command.contains("op") || !command["op"].is_string()) cmd_Refuse("The command has no \"op\"");
   const std::string op = command["op"].get<std::string>();
-  auto spec = std::find_if(Ops().begin(), Ops().end(), [&](const OpSpec& s) { return op == s.op; });
-  if (spec == Ops().end()) {
+  auto entry = std::find_if(Ops().begin(), Ops().end(), [&](const OpKeys& s) { return op == s.op; });
+  if (entry == Ops().end()) {
     std::vector<const char*> names;
     for (const auto& s : Ops()) names.push_back(s.op);
     cmd_Refuse("Unknown op \"" + op + "\"; the ops are " + Join(names));
   }
   for (const auto& item : command.items()) {
     const std::string& key = item.key();
-    if (std::none_of(spec->keys.begin(), spec->keys.end(), [&](const char* k) { return key == k; }))
-      cmd_Refuse("The command \"" + op + "\" takes no \"" + key + "\"; it takes " + Join(spec->keys));
+    if (std::none_of(entry->keys.begin(), entry->keys.end(), [&](const char* k) { return key == k; }))
+      cmd_Refuse("The command \"" + op + "\" takes no \"" + key + "\"; it takes " + Join(entry->keys));
   }
   if (op == "create") return Create(command);
   if (op == "set") return Set(command);

@@ -11,7 +11,6 @@
 // PRAGMA application_id of every model database: "QMXA".
 inline constexpr std::uint32_t dbf_kApplicationId = 0x514D5841;
 inline constexpr const char* dbf_kFormatName = "QMXOdbAttr model database";
-inline constexpr int dbf_kDefaultPageSize = 65536;
 
 // The file's own tables. Class tables are named by registered class names, which carry a module
 // prefix, so they cannot meet these.

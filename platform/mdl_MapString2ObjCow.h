@@ -47,7 +47,7 @@ class mdl_MapString2ObjCow : public mem_Allocated, public mdl_Repository {
     // Keys are stored in the map's order, so each goes at the end: one comparison, not a search.
     for (std::size_t i = 0; i < keys.size(); ++i) {
       const std::size_t before = items_.size();
-      items_.emplace_hint(items_.end(), keys[i], values[i]);
+      items_.emplace_hint(items_.end(), keys[i], std::move(values[i]));
       if (items_.size() == before)
         nex_ThrowCmd(std::string("The stored container ") + kClassName + " holds the key \"" + keys[i].str() + "\" twice");
     }

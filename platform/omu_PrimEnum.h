@@ -46,6 +46,8 @@ class omu_PrimEnumBase : public omu_Primitive {
   int FindText(const char* text) const noexcept;
   int FindValue(std::int64_t value) const noexcept;
   void Store(int index) { str_ = cow_String(table_[index].text); }
+  // Keeps a text already found equal to a literal: shares its body instead of making another.
+  void StoreFound(const cow_String& literal) { str_ = literal; }
 
   [[noreturn]] void RefuseValue(std::int64_t value) const;
   [[noreturn]] void RefuseString(const cow_String& s) const;
@@ -79,7 +81,8 @@ class omu_PrimEnum<E, 1> : public omu_PrimEnumBase {
   explicit omu_PrimEnum(const cow_String& s) : omu_PrimEnumBase(LiteralTable()) {
     int i = FindText(s.c_str());
     if (i < 0) RefuseString(s);
-    Take(i);
+    StoreFound(s);
+    value_ = static_cast<E>(Table()[i].value);
   }
   // Reads the stored literal of the named field.
   omu_PrimEnum(const cls_ReadVisitor& r, const char* field) : omu_PrimEnumBase(LiteralTable()) {

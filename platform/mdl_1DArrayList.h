@@ -12,7 +12,7 @@
 #include "platform/cls_Record.h"
 #include "platform/cls_TypedMetadata.h"
 #include "platform/cow_COW.h"
-#include "platform/mdl_MapOfCowsRepository.h"
+#include "platform/mdl_KeyedRepository.h"
 #include "platform/mdl_Repository.h"
 #include "platform/nex_Exception.h"
 #include "platform/omu_ChangeHistory.h"

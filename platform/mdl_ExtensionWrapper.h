@@ -6,6 +6,7 @@
 
 #include "platform/cls_Family.h"
 #include "platform/cls_TypedMetadata.h"
+#include "platform/cow_COW.h"
 #include "platform/mdl_Extension.h"
 #include "platform/mdl_Repository.h"
 

@@ -62,14 +62,14 @@ struct mdl_IntegerKeys {
   }
 };
 
-template <class T, class Keys, class NamesT>
+template <class T, class KeyPolicy, class NamesT>
 class mdl_KeyedRepository : public mem_Allocated, public mdl_Repository {
  public:
   using Element = T;
-  using Key = typename Keys::Key;
+  using Key = typename KeyPolicy::Key;
   using Names = NamesT;
   using Handle = cow_COW<T, cow_Virtual<T>>;
-  using Map = std::map<Key, Handle, typename Keys::Less>;
+  using Map = std::map<Key, Handle, typename KeyPolicy::Less>;
   static constexpr const char* kClassName = NamesT::kClassName;
   static constexpr unsigned TypeId() { return NamesT::TypeId(); }
   static constexpr int kVersion = NamesT::kVersion;
@@ -78,7 +78,7 @@ class mdl_KeyedRepository : public mem_Allocated, public mdl_Repository {
   mdl_KeyedRepository(const mdl_KeyedRepository&) = default;
   mdl_KeyedRepository& operator=(const mdl_KeyedRepository&) = default;
   explicit mdl_KeyedRepository(const cls_ReadVisitor& r) : uid_(r.GetUid()) {
-    std::vector<Key> keys = Keys::Read(r);
+    std::vector<Key> keys = KeyPolicy::Read(r);
     std::vector<Handle> values;
     r.ReadObjectList("values", [&](std::size_t, const cls_ReadVisitor* e) {
       if (!e) nex_ThrowCmd(std::string("The stored container ") + kClassName + " holds a null element");
@@ -92,7 +92,7 @@ class mdl_KeyedRepository : public mem_Allocated, public mdl_Repository {
       const std::size_t before = items_.size();
       items_.emplace_hint(items_.end(), keys[i], std::move(values[i]));
       if (items_.size() == before)
-        nex_ThrowCmd(std::string("The stored container ") + kClassName + " holds the key " + Keys::Shown(keys[i]) +
+        nex_ThrowCmd(std::string("The stored container ") + kClassName + " holds the key " + KeyPolicy::Shown(keys[i]) +
                      " twice");
     }
   }
@@ -106,14 +106,14 @@ class mdl_KeyedRepository : public mem_Allocated, public mdl_Repository {
       keys.push_back(k);
       values.push_back(static_cast<const cls_Root<T>*>(&h.Get()));
     }
-    Keys::Write(w, keys);
+    KeyPolicy::Write(w, keys);
     w.WriteObjectList("values", values, &WriteElement);
   }
   virtual ~mdl_KeyedRepository() = default;
   virtual mdl_KeyedRepository* Copy() const { return mem_New<mdl_KeyedRepository>(*this); }
   static void CowDtor(void* p) { cow_Destroy(static_cast<mdl_KeyedRepository*>(p)); }
   static void InitializeMetadata(cls_ClassRegistrar& registrar) {
-    static const cls_AttributeSpec kAttrs[] = {{0, "keys", Keys::kListType, cls_List1D},
+    static const cls_AttributeSpec kAttrs[] = {{0, "keys", KeyPolicy::kListType, cls_List1D},
                                                {1, "values", cls_AttrObjectList, cls_List1D}};
     cls_RegisterTyped<mdl_KeyedRepository>(registrar, kAttrs);
   }
@@ -134,7 +134,7 @@ class mdl_KeyedRepository : public mem_Allocated, public mdl_Repository {
   T& Get(const Key& key) {
     auto it = items_.find(key);
     if (it == items_.end())
-      nex_ThrowCmd("There is no \"" + Keys::Text(key).str() + "\" in " + Names::kRepositoryName);
+      nex_ThrowCmd("There is no \"" + KeyPolicy::Text(key).str() + "\" in " + Names::kRepositoryName);
     T& obj = it->second.Get();
     Record("Modify", key);
     return obj;
@@ -142,7 +142,7 @@ class mdl_KeyedRepository : public mem_Allocated, public mdl_Repository {
   // Puts the value under the key, replacing any element there.
   void Insert(const Key& key, const T& value) { InsertHandle(key, Handle(value)); }
   void InsertHandle(const Key& key, Handle h) {
-    Keys::Check(key, Names::kRepositoryName);
+    KeyPolicy::Check(key, Names::kRepositoryName);
     items_.insert_or_assign(key, std::move(h));
     Record("Insert", key);
   }
@@ -164,15 +164,15 @@ class mdl_KeyedRepository : public mem_Allocated, public mdl_Repository {
   std::vector<cow_String> Keys() const override {
     std::vector<cow_String> keys;
     keys.reserve(items_.size());
-    for (const auto& kv : items_) keys.push_back(Keys::Text(kv.first));
+    for (const auto& kv : items_) keys.push_back(KeyPolicy::Text(kv.first));
     return keys;
   }
   bool Contains(const cow_String& text) const override {
-    auto k = Keys::Parse(text);
+    auto k = KeyPolicy::Parse(text);
     return k && Has(*k);
   }
   const void* Find(const cow_String& text, const cls_ClassMetadata** cls) const override {
-    auto k = Keys::Parse(text);
+    auto k = KeyPolicy::Parse(text);
     const T* obj = k ? ConstGet(*k) : nullptr;
     if (obj && cls) *cls = &cls_ClassOf(*obj);
     return obj ? static_cast<const cls_Root<T>*>(obj) : nullptr;
@@ -187,7 +187,7 @@ class mdl_KeyedRepository : public mem_Allocated, public mdl_Repository {
     InsertHandle(KeyOf(text), std::move(h));
   }
   bool RemoveKey(const cow_String& text) override {
-    auto k = Keys::Parse(text);
+    auto k = KeyPolicy::Parse(text);
     return k && Remove(*k);
   }
 
@@ -196,12 +196,12 @@ class mdl_KeyedRepository : public mem_Allocated, public mdl_Repository {
     static_cast<const T*>(static_cast<const cls_Root<T>*>(p))->DBWrite(w);
   }
   static Key KeyOf(const cow_String& text) {
-    auto k = Keys::Parse(text);
-    if (!k) Keys::RefuseText(text, Names::kRepositoryName);
+    auto k = KeyPolicy::Parse(text);
+    if (!k) KeyPolicy::RefuseText(text, Names::kRepositoryName);
     return *k;
   }
   static void Record(const char* operation, const Key& key) {
-    omu_ChangeHistory::Instance().Record(kClassName, operation, Keys::Text(key));
+    omu_ChangeHistory::Instance().Record(kClassName, operation, KeyPolicy::Text(key));
   }
   Map items_;
   cls_Uid uid_;

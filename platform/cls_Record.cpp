@@ -108,7 +108,7 @@ const T& cls_RecordReader::Get(const char* name, const char* kind) const {
   const T* t = std::get_if<T>(v);
   if (!t)
     nex_ThrowCmd("The field \"" + std::string(name) + "\" of the stored record of type id " +
-                 std::to_string(rec_.typeId) + " holds a " + cls_ValueKindName(*v) + ", not a " + kind);
+                 std::to_string(rec_.typeId) + " holds " + cls_WithArticle(cls_ValueKindName(*v)) + ", not " + cls_WithArticle(kind));
   return *t;
 }
 

@@ -30,6 +30,11 @@ const char* cls_ValueKindName(const cls_Value& v) noexcept {
   return kNames[v.index()];
 }
 
+std::string cls_WithArticle(std::string_view noun) {
+  bool vowel = !noun.empty() && std::string_view("aeiouAEIOU").find(noun[0]) != std::string_view::npos;
+  return (vowel ? "an " : "a ") + std::string(noun);
+}
+
 bool cls_ValueEqual(const cls_Value& a, const cls_Value& b) {
   if (a.index() != b.index()) return false;
   if (const auto* ra = std::get_if<cls_RecordPtr>(&a)) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -53,4 +54,6 @@ using cls_Value = std::variant<std::monostate,                // 0: null object
 
 // "int", "double", ... for messages.
 const char* cls_ValueKindName(const cls_Value& v) noexcept;
+// The noun with its indefinite article ("an int", "a double").
+std::string cls_WithArticle(std::string_view noun);
 bool cls_ValueEqual(const cls_Value& a, const cls_Value& b);

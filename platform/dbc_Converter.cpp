@@ -16,7 +16,7 @@ template <class T>
 const T& As(const cls_Value& v, const std::string& name, const char* kind) {
   const T* t = std::get_if<T>(&v);
   if (!t)
-    nex_ThrowCmd("The field \"" + name + "\" of the stored row holds a " + cls_ValueKindName(v) + ", not a " + kind);
+    nex_ThrowCmd("The field \"" + name + "\" of the stored row holds " + cls_WithArticle(cls_ValueKindName(v)) + ", not " + cls_WithArticle(kind));
   return *t;
 }
 }  // namespace

@@ -31,7 +31,7 @@ const cls_Value* dbf_RowReader::Find(const char* name) const {
 
 void dbf_RowReader::Refuse(const char* name, const char* holds, const char* kind) const {
   nex_ThrowCmd(std::string("the field \"") + std::string(name) + "\" of row " + std::to_string(row_.oid) + " of class " +
-               row_.table->className + " holds " + holds + ", not a " + kind);
+               row_.table->className + " holds " + holds + ", not " + cls_WithArticle(kind));
 }
 
 bool dbf_RowReader::Has(const char* name) const {

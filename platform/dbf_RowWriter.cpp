@@ -62,8 +62,8 @@ dbf_RowWriter::Cell& dbf_RowWriter::Slot(const char* name, dbf_Kind kind) const 
     i = it->second;
   }
   if (fields[i].kind != kind)
-    nex_ThrowCmd("class " + ClassName() + " wrote its field \"" + name + "\" as a " + KindName(kind) +
-                 ", but stores it as a " + KindName(fields[i].kind));
+    nex_ThrowCmd("class " + ClassName() + " wrote its field \"" + name + "\" as " + cls_WithArticle(KindName(kind)) +
+                 ", but stores it as " + cls_WithArticle(KindName(fields[i].kind)));
   if (written_[i]) nex_ThrowCmd("class " + ClassName() + " wrote its field \"" + name + "\" twice");
   written_[i] = 1;
   cursor_ = i + 1;

@@ -156,7 +156,7 @@ TEST_F(DbAtomic, AClassThatBreaksItsMetadataIsRefusedAndNothingIsWritten) {
   const Case cases[] = {
       {SaveRogue<Fault::Extra>(path_), "class dbtT_RogueExtra wrote the field \"b\", which its metadata does not declare"},
       {SaveRogue<Fault::Missing>(path_), "class dbtT_RogueMissing did not write its field \"a\""},
-      {SaveRogue<Fault::WrongKind>(path_), "class dbtT_RogueKind wrote its field \"a\" as a double, but stores it as a int"},
+      {SaveRogue<Fault::WrongKind>(path_), "class dbtT_RogueKind wrote its field \"a\" as a double, but stores it as an int"},
       {SaveRogue<Fault::Twice>(path_), "class dbtT_RogueTwice wrote its field \"a\" twice"},
       {SaveRogue<Fault::Nothing>(path_), "an object wrote nothing (its DBWrite started no record)"},
       {SaveRogue<Fault::Unregistered>(path_), "an object of type id 12345 belongs to no registered class"},

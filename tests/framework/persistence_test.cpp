@@ -94,7 +94,7 @@ TEST_F(Persistence, MissingAndMistypedFieldsAreRefused) {
   cls_Record mistyped = rec;
   mistyped.Set("frequency", 2.5);
   auto e2 = qmx_Catch<nex_CmdError>([&] { kadC_AdptMeshDomain d{cls_RecordReader(mistyped)}; });
-  EXPECT_NE(e2.Message().find("holds a double, not a int"), std::string::npos) << e2.Message();
+  EXPECT_NE(e2.Message().find("holds a double, not an int"), std::string::npos) << e2.Message();
   cls_Record wrongClass = rec;
   wrongClass.typeId = kadC_AdptMeshCtrl::TypeId();
   const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByName("kadC_AdptMeshDomain");

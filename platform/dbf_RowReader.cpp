@@ -45,7 +45,7 @@ const T& dbf_RowReader::Get(const char* name, const char* kind) const {
   if (!v)
     nex_ThrowCmd(std::string("row ") + std::to_string(row_.oid) + " of class " + row_.table->className + " has no field \"" + name + "\"");
   const T* t = std::get_if<T>(v);
-  if (!t) Refuse(name, (std::string("a ") + cls_ValueKindName(*v)).c_str(), kind);
+  if (!t) Refuse(name, cls_WithArticle(cls_ValueKindName(*v)).c_str(), kind);
   return *t;
 }
 

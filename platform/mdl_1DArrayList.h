@@ -13,7 +13,7 @@
 #include "platform/cls_TypedMetadata.h"
 #include "platform/cow_COW.h"
 #include "platform/mdl_KeyedRepository.h"
-#include "platform/mdl_Repository.h"
+#include "platform/mdl_RepositoryFace.h"
 #include "platform/nex_Exception.h"
 #include "platform/omu_ChangeHistory.h"
 
@@ -21,7 +21,7 @@ template <class T>
 struct mdl_1DArrayListTraits;
 
 template <class T>
-class mdl_1DArrayList : public mem_Allocated, public mdl_Repository {
+class mdl_1DArrayList : public mem_Allocated, public mdl_RepositoryFace<mdl_1DArrayList<T>, T> {
  public:
   using Element = T;
   using Key = std::int32_t;
@@ -62,10 +62,10 @@ class mdl_1DArrayList : public mem_Allocated, public mdl_Repository {
 
   // --- typed use ---
   std::size_t Size() const noexcept { return items_.size(); }
-  const T* ConstGet(Key i) const { return InRange(i) ? &items_[static_cast<std::size_t>(i)].Get() : nullptr; }
+  const T* ConstGet(Key i) const { return Has(i) ? &items_[static_cast<std::size_t>(i)].Get() : nullptr; }
   // For modification: separates a shared element and records "Modify".
   T& Get(Key i) {
-    if (!InRange(i)) RefuseMissing(i);
+    if (!Has(i)) RefuseMissing(i);
     T& obj = items_[static_cast<std::size_t>(i)].Get();
     Record("Modify", i);
     return obj;
@@ -81,61 +81,35 @@ class mdl_1DArrayList : public mem_Allocated, public mdl_Repository {
     Record("Insert", i);
   }
   bool Remove(Key i) {
-    if (!InRange(i)) return false;
+    if (!Has(i)) return false;
     items_.erase(items_.begin() + i);
     Record("Remove", i);
     return true;
   }
   const std::vector<Handle>& Items() const noexcept { return items_; }
 
-  // --- mdl_Repository: keys are the positions as decimal text ---
-  const char* RepositoryName() const override { return Names::kRepositoryName; }
-  std::size_t Count() const override { return items_.size(); }
-  const cls_ClassMetadata& ElementClass() const override { return cls_MetadataOf(T::kClassName); }
+  bool Has(Key i) const noexcept { return i >= 0 && static_cast<std::size_t>(i) < items_.size(); }
+
+  // --- mdl_Repository: keys are the positions as decimal text; an insert goes before the
+  // position its key names; the rest of the face comes from the typed use ---
   std::vector<cow_String> Keys() const override {
     std::vector<cow_String> keys;
     keys.reserve(items_.size());
     for (std::size_t i = 0; i < items_.size(); ++i) keys.emplace_back(std::to_string(i));
     return keys;
   }
-  bool Contains(const cow_String& key) const override {
-    auto i = mdl_ParseIntegerKey(key.view());
-    return i && InRange(*i);
-  }
-  const void* Find(const cow_String& key, const cls_ClassMetadata** cls) const override {
-    auto i = mdl_ParseIntegerKey(key.view());
-    const T* obj = i ? ConstGet(*i) : nullptr;
-    if (obj && cls) *cls = &cls_ClassOf(*obj);
-    return obj ? static_cast<const cls_Root<T>*>(obj) : nullptr;
-  }
-  void* Modify(const cow_String& key, const cls_ClassMetadata** cls) override {
-    T& obj = Get(PositionOf(key));
-    if (cls) *cls = &cls_ClassOf(obj);
-    return static_cast<cls_Root<T>*>(&obj);
-  }
-  // Inserts before the position the key names.
-  void InsertNew(const cow_String& key, void* owned) override {
-    Handle h(static_cast<T*>(static_cast<cls_Root<T>*>(owned)));  // owns it from here, even on refusal
-    InsertHandle(PositionOf(key), std::move(h));
-  }
-  bool RemoveKey(const cow_String& key) override {
-    auto i = mdl_ParseIntegerKey(key.view());
-    return i && Remove(*i);
-  }
-  bool Positional() const override { return true; }
-
- private:
-  bool InRange(Key i) const noexcept { return i >= 0 && static_cast<std::size_t>(i) < items_.size(); }
-  static void WriteElement(const void* p, const cls_WriteVisitor& w) {
-    static_cast<const T*>(static_cast<const cls_Root<T>*>(p))->DBWrite(w);
-  }
-  static Key PositionOf(const cow_String& key) {
+  static std::optional<Key> ParseKey(const cow_String& text) { return mdl_ParseIntegerKey(text.view()); }
+  static Key KeyOf(const cow_String& key) {
     auto i = mdl_ParseIntegerKey(key.view());
     if (!i)
       nex_ThrowCmd(std::string("The elements of ") + Names::kRepositoryName + " are addressed by position, not by \"" +
                    key.str() + "\"");
     return *i;
   }
+  bool Positional() const override { return true; }
+
+ private:
+  using mdl_RepositoryFace<mdl_1DArrayList, T>::WriteElement;
   static void Record(const char* operation, Key i) {
     omu_ChangeHistory::Instance().Record(kClassName, operation, cow_String(std::to_string(i)));
   }

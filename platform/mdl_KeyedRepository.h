@@ -16,7 +16,7 @@
 #include "platform/cls_Record.h"
 #include "platform/cls_TypedMetadata.h"
 #include "platform/cow_COW.h"
-#include "platform/mdl_Repository.h"
+#include "platform/mdl_RepositoryFace.h"
 #include "platform/nex_Exception.h"
 #include "platform/omu_ChangeHistory.h"
 
@@ -63,7 +63,8 @@ struct mdl_IntegerKeys {
 };
 
 template <class T, class KeyPolicy, class NamesT>
-class mdl_KeyedRepository : public mem_Allocated, public mdl_Repository {
+class mdl_KeyedRepository : public mem_Allocated,
+                            public mdl_RepositoryFace<mdl_KeyedRepository<T, KeyPolicy, NamesT>, T> {
  public:
   using Element = T;
   using Key = typename KeyPolicy::Key;
@@ -157,49 +158,22 @@ class mdl_KeyedRepository : public mem_Allocated, public mdl_Repository {
     return it == items_.end() ? nullptr : &it->second;
   }
 
-  // --- mdl_Repository: keys as their text ---
-  const char* RepositoryName() const override { return Names::kRepositoryName; }
-  std::size_t Count() const override { return items_.size(); }
-  const cls_ClassMetadata& ElementClass() const override { return cls_MetadataOf(T::kClassName); }
+  // --- mdl_Repository: keys as their text; the rest of the face comes from the typed use ---
   std::vector<cow_String> Keys() const override {
     std::vector<cow_String> keys;
     keys.reserve(items_.size());
     for (const auto& kv : items_) keys.push_back(KeyPolicy::Text(kv.first));
     return keys;
   }
-  bool Contains(const cow_String& text) const override {
-    auto k = KeyPolicy::Parse(text);
-    return k && Has(*k);
-  }
-  const void* Find(const cow_String& text, const cls_ClassMetadata** cls) const override {
-    auto k = KeyPolicy::Parse(text);
-    const T* obj = k ? ConstGet(*k) : nullptr;
-    if (obj && cls) *cls = &cls_ClassOf(*obj);
-    return obj ? static_cast<const cls_Root<T>*>(obj) : nullptr;
-  }
-  void* Modify(const cow_String& text, const cls_ClassMetadata** cls) override {
-    T& obj = Get(KeyOf(text));
-    if (cls) *cls = &cls_ClassOf(obj);
-    return static_cast<cls_Root<T>*>(&obj);
-  }
-  void InsertNew(const cow_String& text, void* owned) override {
-    Handle h(static_cast<T*>(static_cast<cls_Root<T>*>(owned)));  // owns it from here, even on refusal
-    InsertHandle(KeyOf(text), std::move(h));
-  }
-  bool RemoveKey(const cow_String& text) override {
-    auto k = KeyPolicy::Parse(text);
-    return k && Remove(*k);
-  }
-
- private:
-  static void WriteElement(const void* p, const cls_WriteVisitor& w) {
-    static_cast<const T*>(static_cast<const cls_Root<T>*>(p))->DBWrite(w);
-  }
+  static std::optional<Key> ParseKey(const cow_String& text) { return KeyPolicy::Parse(text); }
   static Key KeyOf(const cow_String& text) {
     auto k = KeyPolicy::Parse(text);
     if (!k) KeyPolicy::RefuseText(text, Names::kRepositoryName);
     return *k;
   }
+
+ private:
+  using mdl_RepositoryFace<mdl_KeyedRepository, T>::WriteElement;
   static void Record(const char* operation, const Key& key) {
     omu_ChangeHistory::Instance().Record(kClassName, operation, KeyPolicy::Text(key));
   }

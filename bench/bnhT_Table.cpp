@@ -2,7 +2,7 @@
 
 #include "frame/QMXOdbAttrEO2.h"
 #include "framework/fw_FieldTable.h"
-#include "platform/ddr_Model.h"
+#include "platform/model/ddr_Model.h"
 
 bnhT_Table::bnhT_Table(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
 void bnhT_Table::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }

@@ -4,10 +4,10 @@
 #include <tuple>
 
 #include "framework/fw_Field.h"
-#include "platform/cow_2DArray.h"
-#include "platform/cow_COW.h"
-#include "platform/mdl_ExtensionWrapper.h"
-#include "platform/mdl_MapString2ObjCow.h"
+#include "platform/base/cow_2DArray.h"
+#include "platform/base/cow_COW.h"
+#include "platform/model/mdl_ExtensionWrapper.h"
+#include "platform/model/mdl_MapString2ObjCow.h"
 
 constexpr unsigned kBenchKey = 997;
 

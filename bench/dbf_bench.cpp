@@ -23,9 +23,9 @@
 
 #include "bench/bnhT_Table.h"
 #include "kad/kadC_ACWrapper.h"
-#include "platform/dbc_Converter.h"
-#include "platform/dbf_File.h"
-#include "platform/dbf_Reader.h"
+#include "platform/persist/dbc_Converter.h"
+#include "dbfile/dbf_File.h"
+#include "dbfile/dbf_Reader.h"
 
 namespace {
 

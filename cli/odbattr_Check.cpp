@@ -3,8 +3,8 @@
 
 #include "cli/odbattr_Commands.h"
 #include "cli/odbattr_Progress.h"
-#include "platform/cmd_Check.h"
-#include "platform/dbf_File.h"
+#include "command/cmd_Check.h"
+#include "dbfile/dbf_File.h"
 
 namespace odbattr {
 

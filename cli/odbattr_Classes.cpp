@@ -4,8 +4,8 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/odbattr_Commands.h"
-#include "platform/cls_ClassRegistrar.h"
-#include "platform/cls_Value.h"
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "platform/persist/cls_Value.h"
 
 namespace odbattr {
 

@@ -5,8 +5,9 @@
 
 #include "cli/odbattr_Commands.h"
 #include "cli/odbattr_Progress.h"
-#include "platform/cmd_Session.h"
-#include "platform/dbf_File.h"
+#include "command/cmd_Session.h"
+#include "dbfile/dbf_File.h"
+#include "dbfile/dbf_Format.h"
 
 namespace odbattr {
 

@@ -9,11 +9,11 @@
 
 #include "cli/odbattr_Commands.h"
 #include "cli/odbattr_Script.h"
-#include "platform/cmd_Check.h"
-#include "platform/cmd_Session.h"
-#include "platform/dbf_File.h"
-#include "platform/ddr_Model.h"
-#include "platform/mdl_Repository.h"
+#include "command/cmd_Check.h"
+#include "command/cmd_Session.h"
+#include "dbfile/dbf_File.h"
+#include "platform/model/ddr_Model.h"
+#include "platform/model/mdl_Repository.h"
 
 namespace odbattr {
 

@@ -7,8 +7,8 @@
 
 #include "cli/odbattr_Commands.h"
 #include "cli/odbattr_Script.h"
-#include "platform/cmd_Session.h"
-#include "platform/dbf_File.h"
+#include "command/cmd_Session.h"
+#include "dbfile/dbf_File.h"
 
 namespace odbattr {
 

@@ -17,8 +17,8 @@
 #include "kop/QMXOdbKopC.h"
 #include "ktb/QMXOdbKtbC.h"
 #include "platform/QMXFrameworkLibraries.h"
-#include "platform/bas_StartCount.h"
-#include "platform/bas_StartJournal.h"
+#include "platform/base/bas_StartCount.h"
+#include "platform/base/bas_StartJournal.h"
 
 namespace {
 int libraryCount = 0;

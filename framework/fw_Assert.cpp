@@ -1,6 +1,6 @@
 #include "framework/fw_Assert.h"
 
-#include "platform/nex_Exception.h"
+#include "platform/base/nex_Exception.h"
 
 void fw_ModuleAssert(bool ok, const char* message, const char* file, int line) {
   if (ok) return;

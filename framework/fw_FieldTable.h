@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "framework/fw_Traits.h"
-#include "platform/cls_TypedMetadata.h"
+#include "platform/persist/cls_TypedMetadata.h"
 
 // --- compile-time checks ----------------------------------------------------------------------
 

@@ -10,16 +10,16 @@
 #include <vector>
 
 #include "framework/fw_Field.h"
-#include "platform/cls_ClassMetadata.h"
-#include "platform/cls_ClassRegistrar.h"
-#include "platform/cls_Family.h"
-#include "platform/cls_Record.h"
-#include "platform/cls_Visitor.h"
-#include "platform/cow_COW.h"
-#include "platform/cow_List.h"
-#include "platform/nex_Exception.h"
-#include "platform/omu_PrimEnum.h"
-#include "platform/rgnC_Region.h"
+#include "platform/persist/cls_ClassMetadata.h"
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "platform/persist/cls_Family.h"
+#include "platform/persist/cls_Record.h"
+#include "platform/persist/cls_Visitor.h"
+#include "platform/base/cow_COW.h"
+#include "platform/base/cow_List.h"
+#include "platform/base/nex_Exception.h"
+#include "platform/base/omu_PrimEnum.h"
+#include "platform/model/rgnC_Region.h"
 
 // A class with a field table.
 template <class T>

@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the adaptive mesh module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKadC_initialize(int& tally);
 void QMXOdbKadC_finalize(int& tally);

@@ -1,7 +1,7 @@
 #pragma once
 // The control container as a model extension.
 #include "kad/kadC_AdptMeshCtrlCont.h"
-#include "platform/mdl_ExtensionWrapper.h"
+#include "platform/model/mdl_ExtensionWrapper.h"
 
 template <>
 struct mdl_WrapperTraits<kadC_AdptMeshCtrlCont> {

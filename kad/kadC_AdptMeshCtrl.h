@@ -3,9 +3,9 @@
 #include <cstdint>
 
 #include "framework/fw_Field.h"
-#include "platform/bas_Alloc.h"
-#include "platform/cls_Uid.h"
-#include "platform/omu_PrimEnum.h"
+#include "platform/base/bas_Alloc.h"
+#include "platform/persist/cls_Uid.h"
+#include "platform/base/omu_PrimEnum.h"
 
 class cls_ReadVisitor;
 class cls_WriteVisitor;

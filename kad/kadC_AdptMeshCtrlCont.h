@@ -2,7 +2,7 @@
 // Adaptive mesh controls by name ("adaptiveMeshControls").
 #include "framework/fw_Field.h"
 #include "kad/kadC_AdptMeshCtrl.h"
-#include "platform/mdl_MapString2ObjCow.h"
+#include "platform/model/mdl_MapString2ObjCow.h"
 
 template <>
 struct mdl_MapTraits<kadC_AdptMeshCtrl> {

@@ -2,7 +2,7 @@
 // The implementation base of every shortcut to a container of adaptive mesh controls.
 #include "framework/fw_Field.h"
 #include "kad/kadC_AdptMeshCtrlCont.h"
-#include "platform/ddr_ShortcutIMPL.h"
+#include "platform/model/ddr_ShortcutIMPL.h"
 
 class kadC_AdptMeshCtrlContIMPLSC : public ddr_ShortcutIMPL<kadC_AdptMeshCtrlCont> {
  public:

@@ -2,7 +2,7 @@
 // The model's container of adaptive mesh controls ("adaptiveMeshControls").
 #include "framework/fw_Field.h"
 #include "kad/kadC_AdptMeshCtrlContIMPLSC.h"
-#include "platform/ddr_RepositoryShortcut.h"
+#include "platform/model/ddr_RepositoryShortcut.h"
 
 class kadC_AdptMeshCtrlContInModelShortcut
     : public ddr_RepositoryShortcut<kadC_AdptMeshCtrlContInModelShortcut, kadC_AdptMeshCtrlContIMPLSC> {

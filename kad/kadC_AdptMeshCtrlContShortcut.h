@@ -2,7 +2,7 @@
 // A shortcut to a container of adaptive mesh controls.
 #include "framework/fw_Field.h"
 #include "kad/kadC_AdptMeshCtrlContIMPLSC.h"
-#include "platform/ddr_Shortcut.h"
+#include "platform/model/ddr_Shortcut.h"
 
 class kadC_AdptMeshCtrlContShortcut : public ddr_Shortcut<kadC_AdptMeshCtrlContIMPLSC> {
  public:

@@ -2,7 +2,7 @@
 // The implementation base of every shortcut to an adaptive mesh control.
 #include "framework/fw_Field.h"
 #include "kad/kadC_AdptMeshCtrl.h"
-#include "platform/ddr_ShortcutIMPL.h"
+#include "platform/model/ddr_ShortcutIMPL.h"
 
 class kadC_AdptMeshCtrlIMPLSC : public ddr_ShortcutIMPL<kadC_AdptMeshCtrl> {
  public:

@@ -4,7 +4,7 @@
 #include "kad/kadC_AdptMeshCtrlContInModelShortcut.h"
 #include "kad/kadC_AdptMeshCtrlContShortcut.h"
 #include "kad/kadC_AdptMeshCtrlIMPLSC.h"
-#include "platform/ddr_SequenceShortcut.h"
+#include "platform/model/ddr_SequenceShortcut.h"
 
 class kadC_AdptMeshCtrlInAdptMeshCtrlContShortcut
     : public ddr_SequenceShortcut<kadC_AdptMeshCtrlInAdptMeshCtrlContShortcut, kadC_AdptMeshCtrlIMPLSC,

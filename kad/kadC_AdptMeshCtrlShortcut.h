@@ -2,7 +2,7 @@
 // A shortcut to an adaptive mesh control.
 #include "framework/fw_Field.h"
 #include "kad/kadC_AdptMeshCtrlIMPLSC.h"
-#include "platform/ddr_Shortcut.h"
+#include "platform/model/ddr_Shortcut.h"
 
 class kadC_AdptMeshCtrlShortcut : public ddr_Shortcut<kadC_AdptMeshCtrlIMPLSC> {
  public:

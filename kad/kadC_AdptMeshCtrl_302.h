@@ -1,6 +1,6 @@
 #pragma once
 // The control's layout of database version 302, retired by version 829.
-#include "platform/dbc_Converter.h"
+#include "platform/persist/dbc_Converter.h"
 
 class kadC_AdptMeshCtrl_302 : public dbc_OldClassVersion {
  public:

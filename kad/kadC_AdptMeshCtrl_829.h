@@ -1,7 +1,7 @@
 #pragma once
 // The control's layout of database version 829, retired by version 860, which added the
 // original-configuration projection weight and the standard volumetric smoothing weight.
-#include "platform/dbc_Converter.h"
+#include "platform/persist/dbc_Converter.h"
 
 class kadC_AdptMeshCtrl_829 : public dbc_OldClassVersion {
  public:

@@ -2,7 +2,7 @@
 // Adaptive mesh domains by name ("adaptiveMeshDomains").
 #include "framework/fw_Field.h"
 #include "kad/kadC_AdptMeshDomain.h"
-#include "platform/mdl_MapString2ObjCow.h"
+#include "platform/model/mdl_MapString2ObjCow.h"
 
 template <>
 struct mdl_MapTraits<kadC_AdptMeshDomain> {

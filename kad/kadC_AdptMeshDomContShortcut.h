@@ -2,7 +2,7 @@
 // A shortcut to a container of adaptive mesh domains. The module offers no concrete one: the domain container is not a model extension, so only an owner outside this module can place it.
 #include "framework/fw_Field.h"
 #include "kad/kadC_AdptMeshDomContIMPLSC.h"
-#include "platform/ddr_Shortcut.h"
+#include "platform/model/ddr_Shortcut.h"
 
 class kadC_AdptMeshDomContShortcut : public ddr_Shortcut<kadC_AdptMeshDomContIMPLSC> {
  public:

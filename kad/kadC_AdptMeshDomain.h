@@ -4,10 +4,10 @@
 #include <cstdint>
 
 #include "framework/fw_Field.h"
-#include "platform/bas_Alloc.h"
-#include "platform/cls_Uid.h"
-#include "platform/cow_String.h"
-#include "platform/rgnC_Region.h"
+#include "platform/base/bas_Alloc.h"
+#include "platform/persist/cls_Uid.h"
+#include "platform/base/cow_String.h"
+#include "platform/model/rgnC_Region.h"
 
 class cls_ReadVisitor;
 class cls_WriteVisitor;

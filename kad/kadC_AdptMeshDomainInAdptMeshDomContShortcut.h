@@ -3,7 +3,7 @@
 #include "framework/fw_Field.h"
 #include "kad/kadC_AdptMeshDomContShortcut.h"
 #include "kad/kadC_AdptMeshDomainIMPLSC.h"
-#include "platform/ddr_SequenceShortcut.h"
+#include "platform/model/ddr_SequenceShortcut.h"
 
 class kadC_AdptMeshDomainInAdptMeshDomContShortcut
     : public ddr_SequenceShortcut<kadC_AdptMeshDomainInAdptMeshDomContShortcut, kadC_AdptMeshDomainIMPLSC,

@@ -2,7 +2,7 @@
 // A shortcut to an adaptive mesh domain.
 #include "framework/fw_Field.h"
 #include "kad/kadC_AdptMeshDomainIMPLSC.h"
-#include "platform/ddr_Shortcut.h"
+#include "platform/model/ddr_Shortcut.h"
 
 class kadC_AdptMeshDomainShortcut : public ddr_Shortcut<kadC_AdptMeshDomainIMPLSC> {
  public:

@@ -2,8 +2,8 @@
 
 #include <iterator>
 
-#include "platform/bas_StartCount.h"
-#include "platform/bas_StartJournal.h"
+#include "platform/base/bas_StartCount.h"
+#include "platform/base/bas_StartJournal.h"
 
 namespace {
 int count = 0;

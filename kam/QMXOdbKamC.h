@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the amplitude module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKamC_initialize(int& tally);
 void QMXOdbKamC_finalize(int& tally);

@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the remeshing rule module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKarC_initialize(int& tally);
 void QMXOdbKarC_finalize(int& tally);

@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the connector behavior module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKbeC_initialize(int& tally);
 void QMXOdbKbeC_finalize(int& tally);

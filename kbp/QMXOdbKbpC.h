@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the beam profile module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKbpC_initialize(int& tally);
 void QMXOdbKbpC_finalize(int& tally);

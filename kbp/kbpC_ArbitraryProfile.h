@@ -3,7 +3,7 @@
 // the thickness of the segment that ends at the point. The first point starts the path, so its
 // thickness cell is not used; a table without the thickness column describes no segments.
 #include "kbp/kbpC_BeamProfile.h"
-#include "platform/cow_2DArray.h"
+#include "platform/base/cow_2DArray.h"
 
 class kbpC_ArbitraryProfile : public kbpC_BeamProfile {
  public:

@@ -1,7 +1,7 @@
 #pragma once
 // The profile container as a model extension.
 #include "kbp/kbpC_BeamProfileContainer.h"
-#include "platform/mdl_ExtensionWrapper.h"
+#include "platform/model/mdl_ExtensionWrapper.h"
 
 template <>
 struct mdl_WrapperTraits<kbpC_BeamProfileContainer> {

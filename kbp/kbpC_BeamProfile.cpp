@@ -1,8 +1,8 @@
 #include "kbp/kbpC_BeamProfile.h"
 
 #include "kbp/kbpC_ProfileLabels.h"
-#include "platform/cls_TypedMetadata.h"
-#include "platform/cow_COW.h"
+#include "platform/persist/cls_TypedMetadata.h"
+#include "platform/base/cow_COW.h"
 
 kbpC_BeamProfile::kbpC_BeamProfile(const cls_ReadVisitor& r) : uid(r.GetUid()) {}
 

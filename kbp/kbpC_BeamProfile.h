@@ -5,8 +5,8 @@
 #include <cstdint>
 
 #include "framework/fw_Field.h"
-#include "platform/bas_Alloc.h"
-#include "platform/cls_Uid.h"
+#include "platform/base/bas_Alloc.h"
+#include "platform/persist/cls_Uid.h"
 
 class cls_ReadVisitor;
 class cls_WriteVisitor;

@@ -2,7 +2,7 @@
 // Beam profiles of every kind by name ("profiles").
 #include "framework/fw_Field.h"
 #include "kbp/kbpC_BeamProfile.h"
-#include "platform/mdl_MapString2ObjCow.h"
+#include "platform/model/mdl_MapString2ObjCow.h"
 
 template <>
 struct mdl_MapTraits<kbpC_BeamProfile> {

@@ -2,7 +2,7 @@
 // The implementation base of every shortcut to a container of beam profiles.
 #include "framework/fw_Field.h"
 #include "kbp/kbpC_BeamProfileContainer.h"
-#include "platform/ddr_ShortcutIMPL.h"
+#include "platform/model/ddr_ShortcutIMPL.h"
 
 class kbpC_BeamProfileContainerIMPLSC : public ddr_ShortcutIMPL<kbpC_BeamProfileContainer> {
  public:

@@ -2,7 +2,7 @@
 // The model's container of beam profiles ("profiles").
 #include "framework/fw_Field.h"
 #include "kbp/kbpC_BeamProfileContainerIMPLSC.h"
-#include "platform/ddr_RepositoryShortcut.h"
+#include "platform/model/ddr_RepositoryShortcut.h"
 
 class kbpC_BeamProfileContainerInModelShortcut
     : public ddr_RepositoryShortcut<kbpC_BeamProfileContainerInModelShortcut, kbpC_BeamProfileContainerIMPLSC> {

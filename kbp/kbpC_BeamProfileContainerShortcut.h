@@ -2,7 +2,7 @@
 // A shortcut to a container of beam profiles.
 #include "framework/fw_Field.h"
 #include "kbp/kbpC_BeamProfileContainerIMPLSC.h"
-#include "platform/ddr_Shortcut.h"
+#include "platform/model/ddr_Shortcut.h"
 
 class kbpC_BeamProfileContainerShortcut : public ddr_Shortcut<kbpC_BeamProfileContainerIMPLSC> {
  public:

@@ -2,7 +2,7 @@
 // The implementation base of every shortcut to a beam profile.
 #include "framework/fw_Field.h"
 #include "kbp/kbpC_BeamProfile.h"
-#include "platform/ddr_ShortcutIMPL.h"
+#include "platform/model/ddr_ShortcutIMPL.h"
 
 class kbpC_BeamProfileIMPSC : public ddr_ShortcutIMPL<kbpC_BeamProfile> {
  public:

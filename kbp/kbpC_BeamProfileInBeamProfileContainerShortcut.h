@@ -4,7 +4,7 @@
 #include "kbp/kbpC_BeamProfileContainerInModelShortcut.h"
 #include "kbp/kbpC_BeamProfileContainerShortcut.h"
 #include "kbp/kbpC_BeamProfileIMPSC.h"
-#include "platform/ddr_SequenceShortcut.h"
+#include "platform/model/ddr_SequenceShortcut.h"
 
 class kbpC_BeamProfileInBeamProfileContainerShortcut
     : public ddr_SequenceShortcut<kbpC_BeamProfileInBeamProfileContainerShortcut, kbpC_BeamProfileIMPSC,

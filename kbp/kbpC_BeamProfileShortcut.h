@@ -2,7 +2,7 @@
 // A shortcut to a beam profile of any kind.
 #include "framework/fw_Field.h"
 #include "kbp/kbpC_BeamProfileIMPSC.h"
-#include "platform/ddr_Shortcut.h"
+#include "platform/model/ddr_Shortcut.h"
 
 class kbpC_BeamProfileShortcut : public ddr_Shortcut<kbpC_BeamProfileIMPSC> {
  public:

@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "kbp/kbpC_BeamProfile.h"
-#include "platform/omu_PrimEnum.h"
+#include "platform/base/omu_PrimEnum.h"
 
 class kbpC_PipeProfile : public kbpC_BeamProfile {
  public:

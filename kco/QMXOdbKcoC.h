@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the constraint module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKcoC_initialize(int& tally);
 void QMXOdbKcoC_finalize(int& tally);

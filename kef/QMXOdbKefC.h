@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the engineering feature module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKefC_initialize(int& tally);
 void QMXOdbKefC_finalize(int& tally);

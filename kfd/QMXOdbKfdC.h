@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the field module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKfdC_initialize(int& tally);
 void QMXOdbKfdC_finalize(int& tally);

@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the filter module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKflC_initialize(int& tally);
 void QMXOdbKflC_finalize(int& tally);

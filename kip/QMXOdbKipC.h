@@ -1,7 +1,7 @@
 #pragma once
 // Start and stop of the empty module (counted): it has no classes, only its
 // architecture-compatibility entry.
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKipC_initialize(int& tally);
 void QMXOdbKipC_finalize(int& tally);

@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the load case module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKlcC_initialize(int& tally);
 void QMXOdbKlcC_finalize(int& tally);

@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the material module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKmaC_initialize(int& tally);
 void QMXOdbKmaC_finalize(int& tally);

@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the optimization task module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKopC_initialize(int& tally);
 void QMXOdbKopC_finalize(int& tally);

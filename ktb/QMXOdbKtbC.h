@@ -1,6 +1,6 @@
 #pragma once
 // Start and stop of the table and event series module (counted).
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/typ_ArchCompTable.h"
 
 void QMXOdbKtbC_initialize(int& tally);
 void QMXOdbKtbC_finalize(int& tally);

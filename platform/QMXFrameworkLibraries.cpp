@@ -1,10 +1,10 @@
 #include "platform/QMXFrameworkLibraries.h"
 
-#include "platform/bas_StartCount.h"
-#include "platform/bas_StartJournal.h"
-#include "platform/cls_ClassRegistrar.h"
-#include "platform/ddr_Model.h"
-#include "platform/omi_Singleton.h"
+#include "platform/base/bas_StartCount.h"
+#include "platform/base/bas_StartJournal.h"
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "platform/model/ddr_Model.h"
+#include "platform/base/omi_Singleton.h"
 
 namespace {
 int coreGeomCount = 0;

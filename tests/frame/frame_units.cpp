@@ -16,7 +16,7 @@
 #include "kop/QMXOdbKopC.h"
 #include "ktb/QMXOdbKtbC.h"
 #include "platform/QMXFrameworkLibraries.h"
-#include "platform/bas_StartJournal.h"
+#include "platform/base/bas_StartJournal.h"
 
 #define FRAME_UNIT(X) frame_Unit{#X, &X##_initialize, &X##_finalize, &X##_count}
 

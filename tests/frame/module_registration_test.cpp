@@ -18,12 +18,12 @@
 #include "kad/kadC_AdptMeshDomain.h"
 #include "kip/QMXOdbKipC.h"
 #include "platform/QMXFrameworkLibraries.h"
-#include "platform/bas_StartJournal.h"
-#include "platform/cls_ClassRegistrar.h"
-#include "platform/dbc_Converter.h"
-#include "platform/ddr_Model.h"
-#include "platform/omi_Singleton.h"
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/bas_StartJournal.h"
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "platform/persist/dbc_Converter.h"
+#include "platform/model/ddr_Model.h"
+#include "platform/base/omi_Singleton.h"
+#include "platform/base/typ_ArchCompTable.h"
 #include "tests/frame/frame_units.h"
 
 namespace {

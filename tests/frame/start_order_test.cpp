@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "frame/QMXOdbAttrEO2.h"
-#include "platform/bas_StartJournal.h"
+#include "platform/base/bas_StartJournal.h"
 #include "tests/frame/frame_units.h"
 
 namespace {

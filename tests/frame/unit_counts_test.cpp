@@ -9,7 +9,7 @@
 #include "frame/QMXOdbAttrEO2.h"
 #include "kam/QMXOdbKamC.h"
 #include "platform/QMXFrameworkLibraries.h"
-#include "platform/bas_StartJournal.h"
+#include "platform/base/bas_StartJournal.h"
 #include "tests/frame/frame_units.h"
 
 namespace {

@@ -6,10 +6,10 @@
 
 #include "kad/kadC_AdptMeshCtrl.h"
 #include "kad/kadC_AdptMeshDomain.h"
-#include "platform/cls_ClassRegistrar.h"
-#include "platform/cls_Record.h"
-#include "platform/dbc_Converter.h"
-#include "platform/nex_Exception.h"
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "platform/persist/cls_Record.h"
+#include "platform/persist/dbc_Converter.h"
+#include "platform/base/nex_Exception.h"
 #include "tests/support/qmx_test.h"
 
 namespace {

@@ -2,8 +2,8 @@
 
 #include "kad/kadC_AdptMeshCtrl.h"
 #include "kad/kadC_AdptMeshDomain.h"
-#include "platform/cls_ClassRegistrar.h"
-#include "platform/nex_Exception.h"
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "platform/base/nex_Exception.h"
 #include "tests/support/qmx_test.h"
 
 namespace {

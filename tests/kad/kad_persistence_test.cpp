@@ -8,10 +8,10 @@
 #include "kad/kadC_AdptMeshCtrl_302.h"
 #include "kad/kadC_AdptMeshCtrl_829.h"
 #include "kad/kadC_AdptMeshDomain.h"
-#include "platform/cls_ClassRegistrar.h"
-#include "platform/cls_Record.h"
-#include "platform/dbc_Converter.h"
-#include "platform/omi_Singleton.h"
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "platform/persist/cls_Record.h"
+#include "platform/persist/dbc_Converter.h"
+#include "platform/base/omi_Singleton.h"
 #include "tests/support/qmx_test.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include "kad/kadC_AdptMeshCtrl.h"
 #include "kad/kadC_AdptMeshDomain.h"
 #include "kad/kadC_assert.h"
-#include "platform/nex_Exception.h"
+#include "platform/base/nex_Exception.h"
 #include "tests/support/qmx_test.h"
 
 namespace {

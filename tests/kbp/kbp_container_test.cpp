@@ -11,12 +11,12 @@
 #include "kbp/kbpC_PipeProfile.h"
 #include "kbp/kbpC_ProfileLabels.h"
 #include "kbp/kbpC_RectangularProfile.h"
-#include "platform/bas_StartJournal.h"
-#include "platform/cls_Record.h"
-#include "platform/ddr_Model.h"
-#include "platform/mdl_Repository.h"
-#include "platform/omu_ChangeHistory.h"
-#include "platform/typ_ArchCompTable.h"
+#include "platform/base/bas_StartJournal.h"
+#include "platform/persist/cls_Record.h"
+#include "platform/model/ddr_Model.h"
+#include "platform/model/mdl_Repository.h"
+#include "platform/model/omu_ChangeHistory.h"
+#include "platform/base/typ_ArchCompTable.h"
 #include "tests/kbp/kbp_test.h"
 
 namespace {

@@ -9,10 +9,10 @@
 #include "kbp/kbpC_GeneralizedProfile.h"
 #include "kbp/kbpC_PipeProfile.h"
 #include "kbp/kbpC_RectangularProfile.h"
-#include "platform/cls_ClassRegistrar.h"
-#include "platform/cls_Family.h"
-#include "platform/cls_Record.h"
-#include "platform/cow_COW.h"
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "platform/persist/cls_Family.h"
+#include "platform/persist/cls_Record.h"
+#include "platform/base/cow_COW.h"
 #include "tests/kbp/kbp_test.h"
 
 namespace {

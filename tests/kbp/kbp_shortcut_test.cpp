@@ -10,10 +10,10 @@
 #include "kbp/kbpC_BeamProfileShortcut.h"
 #include "kbp/kbpC_PipeProfile.h"
 #include "kbp/kbpC_TbeamProfile.h"
-#include "platform/cls_Record.h"
-#include "platform/ddr_Model.h"
-#include "platform/omu_ChangeHistory.h"
-#include "platform/typ_ArchCompTable.h"
+#include "platform/persist/cls_Record.h"
+#include "platform/model/ddr_Model.h"
+#include "platform/model/omu_ChangeHistory.h"
+#include "platform/base/typ_ArchCompTable.h"
 #include "tests/kbp/kbp_test.h"
 
 namespace {

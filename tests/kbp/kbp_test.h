@@ -8,7 +8,7 @@
 
 #include "kbp/QMXOdbKbpC.h"
 #include "kbp/kbpC_assert.h"
-#include "platform/nex_Exception.h"
+#include "platform/base/nex_Exception.h"
 #include "tests/support/qmx_test.h"
 
 inline void kbp_Start() {

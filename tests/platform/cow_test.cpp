@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "platform/cow_2DArray.h"
-#include "platform/cow_COW.h"
-#include "platform/cow_List.h"
-#include "platform/cow_Map.h"
-#include "platform/cow_String.h"
+#include "platform/base/cow_2DArray.h"
+#include "platform/base/cow_COW.h"
+#include "platform/base/cow_List.h"
+#include "platform/base/cow_Map.h"
+#include "platform/base/cow_String.h"
 
 namespace {
 

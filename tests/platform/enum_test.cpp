@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/nex_Exception.h"
-#include "platform/omu_PrimEnum.h"
+#include "platform/base/nex_Exception.h"
+#include "platform/base/omu_PrimEnum.h"
 #include "tests/support/qmx_test.h"
 
 namespace enum_test {

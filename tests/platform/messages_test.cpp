@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/atr_String.h"
-#include "platform/nex_Exception.h"
+#include "platform/base/atr_String.h"
+#include "platform/base/nex_Exception.h"
 #include "tests/support/qmx_test.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/QMXBasException.h"
+#include "platform/base/QMXBasException.h"
 
 // Runs fn and returns the exception of type E it throws; fails the test when it throws nothing
 // or something else.

@@ -1,0 +1,50 @@
+#pragma once
+// The command layer: runs commands given as JSON objects on a database of models.
+//   {"op":"create","path":["Model-1"]}                                 a model
+//   {"op":"create","path":["Model-1","adaptiveMeshControls","C-1"],"type":"AdaptiveMeshControl",
+//    "values":{"initialFeatureAngle":45}}                              an element, then its members
+//   {"op":"set","path":[...,"C-1"],"values":{"remapping":"FIRST_ORDER_ADVECTION"}}
+//   {"op":"set","path":[...,"C-1","meshConstraintAngle"],"value":75}   one member
+//   {"op":"set","path":[...,"member"],"type":"Ctor","values":{...}}     a new object in a member
+//   {"op":"get","path":[...]}  {"op":"list","path":[...]}  {"op":"validate","path":[...]}
+//   {"op":"delete","path":[...]}  {"op":"save","file":"x.db"}  {"op":"open","file":"x.db"}
+// Each command answers {"ok":true,"result":...} or {"ok":false,"error":{"kind":...,"message":...,
+// "file":...,"line":...}}. A failed command changes nothing: the one repository element it may
+// change is copied before it runs and put back on failure, and the change history is cut back to
+// where it was.
+#include <cstddef>
+#include <string_view>
+
+#include "command/cmd_Json.h"
+#include "platform/model/ddr_Database.h"
+
+class cmd_Session {
+ public:
+  cmd_Session() = default;
+  explicit cmd_Session(ddr_Database db) : db_(std::move(db)) {}
+
+  const ddr_Database& Database() const noexcept { return db_; }
+  ddr_Database& Database() noexcept { return db_; }
+
+  cmd_Json Execute(const cmd_Json& command);
+  // One line of JSON; a line that is not JSON fails like a command.
+  cmd_Json ExecuteLine(std::string_view line);
+
+  std::size_t Succeeded() const noexcept { return succeeded_; }
+  std::size_t Failed() const noexcept { return failed_; }
+
+ private:
+  cmd_Json Dispatch(const cmd_Json& command);
+  cmd_Json Create(const cmd_Json& command);
+  cmd_Json Set(const cmd_Json& command);
+  cmd_Json Get(const cmd_Json& command);
+  cmd_Json List(const cmd_Json& command);
+  cmd_Json Delete(const cmd_Json& command);
+  cmd_Json Validate(const cmd_Json& command);
+  cmd_Json Save(const cmd_Json& command);
+  cmd_Json Open(const cmd_Json& command);
+
+  ddr_Database db_;
+  std::size_t succeeded_ = 0;
+  std::size_t failed_ = 0;
+};

@@ -1,0 +1,466 @@
+#include "dbfile/dbf_Reader.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <set>
+
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "dbfile/dbf_RowReader.h"
+#include "dbfile/dbf_TableBlob.h"
+#include "dbfile/dbf_Vfs.h"
+#include "platform/base/nex_Exception.h"
+
+namespace {
+
+[[noreturn]] void Damaged(const std::string& why) { nex_ThrowCmd("the file is damaged (" + why + ")"); }
+
+[[noreturn]] void DamagedField(const dbf_ReadTable& t, std::int64_t oid, const std::string& field, const char* what) {
+  Damaged("the field \"" + field + "\" of row " + std::to_string(oid) + " of class " + t.className + " holds " + what);
+}
+
+std::string_view Text(sqlite3_stmt* s, int col) {
+  const auto* p = reinterpret_cast<const char*>(sqlite3_column_text(s, col));
+  return p ? std::string_view(p, static_cast<std::size_t>(sqlite3_column_bytes(s, col))) : std::string_view();
+}
+
+int HexDigit(char c) {
+  if (c >= '0' && c <= '9') return c - '0';
+  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+  return -1;
+}
+
+bool ParseUid(std::string_view t, cls_Uid& out) {
+  if (t.size() != 32) return false;
+  std::uint64_t hi = 0, lo = 0;
+  for (std::size_t i = 0; i < 32; ++i) {
+    int d = HexDigit(t[i]);
+    if (d < 0) return false;
+    (i < 16 ? hi : lo) = ((i < 16 ? hi : lo) << 4) | static_cast<std::uint64_t>(d);
+  }
+  out = cls_Uid(hi, lo);
+  return true;
+}
+
+std::string Hex32(std::uint32_t v) {
+  char buf[16];
+  std::snprintf(buf, sizeof buf, "0x%08x", v);
+  return buf;
+}
+
+}  // namespace
+
+dbf_Reader::dbf_Reader(const std::string& path, const dbc_UpgradeDriver& driver) : driver_(driver) {
+  CheckFile(path);
+  // Read-only, so opening changes nothing; NOMUTEX, as the connection never leaves this thread.
+  conn_ = std::make_unique<dbf_Connection>(path, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, dbf_ChecksumVfs());
+  ReadMeta();
+  ReadCatalog();
+}
+
+dbf_Reader::~dbf_Reader() {
+  tables_.clear();  // statements before their connection
+}
+
+// What the file is, told from its first bytes before SQLite reads it.
+void dbf_Reader::CheckFile(const std::string& path) {
+  namespace fs = std::filesystem;
+  std::error_code ec;
+  fs::file_status st = fs::status(path, ec);
+  if (!fs::exists(st)) nex_ThrowCmd("there is no such file");
+  if (fs::is_directory(st)) nex_ThrowCmd("it is a directory, not a file");
+  if (!fs::is_regular_file(st)) nex_ThrowCmd("it is not a regular file");
+  std::uintmax_t size = fs::file_size(path, ec);
+  if (ec) nex_ThrowCmd("its size cannot be read (" + ec.message() + ")");
+  if (size == 0) nex_ThrowCmd("the file is empty");
+  unsigned char bytes[dbf_kHeaderSize] = {};
+  std::ifstream in(path, std::ios::binary);
+  if (!in) nex_ThrowCmd("the file cannot be read");
+  in.read(reinterpret_cast<char*>(bytes), sizeof bytes);
+  const auto got = static_cast<std::size_t>(in.gcount());
+  static const char kMagic[] = "SQLite format 3";
+  if (got < dbf_kHeaderSize && std::memcmp(bytes, kMagic, std::min(got, sizeof kMagic)) == 0)
+    Damaged("truncated: it holds " + std::to_string(got) + " of the " + std::to_string(dbf_kHeaderSize) +
+            " bytes of its header");
+  dbf_Header h;
+  if (!dbf_ParseHeader(bytes, got, h))
+    nex_ThrowCmd("the file is not a model database (it is not an SQLite database)");
+  if (h.applicationId != dbf_kApplicationId)
+    nex_ThrowCmd("the file is not a model database (its application id is " + Hex32(h.applicationId) + ", not " +
+                 Hex32(dbf_kApplicationId) + ")");
+  if (h.userVersion > static_cast<std::uint32_t>(dbf_DatabaseVersion()))
+    nex_ThrowCmd(std::string("the file was written by a newer library (database version ") + std::to_string(h.userVersion) +
+                 "; this library reads versions up to " + std::to_string(dbf_DatabaseVersion()) + ")");
+  if (h.pageSize < 512 || h.pageSize > 65536 || (h.pageSize & (h.pageSize - 1)) != 0)
+    Damaged(std::string("its header gives the page size ") + std::to_string(h.pageSize));
+  if (h.reservedBytes != dbf_kChecksumBytes) Damaged("its pages carry no checksums");
+  const std::uintmax_t expected = std::uintmax_t(h.pageCount) * h.pageSize;
+  if (h.pageCount != 0 && expected > size)
+    Damaged(std::string("truncated: it holds ") + std::to_string(size) + " of its " + std::to_string(expected) + " bytes");
+  if (h.pageCount != 0 && expected < size)
+    Damaged(std::string("it is ") + std::to_string(size - expected) + " bytes longer than its pages");
+  if (size % h.pageSize != 0)
+    Damaged(std::string("its ") + std::to_string(size) + " bytes are not a whole number of " +
+            std::to_string(h.pageSize) + "-byte pages");
+  VerifyPages(in, h.pageSize, size / h.pageSize);
+}
+
+// Every page, not only those the rows are read from: pages of indexes this library never reads
+// would otherwise keep a changed byte unnoticed for the next tool that reads them.
+void dbf_Reader::VerifyPages(std::ifstream& in, std::uint32_t pageSize, std::uintmax_t pages) {
+  // SQLite never writes the page that holds the byte at offset 2^30 (its lock byte).
+  const std::uintmax_t lockPage = (std::uintmax_t(1) << 30) / pageSize + 1;
+  std::vector<unsigned char> page(pageSize);
+  in.clear();
+  in.seekg(0);
+  const std::size_t body = pageSize - dbf_kChecksumBytes;
+  for (std::uintmax_t number = 1; number <= pages; ++number) {
+    if (!in.read(reinterpret_cast<char*>(page.data()), pageSize)) nex_ThrowCmd("the file cannot be read");
+    if (number == lockPage) continue;
+    std::uint64_t stored = 0;
+    for (int i = dbf_kChecksumBytes - 1; i >= 0; --i) stored = (stored << 8) | page[body + static_cast<std::size_t>(i)];
+    if (dbf_PageChecksum(page.data(), body, static_cast<std::int64_t>(number)) != stored)
+      Damaged(std::string("page ") + std::to_string(number) + " fails its checksum");
+  }
+}
+
+void dbf_Reader::ReadMeta() {
+  std::set<std::string> tables;
+  dbf_Statement list(conn_->Get(), "SELECT name FROM sqlite_master WHERE type = 'table'");
+  while (list.Step()) tables.emplace(Text(list.Get(), 0));
+  for (const char* own : {dbf_kMetaTable, dbf_kCatalogTable, dbf_kFieldsTable, dbf_kRootsTable})
+    if (!tables.count(own)) Damaged(std::string("it has no table ") + own);
+
+  std::string format, version;
+  dbf_Statement meta(conn_->Get(), "SELECT \"key\", \"value\" FROM " + dbf_Quote(dbf_kMetaTable));
+  while (meta.Step()) {
+    std::string_view key = Text(meta.Get(), 0);
+    if (key == "format") format = Text(meta.Get(), 1);
+    else if (key == "databaseVersion") version = Text(meta.Get(), 1);
+  }
+  if (format != dbf_kFormatName) nex_ThrowCmd("the file is not a model database (its format is \"" + format + "\")");
+  std::int64_t header = conn_->QueryInt("PRAGMA user_version");
+  if (version != std::to_string(header))
+    Damaged("its database version \"" + version + "\" differs from its header's " + std::to_string(header));
+  databaseVersion_ = static_cast<int>(header);
+}
+
+void dbf_Reader::ReadCatalog() {
+  const cls_ClassRegistrar& registrar = cls_ClassRegistrar::Instance();
+  dbf_Statement catalog(conn_->Get(), "SELECT \"name\", \"typeId\", \"version\", \"fieldHash\", \"rows\" FROM " +
+                                          dbf_Quote(dbf_kCatalogTable) + " ORDER BY rowid");
+  dbf_Statement fields(conn_->Get(), "SELECT \"name\", \"number\", \"type\", \"count\", \"collection\" FROM " +
+                                         dbf_Quote(dbf_kFieldsTable) + " WHERE \"class\" = ?1 ORDER BY \"position\"");
+  while (catalog.Step()) {
+    sqlite3_stmt* c = catalog.Get();
+    if (sqlite3_column_type(c, 0) != SQLITE_TEXT || sqlite3_column_type(c, 1) != SQLITE_INTEGER ||
+        sqlite3_column_type(c, 2) != SQLITE_INTEGER || sqlite3_column_type(c, 3) != SQLITE_TEXT ||
+        sqlite3_column_type(c, 4) != SQLITE_INTEGER)
+      Damaged("its catalog holds a malformed entry");
+    auto t = std::make_unique<dbf_ReadTable>();
+    t->className = Text(c, 0);
+    std::int64_t typeId = sqlite3_column_int64(c, 1);
+    std::int64_t version = sqlite3_column_int64(c, 2);
+    std::string hash(Text(c, 3));
+    t->rows = sqlite3_column_int64(c, 4);
+    if (typeId < 0 || typeId > UINT32_MAX || version < 0 || version > INT32_MAX || t->rows < 0)
+      Damaged("its catalog entry of class " + t->className + " is out of range");
+    t->storedTypeId = static_cast<std::uint32_t>(typeId);
+    t->storedVersion = static_cast<int>(version);
+
+    t->cls = registrar.ByName(t->className);
+    if (!t->cls) nex_ThrowCmd("the file holds objects of class " + t->className + ", which this library does not know");
+    const int current = t->cls->Version();
+    if (t->storedVersion > current)
+      nex_ThrowCmd("class " + t->className + " is stored at version " + std::to_string(t->storedVersion) +
+                   ", newer than this library's version " + std::to_string(current));
+
+    // The stored field table describes the stored columns; its hash guards it.
+    std::vector<cls_Attribute> stored;
+    sqlite3_bind_text(fields.Get(), 1, t->className.c_str(), -1, SQLITE_TRANSIENT);
+    int column = 2;
+    while (fields.Step()) {
+      sqlite3_stmt* f = fields.Get();
+      dbf_ReadField field;
+      field.name = Text(f, 0);
+      field.type = sqlite3_column_int(f, 2);
+      if (!dbf_KindOf(field.type, field.kind))
+        Damaged("the field \"" + field.name + "\" of class " + t->className + " has an unknown type");
+      field.column = column;
+      column += field.kind == dbf_Kind::Object ? 2 : 1;
+      t->hasObjects = t->hasObjects || field.kind == dbf_Kind::Object || field.kind == dbf_Kind::ObjectList;
+      stored.push_back(cls_Attribute{cls_FieldHandle(sqlite3_column_int(f, 1), field.name.c_str()), field.type,
+                                     sqlite3_column_int(f, 3), sqlite3_column_int(f, 4)});
+      t->fields.push_back(std::move(field));
+    }
+    fields.Reset();
+    if (dbf_FieldTableHash(stored) != hash) Damaged("the stored fields of class " + t->className + " do not match their hash");
+    if (t->storedVersion == current && hash != dbf_FieldTableHash(t->cls->Attributes()))
+      nex_ThrowCmd("the fields of class " + t->className + " differ from the ones stored at its version " +
+                   std::to_string(current) + "; a changed field table needs a new class version and an upgrade step");
+    if (t->storedVersion < current) {
+      if (!driver_.HasPath(t->className, t->storedVersion, current))
+        nex_ThrowCmd("class " + t->className + " is stored at version " + std::to_string(t->storedVersion) +
+                     ", from which no chain of upgrade steps reaches its current version " + std::to_string(current));
+      t->upgrade = true;
+    }
+    for (std::size_t i = 0; i < t->fields.size(); ++i) t->byName.emplace(t->fields[i].name, i);
+    if (!byStoredId_.emplace(t->storedTypeId, t.get()).second)
+      Damaged(std::string("two classes of its catalog share the type id ") + std::to_string(t->storedTypeId));
+    PrepareTable(*t);
+    tables_.push_back(std::move(t));
+  }
+}
+
+void dbf_Reader::PrepareTable(dbf_ReadTable& t) {
+  std::string cols = dbf_Quote(dbf_kOidColumn) + ", " + dbf_Quote(dbf_kUidColumn);
+  for (const auto& f : t.fields) {
+    if (f.kind == dbf_Kind::Object) cols += ", " + dbf_Quote(f.name + "#OID") + ", " + dbf_Quote(f.name + "#ClassID");
+    else cols += ", " + dbf_Quote(f.name);
+  }
+  const std::string from = " FROM " + dbf_Quote(t.className);
+  try {
+    t.scan = dbf_Statement(conn_->Get(), "SELECT " + cols + from + " ORDER BY " + dbf_Quote(dbf_kOidColumn));
+    t.point = dbf_Statement(conn_->Get(), "SELECT " + cols + from + " WHERE " + dbf_Quote(dbf_kOidColumn) + " = ?1");
+  } catch (const QMXBasException& e) {
+    Damaged("the table of class " + t.className + " does not hold its stored columns: " + e.what());
+  }
+  // Rows are numbered 1..rows; every one is loaded exactly once, which LoadRoots checks.
+  dbf_Statement range(conn_->Get(), "SELECT min(" + dbf_Quote(dbf_kOidColumn) + "), max(" + dbf_Quote(dbf_kOidColumn) + ")" + from);
+  range.Step();
+  bool empty = sqlite3_column_type(range.Get(), 0) == SQLITE_NULL;
+  std::int64_t lo = sqlite3_column_int64(range.Get(), 0), hi = sqlite3_column_int64(range.Get(), 1);
+  if (empty ? t.rows != 0 : (lo != 1 || hi != t.rows))
+    Damaged("the rows of class " + t.className + " are not numbered 1 to " + std::to_string(t.rows));
+}
+
+bool dbf_Reader::MarkLoaded(dbf_ReadTable& t, std::int64_t oid) {
+  const auto i = static_cast<std::size_t>(oid);
+  if (i >= t.seen.size() && i <= 2 * t.seen.size() + 4096) t.seen.resize(std::max(i + 1, 2 * t.seen.size()), 0);
+  if (i < t.seen.size()) {
+    if (t.seen[i] || (!t.seenSparse.empty() && t.seenSparse.count(oid))) return false;
+    t.seen[i] = 1;
+    return true;
+  }
+  return t.seenSparse.insert(oid).second;
+}
+
+dbf_Reader::Nesting::Nesting(dbf_Reader& r) : reader_(r) {
+  if (++reader_.depth_ > kMaxDepth) {
+    --reader_.depth_;
+    Damaged(std::string("its objects nest more than ") + std::to_string(kMaxDepth) + " levels deep");
+  }
+}
+
+dbf_ReadTable& dbf_Reader::TableOf(std::uint32_t storedClassId) const {
+  auto it = byStoredId_.find(storedClassId);
+  if (it == byStoredId_.end()) Damaged(std::string("it refers to class id ") + std::to_string(storedClassId) + ", which its catalog lacks");
+  return *it->second;
+}
+
+unsigned dbf_Reader::CurrentTypeId(std::uint32_t storedClassId) const { return TableOf(storedClassId).cls->TypeId(); }
+
+sqlite3_stmt* dbf_Reader::Position(dbf_ReadTable& t, std::int64_t oid) {
+  if (!t.scanDone && (!t.scanStarted || t.scanOid < oid)) {
+    t.scanStarted = true;
+    while (true) {
+      if (!t.scan.Step()) {
+        t.scanDone = true;
+        break;
+      }
+      t.scanOid = sqlite3_column_int64(t.scan.Get(), 0);
+      if (t.scanOid >= oid) break;
+    }
+  }
+  if (!t.scanDone && t.scanOid == oid) return t.scan.Get();
+  t.point.Reset();
+  sqlite3_bind_int64(t.point.Get(), 1, oid);
+  return t.point.Step() ? t.point.Get() : nullptr;
+}
+
+void dbf_Reader::Load(const dbf_Ref& ref, dbf_LoadedRow& row) {
+  dbf_ReadTable& t = TableOf(ref.classId);
+  if (ref.oid < 1 || ref.oid > t.rows)
+    Damaged(std::string("it refers to row ") + std::to_string(ref.oid) + " of class " + t.className + ", which holds " +
+            std::to_string(t.rows) + " rows");
+  if (!MarkLoaded(t, ref.oid))
+    Damaged(std::string("row ") + std::to_string(ref.oid) + " of class " + t.className + " is held twice");
+  ++t.loaded;
+  sqlite3_stmt* s = Position(t, ref.oid);
+  if (!s) Damaged(std::string("row ") + std::to_string(ref.oid) + " of class " + t.className + " is missing");
+  row.table = &t;
+  row.oid = ref.oid;
+  row.upgraded.reset();
+  if (sqlite3_column_type(s, 1) != SQLITE_TEXT || !ParseUid(Text(s, 1), row.uid))
+    DamagedField(t, ref.oid, dbf_kUidColumn, "no uid");
+  Extract(t, s, row);
+  if (t.upgrade) Upgrade(row);
+}
+
+void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) {
+  const std::size_t n = t.fields.size();
+  row.values.resize(n);
+  row.refs.clear();
+  if (t.hasObjects) row.spans.assign(n, {0, 0});
+  for (std::size_t i = 0; i < n; ++i) {
+    dbf_ReadField& f = t.fields[i];
+    const int col = f.column;
+    const int type = sqlite3_column_type(s, col);
+    cls_Value& v = row.values[i];
+    switch (f.kind) {
+      case dbf_Kind::Int: {
+        std::int64_t x = sqlite3_column_int64(s, col);
+        if (type != SQLITE_INTEGER || x < INT32_MIN || x > INT32_MAX) DamagedField(t, row.oid, f.name, "no 32-bit integer");
+        v = static_cast<std::int32_t>(x);
+        break;
+      }
+      case dbf_Kind::Double:
+        if (type == SQLITE_FLOAT || type == SQLITE_INTEGER) v = sqlite3_column_double(s, col);
+        else if (type == SQLITE_NULL) v = std::numeric_limits<double>::quiet_NaN();
+        else DamagedField(t, row.oid, f.name, "no number");
+        break;
+      case dbf_Kind::Bool: {
+        std::int64_t x = sqlite3_column_int64(s, col);
+        if (type != SQLITE_INTEGER || (x != 0 && x != 1)) DamagedField(t, row.oid, f.name, "no boolean");
+        v = x == 1;
+        break;
+      }
+      case dbf_Kind::Text: {
+        if (type != SQLITE_TEXT) DamagedField(t, row.oid, f.name, "no text");
+        std::string_view text = Text(s, col);
+        if (f.type != cls_AttrEnum) {
+          v = cow_String(text);
+          break;
+        }
+        // Enumeration literals repeat from row to row: share one string per literal.
+        const cow_String* known = nullptr;
+        for (const auto& lit : f.literals)
+          if (lit.view() == text) known = &lit;
+        if (known) {
+          v = *known;
+        } else {
+          cow_String lit(text);
+          if (f.literals.size() < 64) f.literals.push_back(lit);
+          v = std::move(lit);
+        }
+        break;
+      }
+      case dbf_Kind::Table: {
+        cow_2DArray<double> table;
+        if (type != SQLITE_BLOB ||
+            !dbf_DecodeTable(sqlite3_column_blob(s, col), static_cast<std::size_t>(sqlite3_column_bytes(s, col)), table))
+          DamagedField(t, row.oid, f.name, "no table of doubles");
+        v = std::move(table);
+        break;
+      }
+      case dbf_Kind::Object: {
+        const int ctype = sqlite3_column_type(s, col + 1);
+        dbf_Ref ref;
+        if (type == SQLITE_INTEGER && ctype == SQLITE_INTEGER) {
+          ref.oid = sqlite3_column_int64(s, col);
+          std::int64_t cls = sqlite3_column_int64(s, col + 1);
+          if (ref.oid < 1 || cls < 0 || cls > UINT32_MAX) DamagedField(t, row.oid, f.name, "a malformed reference");
+          ref.classId = static_cast<std::uint32_t>(cls);
+        } else if (type != SQLITE_NULL || ctype != SQLITE_NULL) {
+          DamagedField(t, row.oid, f.name, "a malformed reference");
+        }
+        row.spans[i] = {static_cast<std::uint32_t>(row.refs.size()), 1};
+        row.refs.push_back(ref);
+        v = std::monostate{};
+        break;
+      }
+      default: {  // lists, stored as JSON text
+        if (type != SQLITE_TEXT) DamagedField(t, row.oid, f.name, "no list text");
+        std::string_view text = Text(s, col);
+        bool ok = false;
+        switch (f.kind) {
+          case dbf_Kind::IntList: ok = dbf_ParseIntList(text, v.emplace<std::vector<std::int32_t>>()); break;
+          case dbf_Kind::DoubleList: ok = dbf_ParseDoubleList(text, v.emplace<std::vector<double>>()); break;
+          case dbf_Kind::BoolList: ok = dbf_ParseBoolList(text, v.emplace<std::vector<bool>>()); break;
+          case dbf_Kind::TextList: ok = dbf_ParseTextList(text, v.emplace<std::vector<cow_String>>()); break;
+          default: {
+            std::vector<dbf_Ref> refs;
+            ok = dbf_ParseRefList(text, refs);
+            row.spans[i] = {static_cast<std::uint32_t>(row.refs.size()), static_cast<std::uint32_t>(refs.size())};
+            row.refs.insert(row.refs.end(), refs.begin(), refs.end());
+            v = std::monostate{};
+          }
+        }
+        if (!ok) DamagedField(t, row.oid, f.name, "malformed list text");
+      }
+    }
+  }
+}
+
+// The row as a record at its stored version, member objects as stub records of their classes,
+// carried through the conversions to the class's current version.
+void dbf_Reader::Upgrade(dbf_LoadedRow& row) {
+  dbf_ReadTable& t = *row.table;
+  auto up = std::make_unique<dbf_LoadedRow::Upgraded>();
+  up->record.typeId = t.cls->TypeId();
+  up->record.uid = row.uid;
+  auto stub = [&](const dbf_Ref& ref) -> cls_RecordPtr {
+    if (ref.oid == 0) return nullptr;
+    auto rec = std::make_shared<cls_Record>();
+    rec->typeId = CurrentTypeId(ref.classId);
+    up->stubs.emplace(rec.get(), std::pair{cls_RecordPtr(rec), ref});
+    return rec;
+  };
+  for (std::size_t i = 0; i < t.fields.size(); ++i) {
+    const dbf_ReadField& f = t.fields[i];
+    if (f.kind == dbf_Kind::Object) {
+      cls_RecordPtr p = stub(row.refs[row.spans[i].first]);
+      up->record.fields.emplace_back(f.name, p ? cls_Value(p) : cls_Value());
+    } else if (f.kind == dbf_Kind::ObjectList) {
+      std::vector<cls_RecordPtr> list;
+      for (std::uint32_t k = 0; k < row.spans[i].second; ++k) list.push_back(stub(row.refs[row.spans[i].first + k]));
+      up->record.fields.emplace_back(f.name, std::move(list));
+    } else {
+      up->record.fields.emplace_back(f.name, std::move(row.values[i]));
+    }
+  }
+  driver_.Upgrade(t.className, t.storedVersion, t.cls->Version(), up->record);
+  row.upgraded = std::move(up);
+}
+
+std::vector<dbf_LoadedRoot> dbf_Reader::LoadRoots(const cls_ClassMetadata* required) {
+  struct Entry {
+    cow_String name;
+    dbf_Ref ref;
+  };
+  std::vector<Entry> entries;
+  dbf_Statement roots(conn_->Get(),
+                      "SELECT \"name\", \"OID\", \"ClassID\" FROM " + dbf_Quote(dbf_kRootsTable) + " ORDER BY rowid");
+  while (roots.Step()) {
+    sqlite3_stmt* s = roots.Get();
+    if (sqlite3_column_type(s, 0) != SQLITE_TEXT || sqlite3_column_type(s, 1) != SQLITE_INTEGER ||
+        sqlite3_column_type(s, 2) != SQLITE_INTEGER)
+      Damaged("its list of roots holds a malformed entry");
+    std::int64_t cls = sqlite3_column_int64(s, 2);
+    if (cls < 0 || cls > UINT32_MAX) Damaged("its list of roots holds a malformed entry");
+    Entry e{cow_String(Text(s, 0)), dbf_Ref{sqlite3_column_int64(s, 1), static_cast<std::uint32_t>(cls)}};
+    const dbf_ReadTable& t = TableOf(e.ref.classId);
+    if (required && !t.cls->IsA(*required))
+      nex_ThrowCmd("the file holds a " + t.className + " under the name \"" + e.name.str() + "\", where a " +
+                   required->Name().str() + " belongs");
+    entries.push_back(std::move(e));
+  }
+  std::vector<dbf_LoadedRoot> out;
+  out.reserve(entries.size());
+  for (const Entry& e : entries) {
+    dbf_LoadedRow row;
+    Load(e.ref, row);
+    dbf_RowReader reader(*this, row);
+    const cls_ClassMetadata* cls = row.table->cls;
+    out.push_back(dbf_LoadedRoot{e.name, dbf_OwnedObject(cls, cls->NewFromRecord(reader))});
+  }
+  for (const auto& t : tables_)
+    if (t->loaded != t->rows)
+      Damaged(std::to_string(t->rows - t->loaded) + " of the " + std::to_string(t->rows) + " rows of class " +
+              t->className + " belong to nothing it holds");
+  return out;
+}

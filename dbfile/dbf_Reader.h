@@ -1,0 +1,123 @@
+#pragma once
+// One opening of a database file: checks what the file is before SQLite reads it, checks its
+// catalog against the registered classes (unknown classes, newer versions, field tables edited
+// without a version step, versions without a chain of upgrade steps are all refused before any
+// object is built), then loads rows on demand as the objects that hold them read their fields.
+// Each class table is read in OID order, which is the order the objects are read in, so loading
+// is one pass over each table. A row stored at an older class version is upgraded through the
+// converter chain as it is loaded, before its class reads it.
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "platform/persist/cls_ClassMetadata.h"
+#include "platform/persist/cls_Record.h"
+#include "platform/persist/dbc_Converter.h"
+#include "dbfile/dbf_Format.h"
+#include "dbfile/dbf_ListText.h"
+#include "dbfile/dbf_Root.h"
+#include "dbfile/dbf_Sqlite.h"
+
+struct dbf_ReadField {
+  std::string name;
+  int type = 0;  // attribute type as stored
+  dbf_Kind kind = dbf_Kind::Int;
+  int column = 0;  // the first result column of the field
+  std::vector<cow_String> literals;  // enumeration literals seen so far, shared by every row
+};
+
+struct dbf_ReadTable {
+  std::string className;
+  const cls_ClassMetadata* cls = nullptr;  // the registered class of today
+  std::uint32_t storedTypeId = 0;
+  int storedVersion = 0;
+  bool upgrade = false;
+  bool hasObjects = false;
+  std::vector<dbf_ReadField> fields;
+  std::unordered_map<std::string_view, std::size_t> byName;  // views into fields' names
+  std::int64_t rows = 0;
+  dbf_Statement scan;   // every row in OID order
+  dbf_Statement point;  // one row by OID
+  bool scanStarted = false;
+  bool scanDone = false;
+  std::int64_t scanOid = 0;
+  // The rows loaded so far, by OID: densely while OIDs come in order, as a set beyond that, so
+  // that a row count a damaged catalog inflates costs no memory.
+  std::vector<unsigned char> seen;
+  std::unordered_set<std::int64_t> seenSparse;
+  std::int64_t loaded = 0;
+};
+
+// One stored row, loaded. Member objects stay references until their owner reads them.
+struct dbf_LoadedRow {
+  struct Upgraded {
+    cls_Record record;  // the row as the conversions left it; member objects are stub records
+    // Each stub with the row it stands for. Holding the stub keeps its address from being
+    // reused by a record a conversion makes.
+    std::unordered_map<const cls_Record*, std::pair<cls_RecordPtr, dbf_Ref>> stubs;
+  };
+  dbf_ReadTable* table = nullptr;
+  std::int64_t oid = 0;
+  cls_Uid uid = cls_Uid::Null();
+  std::vector<cls_Value> values;  // by stored field; objects are in refs
+  std::vector<dbf_Ref> refs;
+  std::vector<std::pair<std::uint32_t, std::uint32_t>> spans;  // by stored field: first ref, count
+  std::unique_ptr<Upgraded> upgraded;  // set when the row was stored at an older version
+};
+
+class dbf_Reader {
+ public:
+  // Refuses (nex_CmdException, without the file's name) whatever makes the file unreadable.
+  dbf_Reader(const std::string& path, const dbc_UpgradeDriver& driver);
+  ~dbf_Reader();
+  dbf_Reader(const dbf_Reader&) = delete;
+  dbf_Reader& operator=(const dbf_Reader&) = delete;
+
+  // Reads every root; then refuses rows that no root holds.
+  std::vector<dbf_LoadedRoot> LoadRoots(const cls_ClassMetadata* required);
+
+  // --- for row readers ---
+  void Load(const dbf_Ref& ref, dbf_LoadedRow& row);
+  // Counts the nesting of member objects being read; refuses a depth no model reaches, before
+  // the reading recursion could exhaust the stack.
+  class Nesting {
+   public:
+    explicit Nesting(dbf_Reader& r);
+    ~Nesting() { --reader_.depth_; }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+
+   private:
+    dbf_Reader& reader_;
+  };
+  static constexpr int kMaxDepth = 256;
+  // Today's type id of a stored class id.
+  unsigned CurrentTypeId(std::uint32_t storedClassId) const;
+
+ private:
+  void CheckFile(const std::string& path);
+  void VerifyPages(std::ifstream& in, std::uint32_t pageSize, std::uintmax_t pages);
+  void ReadMeta();
+  void ReadCatalog();
+  void PrepareTable(dbf_ReadTable& t);
+  dbf_ReadTable& TableOf(std::uint32_t storedClassId) const;
+  sqlite3_stmt* Position(dbf_ReadTable& t, std::int64_t oid);
+  void Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row);
+  void Upgrade(dbf_LoadedRow& row);
+  // False when the row was loaded before.
+  static bool MarkLoaded(dbf_ReadTable& t, std::int64_t oid);
+
+  const dbc_UpgradeDriver& driver_;
+  std::unique_ptr<dbf_Connection> conn_;
+  int databaseVersion_ = 0;
+  std::vector<std::unique_ptr<dbf_ReadTable>> tables_;
+  std::unordered_map<std::uint32_t, dbf_ReadTable*> byStoredId_;
+  int depth_ = 0;
+};

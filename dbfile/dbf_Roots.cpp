@@ -1,0 +1,89 @@
+#include "dbfile/dbf_Roots.h"
+
+#include <set>
+
+#include "platform/persist/dbc_Converter.h"
+#include "dbfile/dbf_AtomicFile.h"
+#include "dbfile/dbf_Reader.h"
+#include "dbfile/dbf_Vfs.h"
+#include "dbfile/dbf_Writer.h"
+#include "platform/base/nex_Exception.h"
+
+namespace {
+
+const char* JournalMode(dbf_Journal j) {
+  switch (j) {
+    case dbf_Journal::Wal: return "WAL";
+    case dbf_Journal::Off: return "OFF";
+    default: return "DELETE";
+  }
+}
+
+void Save(const std::vector<dbf_Root>& roots, const std::string& path, const dbf_SaveOptions& options) {
+  const int page = options.pageSize;
+  if (page < 512 || page > 65536 || (page & (page - 1)) != 0)
+    nex_ThrowCmd(std::string("the page size ") + std::to_string(page) + " is not a power of two from 512 to 65536");
+  std::set<std::string_view> names;
+  for (const auto& r : roots) {
+    if (r.name.empty()) nex_ThrowCmd("an object to store has no name");
+    if (!names.insert(r.name.view()).second) nex_ThrowCmd("two objects to store share the name \"" + r.name.str() + "\"");
+    if (!r.cls || !r.object) nex_ThrowCmd("the object \"" + r.name.str() + "\" to store is missing");
+  }
+  const auto* progress = options.progress ? &options.progress : nullptr;
+
+  dbf_AtomicFile file(path);
+  std::int64_t rows = 0;
+  {
+    // NOMUTEX: the connection never leaves this thread, so SQLite need not lock each call.
+    dbf_Connection conn(file.TempPath(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX,
+                        dbf_ChecksumVfs());
+    conn.Exec(std::string("PRAGMA page_size = ") + std::to_string(page));
+    int reserve = dbf_kChecksumBytes, reserved = -1;
+    sqlite3_file_control(conn.Get(), "main", SQLITE_FCNTL_RESERVE_BYTES, &reserve);
+    sqlite3_file_control(conn.Get(), "main", SQLITE_FCNTL_RESERVE_BYTES, &reserved);
+    if (reserved != dbf_kChecksumBytes) nex_ThrowCmd("SQLite does not reserve the bytes of the page checksums");
+    conn.Exec(std::string("PRAGMA journal_mode = ") + JournalMode(options.journal));
+    // The file is synced once, whole, before it is renamed into place.
+    conn.Exec("PRAGMA synchronous = OFF");
+    conn.Exec("PRAGMA locking_mode = EXCLUSIVE");
+    conn.Exec("PRAGMA cache_size = -65536");
+    conn.Exec("BEGIN");
+    {
+      dbf_Writer writer(conn.Get(), progress);
+      for (const auto& r : roots) writer.WriteRoot(r.name, *r.cls, r.object);
+      writer.Finish(dbf_DatabaseVersion(), dbf_LibraryVersion());
+      rows = writer.Rows();
+    }
+    if (progress) (*progress)("commit", rows);
+    conn.Exec("COMMIT");
+    // A file left in WAL mode would need write access to be read; hand it over as a plain file.
+    if (options.journal == dbf_Journal::Wal) conn.Exec("PRAGMA journal_mode = DELETE");
+    conn.Close();
+  }
+  if (progress) (*progress)("sync", rows);
+  file.SyncTemp();
+  if (progress) (*progress)("rename", rows);
+  file.Commit();
+}
+
+}  // namespace
+
+void dbf_SaveRoots(const std::vector<dbf_Root>& roots, const std::string& path, const dbf_SaveOptions& options) {
+  try {
+    Save(roots, path, options);
+  } catch (const std::exception& e) {
+    nex_ThrowCmd("Cannot save the model database \"" + path + "\": " + e.what());
+  }
+}
+
+std::vector<dbf_LoadedRoot> dbf_OpenRoots(const std::string& path, const dbc_UpgradeDriver* driver,
+                                          const cls_ClassMetadata* required) {
+  try {
+    std::unique_ptr<dbc_UpgradeDriver> own;
+    if (!driver) driver = (own = std::make_unique<dbc_UpgradeDriver>()).get();
+    dbf_Reader reader(path, *driver);
+    return reader.LoadRoots(required);
+  } catch (const std::exception& e) {
+    nex_ThrowCmd("Cannot open the model database \"" + path + "\": " + e.what());
+  }
+}

@@ -1,0 +1,136 @@
+#include "dbfile/dbf_RowReader.h"
+
+#include <cstring>
+#include <string>
+
+#include "platform/base/nex_Exception.h"
+
+unsigned dbf_RowReader::GetTypeId() const {
+  return row_.upgraded ? row_.upgraded->record.typeId : row_.table->cls->TypeId();
+}
+
+// Classes read their fields in the order they wrote them, so the next field is tried first.
+long dbf_RowReader::Index(const char* name) const {
+  const auto& fields = row_.table->fields;
+  if (cursor_ < fields.size() && std::strcmp(fields[cursor_].name.c_str(), name) == 0) return static_cast<long>(cursor_++);
+  auto it = row_.table->byName.find(name);
+  if (it == row_.table->byName.end()) return -1;
+  cursor_ = it->second + 1;
+  return static_cast<long>(it->second);
+}
+
+const cls_Value* dbf_RowReader::Find(const char* name) const {
+  if (row_.upgraded) return row_.upgraded->record.Find(name);
+  long i = Index(name);
+  if (i < 0) return nullptr;
+  dbf_Kind kind = row_.table->fields[static_cast<std::size_t>(i)].kind;
+  if (kind == dbf_Kind::Object || kind == dbf_Kind::ObjectList)
+    Refuse(name, kind == dbf_Kind::Object ? "an object" : "a list of objects", "plain value");
+  return &row_.values[static_cast<std::size_t>(i)];
+}
+
+void dbf_RowReader::Refuse(const char* name, const char* holds, const char* kind) const {
+  nex_ThrowCmd(std::string("the field \"") + std::string(name) + "\" of row " + std::to_string(row_.oid) + " of class " +
+               row_.table->className + " holds " + holds + ", not " + cls_WithArticle(kind));
+}
+
+bool dbf_RowReader::Has(const char* name) const {
+  if (row_.upgraded) return row_.upgraded->record.Find(name) != nullptr;
+  return Index(name) >= 0;
+}
+
+template <class T>
+const T& dbf_RowReader::Get(const char* name, const char* kind) const {
+  const cls_Value* v = Find(name);
+  if (!v)
+    nex_ThrowCmd(std::string("row ") + std::to_string(row_.oid) + " of class " + row_.table->className + " has no field \"" + name + "\"");
+  const T* t = std::get_if<T>(v);
+  if (!t) Refuse(name, cls_WithArticle(cls_ValueKindName(*v)).c_str(), kind);
+  return *t;
+}
+
+std::int32_t dbf_RowReader::ReadInt(const char* name) const { return Get<std::int32_t>(name, "int"); }
+double dbf_RowReader::ReadDouble(const char* name) const { return Get<double>(name, "double"); }
+bool dbf_RowReader::ReadBool(const char* name) const { return Get<bool>(name, "bool"); }
+cow_String dbf_RowReader::ReadString(const char* name) const { return Get<cow_String>(name, "string"); }
+std::vector<std::int32_t> dbf_RowReader::ReadIntList(const char* name) const {
+  return Get<std::vector<std::int32_t>>(name, "list of ints");
+}
+std::vector<double> dbf_RowReader::ReadDoubleList(const char* name) const {
+  return Get<std::vector<double>>(name, "list of doubles");
+}
+std::vector<cow_String> dbf_RowReader::ReadStringList(const char* name) const {
+  return Get<std::vector<cow_String>>(name, "list of strings");
+}
+std::vector<bool> dbf_RowReader::ReadBoolList(const char* name) const {
+  return Get<std::vector<bool>>(name, "list of bools");
+}
+cow_2DArray<double> dbf_RowReader::ReadDoubleTable(const char* name) const {
+  return Get<cow_2DArray<double>>(name, "table of doubles");
+}
+
+template <class F>
+void dbf_RowReader::WithChild(const dbf_Ref& ref, dbf_LoadedRow& child, F fn) const {
+  dbf_Reader::Nesting nesting(reader_);
+  reader_.Load(ref, child);
+  dbf_RowReader r(reader_, child);
+  fn(r);
+}
+
+bool dbf_RowReader::ReadObject(const char* name, const cls_ReadFn& fn) const {
+  dbf_LoadedRow child;
+  if (row_.upgraded) {
+    const cls_Value* v = row_.upgraded->record.Find(name);
+    if (v && std::holds_alternative<std::monostate>(*v)) return false;
+    const cls_RecordPtr& p = Get<cls_RecordPtr>(name, "object");  // refuses a missing field
+    if (!p) return false;
+    auto stub = row_.upgraded->stubs.find(p.get());
+    if (stub == row_.upgraded->stubs.end()) fn(cls_RecordReader(*p));  // made by a conversion
+    else WithChild(stub->second.second, child, fn);
+    return true;
+  }
+  long i = Index(name);
+  if (i < 0)
+    nex_ThrowCmd(std::string("row ") + std::to_string(row_.oid) + " of class " + row_.table->className + " has no field \"" + name + "\"");
+  const dbf_ReadField& f = row_.table->fields[static_cast<std::size_t>(i)];
+  if (f.kind != dbf_Kind::Object) Refuse(name, f.kind == dbf_Kind::ObjectList ? "a list of objects" : "a plain value", "object");
+  const dbf_Ref& ref = row_.refs[row_.spans[static_cast<std::size_t>(i)].first];
+  if (ref.oid == 0) return false;
+  WithChild(ref, child, fn);
+  return true;
+}
+
+std::size_t dbf_RowReader::ReadObjectList(const char* name, const cls_ReadListFn& fn) const {
+  dbf_LoadedRow child;  // reused for every element
+  if (row_.upgraded) {
+    const auto& list = Get<std::vector<cls_RecordPtr>>(name, "list of objects");
+    for (std::size_t k = 0; k < list.size(); ++k) {
+      const cls_RecordPtr& p = list[k];
+      if (!p) {
+        fn(k, nullptr);
+        continue;
+      }
+      auto stub = row_.upgraded->stubs.find(p.get());
+      if (stub == row_.upgraded->stubs.end()) {
+        cls_RecordReader r(*p);
+        fn(k, &r);
+      } else {
+        WithChild(stub->second.second, child, [&](const cls_ReadVisitor& r) { fn(k, &r); });
+      }
+    }
+    return list.size();
+  }
+  long i = Index(name);
+  if (i < 0)
+    nex_ThrowCmd(std::string("row ") + std::to_string(row_.oid) + " of class " + row_.table->className + " has no field \"" + name + "\"");
+  const dbf_ReadField& f = row_.table->fields[static_cast<std::size_t>(i)];
+  if (f.kind != dbf_Kind::ObjectList) Refuse(name, f.kind == dbf_Kind::Object ? "an object" : "a plain value", "list of objects");
+  auto [first, count] = row_.spans[static_cast<std::size_t>(i)];
+  // The refs stay valid while children load: they belong to this row, not to the child.
+  for (std::size_t k = 0; k < count; ++k) {
+    const dbf_Ref& ref = row_.refs[first + k];
+    if (ref.oid == 0) fn(k, nullptr);
+    else WithChild(ref, child, [&](const cls_ReadVisitor& r) { fn(k, &r); });
+  }
+  return count;
+}

@@ -1,0 +1,168 @@
+#include "dbfile/dbf_RowWriter.h"
+
+#include <cmath>
+#include <cstring>
+
+#include "dbfile/dbf_TableBlob.h"
+#include "platform/base/nex_Exception.h"
+
+namespace {
+
+const char* KindName(dbf_Kind kind) {
+  switch (kind) {
+    case dbf_Kind::Int: return "int";
+    case dbf_Kind::Double: return "double";
+    case dbf_Kind::Bool: return "bool";
+    case dbf_Kind::Text: return "string";
+    case dbf_Kind::IntList: return "list of ints";
+    case dbf_Kind::DoubleList: return "list of doubles";
+    case dbf_Kind::BoolList: return "list of bools";
+    case dbf_Kind::TextList: return "list of strings";
+    case dbf_Kind::Table: return "table of doubles";
+    case dbf_Kind::Object: return "object";
+    case dbf_Kind::ObjectList: return "list of objects";
+  }
+  return "value";
+}
+
+void HexUid(const cls_Uid& uid, char* out) {
+  static const char* kHex = "0123456789abcdef";
+  std::uint64_t hi = uid.High(), lo = uid.Low();
+  for (int i = 15; i >= 0; --i, hi >>= 4) out[i] = kHex[hi & 0xf];
+  for (int i = 31; i >= 16; --i, lo >>= 4) out[i] = kHex[lo & 0xf];
+}
+
+}  // namespace
+
+std::string dbf_RowWriter::ClassName() const { return table_ ? table_->cls->Name().str() : std::string("?"); }
+
+bool dbf_RowWriter::StartWrite(unsigned typeId, const cls_Uid& uid) const {
+  if (table_)
+    nex_ThrowCmd("an object of class " + ClassName() + " started a second record (type id " + std::to_string(typeId) +
+                 ") before its own was stored");
+  dbf_WriteTable& t = writer_.TableFor(typeId);
+  table_ = &t;
+  oid_ = t.nextOid++;
+  HexUid(uid, uid_);
+  if (cells_.size() < t.fields.size()) cells_.resize(t.fields.size());
+  written_.assign(t.fields.size(), 0);
+  cursor_ = 0;
+  return true;
+}
+
+// Fields come in the order of the class's attributes, so the next one is tried first.
+dbf_RowWriter::Cell& dbf_RowWriter::Slot(const char* name, dbf_Kind kind) const {
+  if (!table_) nex_ThrowCmd(std::string("the field \"") + name + "\" was written before its object started a record");
+  const auto& fields = table_->fields;
+  std::size_t i = cursor_;
+  if (i >= fields.size() || std::strcmp(fields[i].name.c_str(), name) != 0) {
+    auto it = table_->byName.find(name);
+    if (it == table_->byName.end())
+      nex_ThrowCmd("class " + ClassName() + " wrote the field \"" + name + "\", which its metadata does not declare");
+    i = it->second;
+  }
+  if (fields[i].kind != kind)
+    nex_ThrowCmd("class " + ClassName() + " wrote its field \"" + name + "\" as " + cls_WithArticle(KindName(kind)) +
+                 ", but stores it as " + cls_WithArticle(KindName(fields[i].kind)));
+  if (written_[i]) nex_ThrowCmd("class " + ClassName() + " wrote its field \"" + name + "\" twice");
+  written_[i] = 1;
+  cursor_ = i + 1;
+  return cells_[i];
+}
+
+void dbf_RowWriter::WriteInt(const char* name, std::int32_t v) const { Slot(name, dbf_Kind::Int).i = v; }
+void dbf_RowWriter::WriteDouble(const char* name, double v) const { Slot(name, dbf_Kind::Double).d = v; }
+void dbf_RowWriter::WriteBool(const char* name, bool v) const { Slot(name, dbf_Kind::Bool).i = v ? 1 : 0; }
+void dbf_RowWriter::WriteString(const char* name, const cow_String& v) const { Slot(name, dbf_Kind::Text).text = v; }
+
+void dbf_RowWriter::WriteIntList(const char* name, const std::vector<std::int32_t>& v) const {
+  Cell& c = Slot(name, dbf_Kind::IntList);
+  c.bytes.clear();
+  dbf_AppendIntList(c.bytes, v);
+}
+void dbf_RowWriter::WriteDoubleList(const char* name, const std::vector<double>& v) const {
+  Cell& c = Slot(name, dbf_Kind::DoubleList);
+  c.bytes.clear();
+  dbf_AppendDoubleList(c.bytes, v);
+}
+void dbf_RowWriter::WriteStringList(const char* name, const std::vector<cow_String>& v) const {
+  Cell& c = Slot(name, dbf_Kind::TextList);
+  c.bytes.clear();
+  dbf_AppendTextList(c.bytes, v);
+}
+void dbf_RowWriter::WriteBoolList(const char* name, const std::vector<bool>& v) const {
+  Cell& c = Slot(name, dbf_Kind::BoolList);
+  c.bytes.clear();
+  dbf_AppendBoolList(c.bytes, v);
+}
+void dbf_RowWriter::WriteDoubleTable(const char* name, const cow_2DArray<double>& v) const {
+  dbf_EncodeTable(v, Slot(name, dbf_Kind::Table).bytes);
+}
+
+void dbf_RowWriter::WriteNull(const char* name) const { Slot(name, dbf_Kind::Object).ref = dbf_Ref{}; }
+
+void dbf_RowWriter::WriteObject(const char* name, const void* obj, cls_WriteFn fn) const {
+  Cell& c = Slot(name, dbf_Kind::Object);
+  c.ref = dbf_Ref{};
+  if (!obj) return;
+  dbf_RowWriter& child = writer_.WriterAt(depth_ + 1);
+  fn(obj, child);
+  c.ref = child.Finish();
+}
+
+void dbf_RowWriter::WriteObjectList(const char* name, const std::vector<const void*>& objs, cls_WriteFn fn) const {
+  Cell& c = Slot(name, dbf_Kind::ObjectList);
+  c.bytes.clear();
+  c.bytes += '[';
+  dbf_RowWriter& child = writer_.WriterAt(depth_ + 1);
+  for (std::size_t i = 0; i < objs.size(); ++i) {
+    if (i) c.bytes += ',';
+    if (!objs[i]) {
+      c.bytes += "null";
+      continue;
+    }
+    fn(objs[i], child);
+    dbf_AppendRef(c.bytes, child.Finish());
+  }
+  c.bytes += ']';
+}
+
+dbf_Ref dbf_RowWriter::Finish() {
+  if (!table_) nex_ThrowCmd("an object wrote nothing (its DBWrite started no record)");
+  const auto& fields = table_->fields;
+  for (std::size_t i = 0; i < fields.size(); ++i)
+    if (!written_[i]) nex_ThrowCmd("class " + ClassName() + " did not write its field \"" + fields[i].name + "\"");
+  sqlite3_stmt* s = table_->insert.Get();
+  sqlite3_bind_int64(s, 1, oid_);
+  sqlite3_bind_text(s, 2, uid_, 32, SQLITE_STATIC);
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    const Cell& c = cells_[i];
+    const int p = fields[i].param;
+    switch (fields[i].kind) {
+      case dbf_Kind::Int:
+      case dbf_Kind::Bool: sqlite3_bind_int64(s, p, c.i); break;
+      case dbf_Kind::Double:
+        if (std::isnan(c.d)) sqlite3_bind_null(s, p);  // SQLite would store NULL anyway
+        else sqlite3_bind_double(s, p, c.d);
+        break;
+      case dbf_Kind::Text: sqlite3_bind_text(s, p, c.text.c_str(), static_cast<int>(c.text.size()), SQLITE_STATIC); break;
+      case dbf_Kind::Table: sqlite3_bind_blob(s, p, c.bytes.data(), static_cast<int>(c.bytes.size()), SQLITE_STATIC); break;
+      case dbf_Kind::Object:
+        if (c.ref.oid == 0) {
+          sqlite3_bind_null(s, p);
+          sqlite3_bind_null(s, p + 1);
+        } else {
+          sqlite3_bind_int64(s, p, c.ref.oid);
+          sqlite3_bind_int64(s, p + 1, c.ref.classId);
+        }
+        break;
+      default: sqlite3_bind_text(s, p, c.bytes.data(), static_cast<int>(c.bytes.size()), SQLITE_STATIC); break;
+    }
+  }
+  table_->insert.Run();
+  ++table_->rows;
+  dbf_Ref ref{oid_, table_->cls->TypeId()};
+  table_ = nullptr;
+  writer_.RowStored();
+  return ref;
+}

@@ -1,0 +1,53 @@
+#pragma once
+// The write visitor of the database file: collects one object's fields as it writes them and
+// stores them as one row of its class's table when the object is done. Member objects are
+// stored first, as rows of their own classes, and referenced by OID and class id.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/persist/cls_Visitor.h"
+#include "dbfile/dbf_Writer.h"
+
+class dbf_RowWriter final : public cls_WriteVisitor {
+ public:
+  dbf_RowWriter(dbf_Writer& writer, std::size_t depth) : writer_(writer), depth_(depth) {}
+
+  bool StartWrite(unsigned typeId, const cls_Uid& uid) const override;
+  void WriteInt(const char* name, std::int32_t v) const override;
+  void WriteDouble(const char* name, double v) const override;
+  void WriteBool(const char* name, bool v) const override;
+  void WriteString(const char* name, const cow_String& v) const override;
+  void WriteIntList(const char* name, const std::vector<std::int32_t>& v) const override;
+  void WriteDoubleList(const char* name, const std::vector<double>& v) const override;
+  void WriteStringList(const char* name, const std::vector<cow_String>& v) const override;
+  void WriteBoolList(const char* name, const std::vector<bool>& v) const override;
+  void WriteDoubleTable(const char* name, const cow_2DArray<double>& v) const override;
+  void WriteNull(const char* name) const override;
+  void WriteObject(const char* name, const void* obj, cls_WriteFn fn) const override;
+  void WriteObjectList(const char* name, const std::vector<const void*>& objs, cls_WriteFn fn) const override;
+
+  // Stores the row written since StartWrite and returns its reference. Refuses an object that
+  // started no record or left a declared field unwritten.
+  dbf_Ref Finish();
+
+ private:
+  struct Cell {
+    std::int64_t i = 0;
+    double d = 0;
+    cow_String text;
+    std::string bytes;  // list text and table blobs
+    dbf_Ref ref;
+  };
+  Cell& Slot(const char* name, dbf_Kind kind) const;
+  std::string ClassName() const;
+
+  dbf_Writer& writer_;
+  std::size_t depth_;
+  mutable dbf_WriteTable* table_ = nullptr;
+  mutable std::int64_t oid_ = 0;
+  mutable char uid_[32] = {};
+  mutable std::vector<Cell> cells_;
+  mutable std::vector<char> written_;
+  mutable std::size_t cursor_ = 0;
+};

@@ -1,0 +1,72 @@
+#pragma once
+// One save of objects into a new, empty database file: a table per class, created when the first
+// object of the class arrives, with one prepared insert; the roots, the catalog, the stored
+// field tables and the file's identity. The caller holds the transaction.
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/persist/cls_ClassMetadata.h"
+#include "dbfile/dbf_Format.h"
+#include "dbfile/dbf_ListText.h"
+#include "dbfile/dbf_Sqlite.h"
+
+class dbf_RowWriter;
+
+struct dbf_WriteField {
+  std::string name;
+  dbf_Kind kind;
+  int param;  // the first bind parameter of the field's column(s)
+};
+
+struct dbf_WriteTable {
+  const cls_ClassMetadata* cls = nullptr;
+  std::vector<dbf_WriteField> fields;
+  std::unordered_map<std::string_view, std::size_t> byName;  // views into fields' names
+  dbf_Statement insert;
+  std::int64_t nextOid = 1;
+  std::int64_t rows = 0;
+};
+
+class dbf_Writer {
+ public:
+  using Progress = std::function<void(const char* stage, std::int64_t rows)>;
+
+  // Creates the file's own tables. `progress` may be null.
+  dbf_Writer(sqlite3* db, const Progress* progress);
+  ~dbf_Writer();
+  dbf_Writer(const dbf_Writer&) = delete;
+  dbf_Writer& operator=(const dbf_Writer&) = delete;
+
+  // Stores the object and everything it holds, and lists it as a root under the name.
+  void WriteRoot(const cow_String& name, const cls_ClassMetadata& cls, const void* object);
+  // Stores the catalog, the field tables, the versions and the file's identity.
+  void Finish(int databaseVersion, const char* libraryVersion);
+  std::int64_t Rows() const noexcept { return rows_; }
+
+  // --- for row writers ---
+  // The table of a registered class, created on first use; refuses an unregistered type id and
+  // a class whose fields the file cannot store.
+  dbf_WriteTable& TableFor(unsigned typeId);
+  // The row writer for objects nested `depth` levels below a root (one per level, reused).
+  dbf_RowWriter& WriterAt(std::size_t depth);
+  void RowStored();
+
+ private:
+  dbf_WriteTable& CreateTable(const cls_ClassMetadata& cls);
+
+  sqlite3* db_;
+  const Progress* progress_;
+  std::vector<std::unique_ptr<dbf_WriteTable>> tables_;  // in creation order
+  std::unordered_map<unsigned, dbf_WriteTable*> byTypeId_;
+  dbf_WriteTable* last_ = nullptr;
+  std::vector<std::unique_ptr<dbf_RowWriter>> writers_;
+  dbf_Statement insertRoot_;
+  std::int64_t rows_ = 0;
+};

@@ -1,0 +1,84 @@
+#include "platform/base/cow_String.h"
+
+#include <atomic>
+#include <cstring>
+#include <ostream>
+
+#include "platform/base/bas_Alloc.h"
+
+struct cow_String::Body {
+  std::atomic<int> refs;
+  std::size_t size;
+  char* Data() { return reinterpret_cast<char*>(this + 1); }
+};
+
+
+cow_String::cow_String(const char* s) : cow_String(std::string_view(s ? s : "")) {}
+
+cow_String::cow_String(std::string_view s) {
+  if (s.empty()) return;
+  void* mem = s.size() < 32 ? mem_OperatorNewTinyThrow(sizeof(Body) + s.size() + 1)
+                            : mem_OperatorNewThrow(sizeof(Body) + s.size() + 1);
+  body_ = ::new (mem) Body{{1}, s.size()};
+  std::memcpy(body_->Data(), s.data(), s.size());
+  body_->Data()[s.size()] = '\0';
+}
+
+cow_String::cow_String(const cow_String& o) noexcept : body_(o.body_) {
+  if (body_) body_->refs.fetch_add(1, std::memory_order_relaxed);
+}
+
+cow_String& cow_String::operator=(const cow_String& o) noexcept {
+  cow_String tmp(o);
+  std::swap(body_, tmp.body_);
+  return *this;
+}
+
+cow_String& cow_String::operator=(cow_String&& o) noexcept {
+  std::swap(body_, o.body_);
+  return *this;
+}
+
+cow_String::~cow_String() {
+  if (body_ && body_->refs.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+    body_->~Body();
+    mem_Free(body_);
+  }
+}
+
+const char* cow_String::c_str() const noexcept { return body_ ? body_->Data() : ""; }
+std::size_t cow_String::size() const noexcept { return body_ ? body_->size : 0; }
+int cow_String::UseCount() const noexcept {
+  return body_ ? body_->refs.load(std::memory_order_relaxed) : 0;
+}
+
+namespace {
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+}  // namespace
+
+int cow_NaturalCompare(std::string_view a, std::string_view b) noexcept {
+  std::size_t i = 0, j = 0;
+  while (i < a.size() && j < b.size()) {
+    if (IsDigit(a[i]) && IsDigit(b[j])) {
+      std::size_t si = i, sj = j;
+      while (si < a.size() && a[si] == '0') ++si;  // leading zeros do not change the number
+      while (sj < b.size() && b[sj] == '0') ++sj;
+      std::size_t ei = si, ej = sj;
+      while (ei < a.size() && IsDigit(a[ei])) ++ei;
+      while (ej < b.size() && IsDigit(b[ej])) ++ej;
+      if (ei - si != ej - sj) return ei - si < ej - sj ? -1 : 1;
+      if (int c = a.substr(si, ei - si).compare(b.substr(sj, ej - sj)); c != 0) return c < 0 ? -1 : 1;
+      i = ei;
+      j = ej;
+      continue;
+    }
+    if (a[i] != b[j]) return static_cast<unsigned char>(a[i]) < static_cast<unsigned char>(b[j]) ? -1 : 1;
+    ++i;
+    ++j;
+  }
+  if (i < a.size() || j < b.size()) return i < a.size() ? 1 : -1;
+  int c = a.compare(b);  // "a01" and "a1" are naturally equal; keep the order total
+  return c < 0 ? -1 : (c > 0 ? 1 : 0);
+}
+
+std::ostream& operator<<(std::ostream& os, const cow_String& s) { return os << s.view(); }

@@ -1,0 +1,100 @@
+#pragma once
+// The description of a persistent class: name, type id, version, attributes in persistent order,
+// and the type-erased operations that generic code (database file, command layer, generic tests)
+// performs on instances of the class.
+#include <cstddef>
+#include <vector>
+
+#include "platform/persist/cls_FieldHandle.h"
+#include "platform/persist/cls_Uid.h"
+#include "platform/persist/cls_Value.h"
+
+class cls_ReadVisitor;
+class cls_WriteVisitor;
+class cls_ClassMetadata;
+class mdl_Repository;
+struct omu_EnumLiteral;
+
+struct cls_Attribute {
+  cls_FieldHandle handle;
+  int type;
+  int count;
+  int collection;
+};
+
+// A member offered to the command layer under its scripting name.
+struct cls_ScriptField {
+  const char* scriptName;
+  const char* persistentName;
+  int number;
+  int type;                          // cls_AttrType
+  const omu_EnumLiteral* literals;   // enumerations only
+  const cls_ClassMetadata* declared; // object members only: the declared class (may be a base)
+  bool optional;                     // object members only: may be null
+  cls_Value (*get)(const void* obj);
+  // Refuses a value of the wrong kind or an unknown literal with a nex_CmdException and leaves
+  // the object unchanged.
+  void (*set)(void* obj, const cls_Value& v);
+  // Object members: the member object (null when absent); the mutable form separates it first.
+  const void* (*child)(const void* obj);
+  void* (*mutableChild)(void* obj);
+};
+
+class cls_ClassMetadata {
+ public:
+  using FactoryFn = void* (*)();
+  using DtorFn = void (*)(void*);
+
+  cls_ClassMetadata(const char* name, unsigned typeId, int version, FactoryFn factory, int flag);
+  virtual ~cls_ClassMetadata();
+  cls_ClassMetadata(const cls_ClassMetadata&) = delete;
+  cls_ClassMetadata& operator=(const cls_ClassMetadata&) = delete;
+
+  void AddAttribute(const cls_FieldHandle& handle, int type, int count, int collection);
+  void AddDtor(DtorFn dtor) { dtor_ = dtor; }
+
+  const cow_String& Name() const noexcept { return name_; }
+  unsigned TypeId() const noexcept { return typeId_; }
+  int Version() const noexcept { return version_; }
+  int Flag() const noexcept { return flag_; }
+  FactoryFn Factory() const noexcept { return factory_; }
+  DtorFn Dtor() const noexcept { return dtor_; }
+  const std::vector<cls_Attribute>& Attributes() const noexcept { return attributes_; }
+  const cls_Attribute* FindAttribute(std::string_view name) const noexcept;
+
+  // The scripting constructor name ("AdaptiveMeshControl"); empty for classes a script does not
+  // construct (containers, wrappers).
+  virtual const char* ScriptName() const { return ""; }
+  virtual const std::vector<cls_ScriptField>& ScriptFields() const;
+  const cls_ScriptField* FindScriptField(std::string_view scriptName) const noexcept;
+  // The root class of the family whose untyped pointers this metadata hands out.
+  virtual const char* RootName() const { return name_.c_str(); }
+  // True when this class is the given class or derives from it.
+  virtual bool IsA(const cls_ClassMetadata& base) const { return &base == this; }
+
+  // Instances. Each refuses with a nex_CmdException when the class cannot do it.
+  virtual bool CanConstruct() const { return false; }
+  virtual void* NewDefault() const;
+  virtual void* NewFromRecord(const cls_ReadVisitor& r) const;
+  virtual void* Clone(const void* obj) const;
+  virtual void Write(const void* obj, const cls_WriteVisitor& w) const;
+  virtual bool Equal(const void* a, const void* b) const;
+  virtual void AssertValid(const void* obj) const;  // nothing to check by default
+  virtual cls_Uid UidOf(const void* obj) const;
+  // The metadata of an instance's own (most derived) class; this metadata unless overridden.
+  virtual const cls_ClassMetadata& ClassOf(const void* obj) const;
+  // The instance as a repository (a container of keyed or listed elements), or null when the
+  // class is not one; lets the command layer walk into containers nested in objects.
+  virtual mdl_Repository* AsRepository(void* obj) const;
+  virtual const mdl_Repository* AsRepository(const void* obj) const;
+  void Destroy(void* obj) const;
+
+ private:
+  cow_String name_;
+  unsigned typeId_;
+  int version_;
+  FactoryFn factory_;
+  int flag_;
+  DtorFn dtor_ = nullptr;
+  std::vector<cls_Attribute> attributes_;
+};

@@ -1,0 +1,15 @@
+# Installs the built library into a fresh prefix, builds the consumer project against it and runs
+# it. Called by ctest with BUILD_DIR, SOURCE_DIR, WORK_DIR, CXX, GENERATOR and FLAGS.
+file(REMOVE_RECURSE ${WORK_DIR})
+function(step)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE rc)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "failed (${rc}): ${ARGN}")
+  endif()
+endfunction()
+step(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/stage)
+step(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/build -G ${GENERATOR} -DCMAKE_BUILD_TYPE=Debug
+     -DCMAKE_PREFIX_PATH=${WORK_DIR}/stage -DCMAKE_CXX_COMPILER=${CXX} "-DCMAKE_CXX_FLAGS=${FLAGS}"
+     "-DCMAKE_EXE_LINKER_FLAGS=${FLAGS}")
+step(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
+step(${WORK_DIR}/build/consumer ${WORK_DIR}/model.odb)

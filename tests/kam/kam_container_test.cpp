@@ -333,6 +333,15 @@ TEST_F(KamCommands, MembersAreSetAndReadByScriptingName) {
                           "EVENT_DISPLACEMENT, EVENT_VELOCITY, EVENT_ACCELERATION, EVENT_GRAVITY");
   e = Fails(R"({"op":"set","path":["M","amplitudes","SA","method"],"value":2})");
   EXPECT_EQ(e["message"], "omu_PrimEnum(ENUMTYPE) - Enum value not allowed: 2  Permissible: DEFINE, CALCULATE");
+
+  // validation names the failing amplitude; removing it is journaled and leaves the others
+  e = Fails(R"({"op":"validate","path":["M"]})");
+  EXPECT_EQ(e["path"], cmd_Json::parse(R"(["M","amplitudes","PSD"])"));
+  omu_ChangeHistory::Instance().Clear();
+  Ok(R"({"op":"delete","path":["M","amplitudes","PSD"]})");
+  EXPECT_EQ(omu_ChangeHistory::Instance().Entries(), (Changes{{"kamC_AmplitudeContainer", "Remove", "PSD"}}));
+  Ok(R"({"op":"validate","path":["M"]})");
+  EXPECT_EQ(Ok(R"({"op":"list","path":["M","amplitudes"]})"), cmd_Json::parse(R"(["Ramp","SA"])"));
 }
 
 }  // namespace

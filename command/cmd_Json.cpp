@@ -108,7 +108,10 @@ class Converter {
     };
     switch (field_.type) {
       case cls_AttrInt: return integer(v, "");
-      case cls_AttrDouble: return number(v, "");
+      case cls_AttrDouble:
+        // A number member with literals of its own ("SOLVER_DEFAULT") leaves the text to the member.
+        if (v.is_string() && field_.literals) return cow_String(v.get<std::string>());
+        return number(v, "");
       case cls_AttrBool: return boolean(v, "");
       case cls_AttrString:
       case cls_AttrRegion: return text(v, "");

@@ -1,0 +1,33 @@
+#pragma once
+// An amplitude whose values a co-simulated actuator supplies; it has no members of its own.
+#include "kam/kamC_Amplitude.h"
+
+class kamC_ActuatorAmplitude : public kamC_Amplitude {
+ public:
+  using BaseClass = kamC_Amplitude;
+  using RootClass = kamC_Amplitude;
+  static constexpr const char* kClassName = "kamC_ActuatorAmplitude";
+  static constexpr const char* kScriptName = "ActuatorAmplitude";
+  static constexpr int kVersion = 424;
+  static constexpr unsigned TypeId() { return fw_TypeId(580, 9); }
+
+  // The time span of every amplitude is its only persistent field.
+  static constexpr auto Fields() {
+    return kamC_Amplitude::Fields();
+  }
+
+  kamC_ActuatorAmplitude() = default;
+  explicit kamC_ActuatorAmplitude(const cls_ReadVisitor& reader);
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  kamC_ActuatorAmplitude* Copy() const override;
+  void AssertValid() const override;
+  unsigned ClassTypeId() const override { return TypeId(); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+
+  bool operator==(const kamC_ActuatorAmplitude& o) const;
+  bool operator!=(const kamC_ActuatorAmplitude& o) const { return !(*this == o); }
+
+ protected:
+  bool SameAs(const kamC_Amplitude& o) const override;
+};

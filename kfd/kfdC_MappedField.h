@@ -96,8 +96,8 @@ class kfdC_MappedField : public kfdC_AnalyticalField {
   void SetRegionType(RegionTypeEnm v) { regionType = v; }
   FieldDataTypeEnm GetFieldDataType() const { return fieldDataType; }
   void SetFieldDataType(FieldDataTypeEnm v) { fieldDataType = v; }
-  bool GetPartLevelData() const { return isPartLevelData; }
-  void SetPartLevelData(bool v) { isPartLevelData = v; }
+  bool GetIsPartLevelData() const { return isPartLevelData; }
+  void SetIsPartLevelData(bool v) { isPartLevelData = v; }
   bool GetIsGridFormat() const { return isGridFormat; }
   void SetIsGridFormat(bool v) { isGridFormat = v; }
   GridPointPlaneEnm GetGridPointPlane() const { return gridPointPlane; }
@@ -112,25 +112,25 @@ class kfdC_MappedField : public kfdC_AnalyticalField {
   void SetNumYInterval(std::int32_t v) { numYInterval = v; }
   std::int32_t GetNumZInterval() const { return numZInterval; }
   void SetNumZInterval(std::int32_t v) { numZInterval = v; }
-  const cow_2DArray<double>& GetXyzPointData() const { return xyzDataTable; }
-  void SetXyzPointData(const cow_2DArray<double>& v) { xyzDataTable = v; }
-  double GetDefaultUnMappedValue() const { return defMappedVal; }
-  void SetDefaultUnMappedValue(double v) { defMappedVal = v; }
+  const cow_2DArray<double>& GetXyzDataTable() const { return xyzDataTable; }
+  void SetXyzDataTable(const cow_2DArray<double>& v) { xyzDataTable = v; }
+  double GetDefMappedVal() const { return defMappedVal; }
+  void SetDefMappedVal(double v) { defMappedVal = v; }
   std::int32_t GetMappingAlgorithm() const { return mappingAlgorithm; }
   void SetMappingAlgorithm(std::int32_t v) { mappingAlgorithm = v; }
   bool GetIsRelTol() const { return isRelTol; }
   void SetIsRelTol(bool v) { isRelTol = v; }
   double GetBoundarySearchTol() const { return boundarySearchTol; }
   void SetBoundarySearchTol(double v) { boundarySearchTol = v; }
-  double GetNeighborhoodSearchTol() const { return neighborSearchTol; }
-  void SetNeighborhoodSearchTol(double v) { neighborSearchTol = v; }
-  double GetNegativeNormalSearchTol() const { return negNormalSearchTol; }
-  void SetNegativeNormalSearchTol(double v) { negNormalSearchTol = v; }
-  double GetPositiveNormalSearchTol() const { return posNormalSearchTol; }
-  void SetPositiveNormalSearchTol(double v) { posNormalSearchTol = v; }
+  double GetNeighborSearchTol() const { return neighborSearchTol; }
+  void SetNeighborSearchTol(double v) { neighborSearchTol = v; }
+  double GetNegNormalSearchTol() const { return negNormalSearchTol; }
+  void SetNegNormalSearchTol(double v) { negNormalSearchTol = v; }
+  double GetPosNormalSearchTol() const { return posNormalSearchTol; }
+  void SetPosNormalSearchTol(double v) { posNormalSearchTol = v; }
   double GetInterpolationTol() const { return interpolationTol; }
   void SetInterpolationTol(double v) { interpolationTol = v; }
-  const OdbSourceHandle& GetOdbMeshRegionHandle() const { return odbMeshRegion; }
+  const OdbSourceHandle& GetOdbMeshRegion() const { return odbMeshRegion; }
   bool GetScaleCoordinates() const { return scaleCoordinates; }
   void SetScaleCoordinates(bool v) { scaleCoordinates = v; }
   double GetCoordScale1() const { return coordScale1; }

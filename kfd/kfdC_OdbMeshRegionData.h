@@ -107,32 +107,32 @@ class kfdC_OdbMeshRegionData : public mem_Allocated {
   bool operator!=(const kfdC_OdbMeshRegionData& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
-  std::int32_t GetStepIndex() const { return stepIdx; }
-  void SetStepIndex(std::int32_t v) { stepIdx = v; }
-  std::int32_t GetFrameIndex() const { return frameIdx; }
-  void SetFrameIndex(std::int32_t v) { frameIdx = v; }
+  std::int32_t GetStepIdx() const { return stepIdx; }
+  void SetStepIdx(std::int32_t v) { stepIdx = v; }
+  std::int32_t GetFrameIdx() const { return frameIdx; }
+  void SetFrameIdx(std::int32_t v) { frameIdx = v; }
   const cow_String& GetOdbFileName() const { return odbFileName; }
   void SetOdbFileName(const cow_String& v) { odbFileName = v; }
-  const cow_String& GetVariableLabel() const { return variable; }
-  void SetVariableLabel(const cow_String& v) { variable = v; }
+  const cow_String& GetVariable() const { return variable; }
+  void SetVariable(const cow_String& v) { variable = v; }
   QuantityToPlotEnm GetQuantityToPlot() const { return quantityToPlot; }
   void SetQuantityToPlot(QuantityToPlotEnm v) { quantityToPlot = v; }
-  bool GetAverageElementOutput() const { return average; }
-  void SetAverageElementOutput(bool v) { average = v; }
-  bool GetUseRegionBoundaries() const { return useRegions; }
-  void SetUseRegionBoundaries(bool v) { useRegions = v; }
+  bool GetAverage() const { return average; }
+  void SetAverage(bool v) { average = v; }
+  bool GetUseRegions() const { return useRegions; }
+  void SetUseRegions(bool v) { useRegions = v; }
   RegionBoundariesEnm GetRegionBoundaries() const { return regionBoundaries; }
   void SetRegionBoundaries(RegionBoundariesEnm v) { regionBoundaries = v; }
-  bool GetIncludeFeatureBoundaries() const { return includeFeatureBounds; }
-  void SetIncludeFeatureBoundaries(bool v) { includeFeatureBounds = v; }
-  bool GetAverageOnlyDisplayed() const { return averageDisplayedOnly; }
-  void SetAverageOnlyDisplayed(bool v) { averageDisplayedOnly = v; }
-  ComputeOrderEnm GetComputeOrder() const { return computeAlgorithm; }
-  void SetComputeOrder(ComputeOrderEnm v) { computeAlgorithm = v; }
-  double GetAveragingThreshold() const { return averageCriteria; }
-  void SetAveragingThreshold(double v) { averageCriteria = v; }
-  TransformationTypeEnm GetTransformationType() const { return xformType; }
-  void SetTransformationType(TransformationTypeEnm v) { xformType = v; }
+  bool GetIncludeFeatureBounds() const { return includeFeatureBounds; }
+  void SetIncludeFeatureBounds(bool v) { includeFeatureBounds = v; }
+  bool GetAverageDisplayedOnly() const { return averageDisplayedOnly; }
+  void SetAverageDisplayedOnly(bool v) { averageDisplayedOnly = v; }
+  ComputeOrderEnm GetComputeAlgorithm() const { return computeAlgorithm; }
+  void SetComputeAlgorithm(ComputeOrderEnm v) { computeAlgorithm = v; }
+  double GetAverageCriteria() const { return averageCriteria; }
+  void SetAverageCriteria(double v) { averageCriteria = v; }
+  TransformationTypeEnm GetXformType() const { return xformType; }
+  void SetXformType(TransformationTypeEnm v) { xformType = v; }
   const cow_String& GetDatumName() const { return datumName; }
   void SetDatumName(const cow_String& v) { datumName = v; }
   std::int32_t GetCoordSystem() const { return coordSystem; }

@@ -50,8 +50,8 @@ class ktbC_ActivateElem : public mem_Allocated {
 
   const cow_String& GetEventSeries() const { return eventSeries; }
   void SetEventSeries(const cow_String& v) { eventSeries = v; }
-  TimeConstantEnm GetTimeConstant() const { return timeConstantType; }
-  void SetTimeConstant(TimeConstantEnm v) { timeConstantType = v; }
+  TimeConstantEnm GetTimeConstantType() const { return timeConstantType; }
+  void SetTimeConstantType(TimeConstantEnm v) { timeConstantType = v; }
   double GetTimeConstantValue() const { return timeConstantValue; }
   void SetTimeConstantValue(double v) { timeConstantValue = v; }
 

@@ -15,6 +15,6 @@ void ktbC_CompositeColTable::AssertValid() const {
 
 const ktbC_DataColumn* ktbC_CompositeColTable::getColumnById(std::int32_t id) const {
   for (const auto& h : columns.Items())
-    if (h.Get().GetId() == id) return &h.Get();
+    if (h.Get().GetColId() == id) return &h.Get();
   return nullptr;
 }

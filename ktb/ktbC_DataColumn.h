@@ -52,12 +52,12 @@ class ktbC_DataColumn : public mem_Allocated {
   bool operator!=(const ktbC_DataColumn& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
-  std::int32_t GetId() const { return colId; }
-  void SetId(std::int32_t v) { colId = v; }
-  const cow_String& GetLabel() const { return colLabel; }
-  void SetLabel(const cow_String& v) { colLabel = v; }
-  ColTypeEnm GetColumnType() const { return colType; }
-  void SetColumnType(ColTypeEnm v) { colType = v; }
+  std::int32_t GetColId() const { return colId; }
+  void SetColId(std::int32_t v) { colId = v; }
+  const cow_String& GetColLabel() const { return colLabel; }
+  void SetColLabel(const cow_String& v) { colLabel = v; }
+  ColTypeEnm GetColType() const { return colType; }
+  void SetColType(ColTypeEnm v) { colType = v; }
   const cow_List<double>& GetColumn_float() const { return column_float; }
   void SetColumn_float(const cow_List<double>& v) { column_float = v; }
   const cow_List<std::int32_t>& GetColumn_int() const { return column_int; }

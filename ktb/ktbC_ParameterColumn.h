@@ -57,8 +57,8 @@ class ktbC_ParameterColumn : public mem_Allocated {
   bool operator!=(const ktbC_ParameterColumn& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
-  const cow_String& GetName() const { return paramName; }
-  void SetName(const cow_String& v) { paramName = v; }
+  const cow_String& GetParamName() const { return paramName; }
+  void SetParamName(const cow_String& v) { paramName = v; }
   const cow_String& GetParamDescription() const { return paramDescription; }
   void SetParamDescription(const cow_String& v) { paramDescription = v; }
   const cow_String& GetParamUnit() const { return paramUnit; }

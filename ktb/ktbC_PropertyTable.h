@@ -49,9 +49,9 @@ class ktbC_PropertyTable : public mem_Allocated {
   void SetProperties(const cow_List<cow_String>& v) { properties = v; }
   const cow_String& GetParameterTable() const { return parameterTable; }
   void SetParameterTable(const cow_String& v) { parameterTable = v; }
-  const ktbC_PropertyTableDataCont& GetPropertyTableDatas() const { return propertyTableDataContainer; }
-  void SetPropertyTableDatas(const ktbC_PropertyTableDataCont& v) { propertyTableDataContainer = v; }
-  ktbC_PropertyTableDataCont& ModifyPropertyTableDatas() { return propertyTableDataContainer; }
+  const ktbC_PropertyTableDataCont& GetPropertyTableDataContainer() const { return propertyTableDataContainer; }
+  void SetPropertyTableDataContainer(const ktbC_PropertyTableDataCont& v) { propertyTableDataContainer = v; }
+  ktbC_PropertyTableDataCont& ModifyPropertyTableDataContainer() { return propertyTableDataContainer; }
 
  private:
   cow_List<cow_String> properties;

@@ -60,8 +60,8 @@ class ktbC_PropertyTableData : public mem_Allocated {
 
   const cow_String& GetLabel() const { return label; }
   void SetLabel(const cow_String& v) { label = v; }
-  ExtrapolateTypeEnm GetExtrapolate() const { return extrapolateType; }
-  void SetExtrapolate(ExtrapolateTypeEnm v) { extrapolateType = v; }
+  ExtrapolateTypeEnm GetExtrapolateType() const { return extrapolateType; }
+  void SetExtrapolateType(ExtrapolateTypeEnm v) { extrapolateType = v; }
   bool GetIsTemp() const { return isTemp; }
   void SetIsTemp(bool v) { isTemp = v; }
   std::int32_t GetNumOfFieldVar() const { return numOfFieldVar; }

@@ -49,14 +49,14 @@ class ktbC_TableCollection : public mem_Allocated {
   bool operator!=(const ktbC_TableCollection& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
-  const ktbC_ParameterTableCont& GetParameterTables() const { return parameterTableContainer; }
-  void SetParameterTables(const ktbC_ParameterTableCont& v) { parameterTableContainer = v; }
-  const ktbC_PropertyTableCont& GetPropertyTables() const { return propertyTableContainer; }
-  void SetPropertyTables(const ktbC_PropertyTableCont& v) { propertyTableContainer = v; }
+  const ktbC_ParameterTableCont& GetParameterTableContainer() const { return parameterTableContainer; }
+  void SetParameterTableContainer(const ktbC_ParameterTableCont& v) { parameterTableContainer = v; }
+  const ktbC_PropertyTableCont& GetPropertyTableContainer() const { return propertyTableContainer; }
+  void SetPropertyTableContainer(const ktbC_PropertyTableCont& v) { propertyTableContainer = v; }
   const ktbC_CompositeColTableCont& GetDataTables() const { return dataTables; }
   void SetDataTables(const ktbC_CompositeColTableCont& v) { dataTables = v; }
-  ktbC_ParameterTableCont& ModifyParameterTables() { return parameterTableContainer; }
-  ktbC_PropertyTableCont& ModifyPropertyTables() { return propertyTableContainer; }
+  ktbC_ParameterTableCont& ModifyParameterTableContainer() { return parameterTableContainer; }
+  ktbC_PropertyTableCont& ModifyPropertyTableContainer() { return propertyTableContainer; }
   ktbC_CompositeColTableCont& ModifyDataTables() { return dataTables; }
 
  private:

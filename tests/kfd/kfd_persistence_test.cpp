@@ -81,26 +81,26 @@ kfdC_MappedField FilledMapped() {
   f.SetCsysPartName("Part-1");
   f.SetCsysType(kfdC_AnalyticalField::CsysTypeEnm::CYLINDRICAL);
   f.SetFieldDataType(kfdC_MappedField::FieldDataTypeEnm::VECTOR);
-  f.SetPartLevelData(true);
+  f.SetIsPartLevelData(true);
   f.SetGridPointPlane(kfdC_MappedField::GridPointPlaneEnm::PLANE31);
-  f.SetXyzPointData(cow_2DArray<double>{{0, 0, 0, 1, 2, 3}});
-  f.SetDefaultUnMappedValue(-1.5);
+  f.SetXyzDataTable(cow_2DArray<double>{{0, 0, 0, 1, 2, 3}});
+  f.SetDefMappedVal(-1.5);
   f.SetMappingAlgorithm(2);
   f.SetSearchTolType(kfdC_MappedField::SearchTolTypeEnm::ABSOLUTE);
   f.SetBoundarySearchTol(0.25);
-  f.SetNeighborhoodSearchTol(2.5);
-  f.SetNegativeNormalSearchTol(0.125);
-  f.SetPositiveNormalSearchTol(0.375);
+  f.SetNeighborSearchTol(2.5);
+  f.SetNegNormalSearchTol(0.125);
+  f.SetPosNormalSearchTol(0.375);
   f.SetInterpolationTol(0.5);
   f.SetScaleCoordinates(true);
   f.SetCoordinateScalingFactors({2.0, 3.0, 4.0});
   kfdC_OdbMeshRegionData odb;
   odb.SetOdbFileName("Job-1.odb");
-  odb.SetStepIndex(2);
-  odb.SetFrameIndex(-1);
-  odb.SetVariableLabel("NT11");
+  odb.SetStepIdx(2);
+  odb.SetFrameIdx(-1);
+  odb.SetVariable("NT11");
   odb.SetRegionBoundaries(kfdC_OdbMeshRegionData::RegionBoundariesEnm::DISPLAY_GROUPS);
-  odb.SetTransformationType(kfdC_OdbMeshRegionData::TransformationTypeEnm::USER_SPECIFIED);
+  odb.SetXformType(kfdC_OdbMeshRegionData::TransformationTypeEnm::USER_SPECIFIED);
   odb.SetDatumName("Csys-9");
   f.SetOdbMeshRegionData(odb);
   return f;
@@ -115,7 +115,7 @@ TEST_F(KfdPersistence, RecordsReadBackEqualAndFlagsAreStoredAsFlags) {
   EXPECT_EQ(std::get<cow_String>(*rec.Find("gridPointPlane")), "PLANE31");
   const kfdC_MappedField back{cls_RecordReader(rec)};
   EXPECT_TRUE(back == f);
-  EXPECT_EQ(back.GetOdbMeshRegionData().GetVariableLabel(), "NT11");
+  EXPECT_EQ(back.GetOdbMeshRegionData().GetVariable(), "NT11");
   EXPECT_EQ(back.GetOdbMeshRegionData().GetRegionBoundaries(), kfdC_OdbMeshRegionData::RegionBoundariesEnm::DISPLAY_GROUPS);
   EXPECT_EQ(std::get<cow_String>(*cls_ToRecord(back.GetOdbMeshRegionData()).Find("regionBoundaries")), "DISPLAY_GROUPS");
 
@@ -158,22 +158,22 @@ TEST_F(KfdPersistence, RetiredLayoutsFollowTheirChainsToToday) {
                  "scaleCoordinates", "coordScale1", "coordScale2", "coordScale3"});
     driver.Upgrade("kfdC_MappedField", 1500, 2302, rec);
     const kfdC_MappedField up{cls_RecordReader(rec)};
-    EXPECT_EQ(up.GetPartLevelData(), false);
+    EXPECT_EQ(up.GetIsPartLevelData(), false);
     EXPECT_EQ(up.GetGridPointPlane(), kfdC_MappedField::GridPointPlaneEnm::PLANE12);
     EXPECT_EQ(up.GetMappingAlgorithm(), 0);
     EXPECT_EQ(up.GetSearchTolType(), kfdC_MappedField::SearchTolTypeEnm::RELATIVE);
     EXPECT_EQ(up.GetBoundarySearchTol(), 0.05);
-    EXPECT_EQ(up.GetNeighborhoodSearchTol(), 1.0);
-    EXPECT_EQ(up.GetNegativeNormalSearchTol(), 0.05);
-    EXPECT_EQ(up.GetPositiveNormalSearchTol(), 0.05);
+    EXPECT_EQ(up.GetNeighborSearchTol(), 1.0);
+    EXPECT_EQ(up.GetNegNormalSearchTol(), 0.05);
+    EXPECT_EQ(up.GetPosNormalSearchTol(), 0.05);
     EXPECT_EQ(up.GetInterpolationTol(), 0.05);
     EXPECT_FALSE(up.HasOdbMeshRegionData());
     EXPECT_EQ(up.GetScaleCoordinates(), false);
     EXPECT_EQ(up.GetCoordinateScalingFactors(), (std::array<double, 3>{1.0, 1.0, 1.0}));
     // What the old layout had is kept.
     EXPECT_EQ(up.GetCsys(), "Datum csys-2");
-    EXPECT_EQ(up.GetDefaultUnMappedValue(), -1.5);
-    EXPECT_EQ(up.GetXyzPointData(), f.GetXyzPointData());
+    EXPECT_EQ(up.GetDefMappedVal(), -1.5);
+    EXPECT_EQ(up.GetXyzDataTable(), f.GetXyzDataTable());
     EXPECT_EQ(up.GetUid(), f.GetUid());
   }
   {

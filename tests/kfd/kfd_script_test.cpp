@@ -12,7 +12,9 @@
 #include "dbfile/dbf_File.h"
 #include "dbfile/dbf_Format.h"
 #include "dbfile/dbf_Vfs.h"
+#include "kfd/kfdC_AllFields.h"
 #include "kfd/kfdC_AnalyticalFieldContainer.h"
+#include "kfd/kfdC_ExpressionField.h"
 #include "kfd/kfdC_MappedField.h"
 #include "platform/persist/cls_ClassRegistrar.h"
 #include "tests/kfd/kfd_test.h"
@@ -175,8 +177,27 @@ TEST_F(KfdScript, AFileWithMappedFieldsOfTheLayoutOf1571IsUpgradedAsItIsOpened) 
   EXPECT_EQ(mf->GetCoordinateScalingFactors(), (std::array<double, 3>{1.0, 1.0, 1.0}));
   // What the 1571 layout held is kept, the tolerance type included.
   EXPECT_EQ(mf->GetSearchTolType(), kfdC_MappedField::SearchTolTypeEnm::ABSOLUTE);
-  EXPECT_EQ(mf->GetDefaultUnMappedValue(), -3.0);
-  EXPECT_EQ(mf->GetXyzPointData(), (cow_2DArray<double>{{0, 0, 0, 5}}));
+  EXPECT_EQ(mf->GetDefMappedVal(), -3.0);
+  EXPECT_EQ(mf->GetXyzDataTable(), (cow_2DArray<double>{{0, 0, 0, 5}}));
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(KfdScript, AllFieldsOfAModelByName) {
+  Ok(R"({"op":"create","path":["Model-1","discreteFields","A-Discrete"],"type":"DiscreteField"})");
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","Z-Expression"],"type":"ExpressionField","values":{"expression":"X"}})");
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","M-Mapped"],"type":"MappedField"})");
+  const ddr_Model& model = *s.Database().FindModel("Model-1");
+  std::vector<std::string> names;
+  for (const auto& [name, field] : kfdC_AllFields(model)) {
+    names.push_back(name.str());
+    EXPECT_EQ(kfdC_FindField(model, name), field);
+  }
+  EXPECT_EQ(names, (std::vector<std::string>{"M-Mapped", "Z-Expression", "A-Discrete"}));
+  EXPECT_NE(dynamic_cast<const kfdC_ExpressionField*>(kfdC_FindField(model, "Z-Expression")), nullptr);
+  EXPECT_EQ(kfdC_FindField(model, "Nothing"), nullptr);
 }
 
 }  // namespace

@@ -307,7 +307,7 @@ using MF = kfdC_MappedField;
 
 MF PointCloud() {
   MF f;
-  f.SetXyzPointData(cow_2DArray<double>{{0, 0, 0, 1.0}, {1, 0, 0, 2.0}});
+  f.SetXyzDataTable(cow_2DArray<double>{{0, 0, 0, 1.0}, {1, 0, 0, 2.0}});
   return f;
 }
 
@@ -326,25 +326,25 @@ TEST(KfdMappedField, TolerancesThenThePointData) {
   kfd_CheckCases<MF>(
       PointCloud,
       {
-          {"no point data", [](auto& f) { f.SetXyzPointData(cow_2DArray<double>()); }, xyz},
+          {"no point data", [](auto& f) { f.SetXyzDataTable(cow_2DArray<double>()); }, xyz},
           {"a vector needs six columns", [](auto& f) { f.SetFieldDataType(MF::FieldDataTypeEnm::VECTOR); }, xyz},
           {"six columns for a vector",
            [](auto& f) {
              f.SetFieldDataType(MF::FieldDataTypeEnm::VECTOR);
-             f.SetXyzPointData(cow_2DArray<double>{{0, 0, 0, 1, 2, 3}});
+             f.SetXyzDataTable(cow_2DArray<double>{{0, 0, 0, 1, 2, 3}});
            },
            ""},
           {"zero relative boundary tolerance", [](auto& f) { f.SetBoundarySearchTol(0); }, tol},
           {"negative relative interpolation tolerance before the data",
            [](auto& f) {
              f.SetInterpolationTol(-1);
-             f.SetXyzPointData(cow_2DArray<double>());
+             f.SetXyzDataTable(cow_2DArray<double>());
            },
            tol},
           {"zero absolute tolerance",
            [](auto& f) {
              f.SetSearchTolType(MF::SearchTolTypeEnm::ABSOLUTE);
-             f.SetNegativeNormalSearchTol(0);
+             f.SetNegNormalSearchTol(0);
            },
            ""},
           {"an invalid system first",
@@ -377,7 +377,7 @@ TEST(KfdMappedField, TolerancesThenThePointData) {
            ""},
           {"results as the source", [](auto& f) {
              f.SetRegionType(MF::RegionTypeEnm::MESH);
-             f.SetXyzPointData(cow_2DArray<double>());
+             f.SetXyzDataTable(cow_2DArray<double>());
            },
            ""},
       });

@@ -118,8 +118,8 @@ TEST(KtbEnumerations, LiteralsAndValuesAsUsersWriteThem) {
 
 ktbC_DataColumn Column(std::int32_t id, const char* label) {
   ktbC_DataColumn c;
-  c.SetId(id);
-  c.SetLabel(label);
+  c.SetColId(id);
+  c.SetColLabel(label);
   return c;
 }
 
@@ -131,13 +131,13 @@ TEST(KtbDataTable, ColumnsAreFoundByTheirId) {
   t.ModifyColumns().Append(Column(3, "first"));
   t.ModifyColumns().Append(Column(3, "second"));
   ASSERT_NE(t.getColumnById(7), nullptr);
-  EXPECT_EQ(t.getColumnById(7)->GetLabel(), "time");
-  EXPECT_EQ(t.getColumnById(3)->GetLabel(), "first");  // the first of equal ids
+  EXPECT_EQ(t.getColumnById(7)->GetColLabel(), "time");
+  EXPECT_EQ(t.getColumnById(3)->GetColLabel(), "first");  // the first of equal ids
   EXPECT_EQ(t.getColumnById(4), nullptr);
   EXPECT_EQ(t.getColumnById(-7), nullptr);
 
   ktbC_DataColumn ints = Column(1, "n");
-  ints.SetColumnType(ktbC_DataColumn::ColTypeEnm::INTEGER);
+  ints.SetColType(ktbC_DataColumn::ColTypeEnm::INTEGER);
   ints.SetColumn_int(cow_List<std::int32_t>(std::vector<std::int32_t>{4, 5, 6}));
   ints.SetColumn_float(cow_List<double>(std::vector<double>{1.5}));
   EXPECT_EQ(ints.Size(), 3u);  // the list of the column's own type
@@ -170,7 +170,7 @@ TEST(KtbRecords, EventSeriesAndActivationsReadBackEqual) {
   a.SetElset(rgnC_Region("Set-Deposit"));
   ktbC_ActivateElem rec1;
   rec1.SetEventSeries("Path-1");
-  rec1.SetTimeConstant(ktbC_ActivateElem::TimeConstantEnm::SPECIFIED);
+  rec1.SetTimeConstantType(ktbC_ActivateElem::TimeConstantEnm::SPECIFIED);
   rec1.SetTimeConstantValue(0.01);
   a.SetActivations(cow_List<ktbC_ElemProgressiveActivation::ActivationHandle>(
       std::vector<ktbC_ElemProgressiveActivation::ActivationHandle>{ktbC_ElemProgressiveActivation::ActivationHandle(rec1)}));
@@ -193,8 +193,8 @@ class KtbShortcut : public ::testing::Test {
     ktbC_PropertyTable pt;
     ktbC_PropertyTableData data;
     data.SetLabel("steel");
-    pt.ModifyPropertyTableDatas().Insert("D-1", data);
-    tc.ModifyPropertyTables().Insert("Conductivity", pt);
+    pt.ModifyPropertyTableDataContainer().Insert("D-1", data);
+    tc.ModifyPropertyTableContainer().Insert("Conductivity", pt);
     Collections().Insert("TC-1", tc);
     omu_ChangeHistory::Instance().Clear();
   }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "command/cmd_Session.h"
+#include "kfd/QMXOdbKfdC.h"
 #include "kfd/kfdC_AnalyticalFieldContainer.h"
 #include "kfd/kfdC_DiscreteField.h"
 #include "kfd/kfdC_DiscreteFieldContainer.h"
@@ -52,11 +53,13 @@ TEST_F(KfdPersistence, ClassesAreRegisteredWithTheirLayouts) {
       {"kfdC_DataTable", 8, 1000, {{"dataWidth", 0}, {"domain", 1}, {"data", 2}}},
       {"kfdC_OdbMeshRegionData", 9, 1505, {}},
   };
+  ASSERT_EQ(kfdC_ArchEntry().Count(), 10);
   for (const Stored& s : classes) {
     SCOPED_TRACE(s.name);
     const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByName(s.name);
     ASSERT_NE(md, nullptr);
     EXPECT_EQ(md->TypeId(), (858u << 16) | s.row);
+    EXPECT_STREQ(kfdC_ArchEntry().Row(static_cast<int>(s.row)).name, s.name);
     EXPECT_EQ(md->Version(), s.version);
     if (s.fields.empty()) continue;
     std::vector<std::pair<std::string, int>> attrs;

@@ -14,6 +14,7 @@
 #include "dbfile/dbf_Vfs.h"
 #include "kfd/kfdC_AllFields.h"
 #include "kfd/kfdC_AnalyticalFieldContainer.h"
+#include "kfd/kfdC_DiscreteField.h"
 #include "kfd/kfdC_ExpressionField.h"
 #include "kfd/kfdC_MappedField.h"
 #include "platform/persist/cls_ClassRegistrar.h"
@@ -198,6 +199,52 @@ TEST_F(KfdScript, AllFieldsOfAModelByName) {
   EXPECT_EQ(names, (std::vector<std::string>{"M-Mapped", "Z-Expression", "A-Discrete"}));
   EXPECT_NE(dynamic_cast<const kfdC_ExpressionField*>(kfdC_FindField(model, "Z-Expression")), nullptr);
   EXPECT_EQ(kfdC_FindField(model, "Nothing"), nullptr);
+}
+
+}  // namespace
+
+namespace {
+
+// Rewrites the rows of a class in a saved file into the layout of an older version: the fields that
+// later versions added are dropped from the table, its field list and its hash.
+void MakeOld(const std::string& file, const char* className, int version, const std::vector<std::string>& added) {
+  std::vector<cls_Attribute> attrs;
+  for (const cls_Attribute& a : cls_ClassRegistrar::Instance().ByName(className)->Attributes())
+    if (std::find(added.begin(), added.end(), a.handle.Name().str()) == added.end()) attrs.push_back(a);
+  std::string sql;
+  for (const std::string& f : added)
+    sql += std::string("ALTER TABLE ") + className + " DROP COLUMN " + f + ";" + "DELETE FROM dbf_Fields WHERE class = '" +
+           className + "' AND name = '" + f + "';";
+  sql += "UPDATE dbf_Catalog SET version = " + std::to_string(version) + ", fieldHash = '" + dbf_FieldTableHash(attrs) +
+         "' WHERE name = '" + className + "';";
+  Edit(file, sql);
+}
+
+TEST_F(KfdScript, AFileWithDiscreteAndExpressionFieldsOfTheirFirstLayoutsIsUpgradedAsItIsOpened) {
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","AF-1"],"type":"ExpressionField",
+          "values":{"expression":"X*Y","csysPartName":"Part-9","csysType":"RECTANGULAR"}})");
+  Ok(R"({"op":"create","path":["Model-1","discreteFields","DF-1"],"type":"DiscreteField",
+          "values":{"location":"ELEMENTS","fieldType":"ORIENTATION","orientationType":"SPHERICAL","partLevelOrientation":true,
+                    "analyticFieldName":"AF-1","defaultValues":[7],"data":{"domain":["3"],"data":[7]}}})");
+  const std::string file = Dir("kfd-upgrade-first") + "/old.odb";
+  dbf_Save(s.Database(), file);
+  MakeOld(file, "kfdC_ExpressionField", 700, {"csysPartName"});
+  MakeOld(file, "kfdC_DiscreteField", 1000, {"fieldType", "orientationType", "partLevelOrientation", "analyticFieldName"});
+  const ddr_Database db = dbf_Open(file);
+  const ddr_Model& model = *db.FindModel("Model-1");
+  const auto* ex = dynamic_cast<const kfdC_ExpressionField*>(kfdC_FindField(model, "AF-1"));
+  ASSERT_NE(ex, nullptr);
+  EXPECT_EQ(ex->GetCsysPartName(), "");
+  EXPECT_EQ(ex->GetExpression(), "X*Y");
+  const auto* df = dynamic_cast<const kfdC_DiscreteField*>(kfdC_FindField(model, "DF-1"));
+  ASSERT_NE(df, nullptr);
+  EXPECT_EQ(df->GetFieldType(), kfdC_DiscreteField::FieldTypeEnm::SCALAR);
+  EXPECT_EQ(df->GetOrientationType(), kfdC_DiscreteField::OrientationTypeEnm::RECTANGULAR);
+  EXPECT_FALSE(df->GetPartLevelOrientation());
+  EXPECT_EQ(df->GetAnalyticFieldName(), "");
+  EXPECT_EQ(df->GetLocation(), kfdC_DiscreteField::LocationEnm::ELEMENTS);
+  EXPECT_EQ(df->GetData().GetDomain()[0], "3");
+  EXPECT_NO_THROW(df->AssertValid());  // a scalar field of width 1 again
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ class kfdC_DiscreteField : public kfdC_Field {
   static constexpr const char* kFromAnalyticScriptName = "DiscreteFieldFromAnalytic";
   static const char* constructorCmd() { return kScriptName; }
   static const char* fromAnalyticCmd() { return kFromAnalyticScriptName; }
-  // The labels per degree of freedom of a prescribed condition field that acts on one.
+  // The degrees of freedom a prescribed condition field that acts on one gives defaults for.
   static constexpr std::size_t kDofCount = 6;
 
   // Persistent fields in write order (field numbers record the order they were added in).

@@ -1,0 +1,55 @@
+#include "kfd/kfdC_DiscreteField.h"
+
+#include "framework/fw_FieldTable.h"
+#include "kfd/kfdC_DiscreteFieldContainer.h"
+#include "kfd/kfdC_assert.h"
+
+kfdC_DiscreteField::kfdC_DiscreteField(const cls_ReadVisitor& reader) : kfdC_Field(reader) { fw_ReadFields(*this, reader); }
+void kfdC_DiscreteField::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
+kfdC_DiscreteField* kfdC_DiscreteField::Copy() const { return new kfdC_DiscreteField(*this); }
+bool kfdC_DiscreteField::operator==(const kfdC_DiscreteField& o) const { return fw_EqualFields(*this, o); }
+bool kfdC_DiscreteField::SameAs(const kfdC_Field& o) const { return *this == static_cast<const kfdC_DiscreteField&>(o); }
+void kfdC_DiscreteField::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kfdC_DiscreteField>(r); }
+void kfdC_DiscreteField::CowDtor(void* p) { fw_CowDtor<kfdC_DiscreteField>(p); }
+
+void kfdC_DiscreteField::AssertValid() const {
+  const std::size_t width = static_cast<std::size_t>(std::max<std::int32_t>(dataTable.GetDataWidth(), 0));
+  kfdC_Assert(width >= 1, kfdC_InvalidWidth);
+  kfdC_Assert(location == LocationEnm::NODES || location == LocationEnm::ELEMENTS, kfdC_UnsupportedLocation);
+  if (fieldType == FieldTypeEnm::PRESCRIBEDCONDITION_DOF) {
+    // The width says whether the field acts on a degree of freedom; with another width the
+    // defaults say which of the two it was meant to be.
+    if (width == 2) {
+      kfdC_Assert(defaultValues.size() == kDofCount, kfdC_DofDefaultsNotSix);
+    } else if (width == 1) {
+      kfdC_Assert(defaultValues.size() == 1, kfdC_NoDofDefaultsNotOne);
+    } else {
+      kfdC_Assert(defaultValues.size() != kDofCount, kfdC_DofWidthNotTwo);
+      kfdC_Assert(false, kfdC_NoDofWidthNotOne);
+    }
+  } else {
+    kfdC_Assert(width == (fieldType == FieldTypeEnm::ORIENTATION ? 6u : 1u), kfdC_WidthDoesNotMatchType);
+    kfdC_Assert(defaultValues.size() == width, kfdC_DefaultsDoNotMatchWidth);
+  }
+  kfdC_Assert(dataTable.GetData().size() % width == 0, kfdC_DataNotDivisibleByWidth);
+  kfdC_Assert(dataTable.GetData().size() == width * dataTable.GetDomain().size(), kfdC_DataLengthMismatch);
+  kfdC_Assert(!(fieldType == FieldTypeEnm::ORIENTATION && partLevelOrientation && dataTable.HasInstanceInformation()),
+              kfdC_PartLevelOrientationWithInstances);
+}
+
+kfdC_DiscreteField kfdC_DiscreteField::FromAnalytic(const cow_String& analyticalFieldName, LocationEnm where) {
+  kfdC_DiscreteField f;
+  f.analyticFieldName = analyticalFieldName;
+  f.location = where;
+  return f;
+}
+
+void kfdC_DiscreteField::AssertPartLevelUse() const {
+  kfdC_Assert(!dataTable.HasInstanceInformation(), kfdC_PartLevelWithInstances);
+}
+
+const kfdC_DiscreteField& kfdC_GetDiscreteField(const kfdC_DiscreteFieldContainer& fields, const cow_String& name) {
+  const kfdC_DiscreteField* f = fields.Fields().ConstGet(name);
+  kfdC_Assert(f != nullptr, kfdC_NoSuchDiscreteField);
+  return *f;
+}

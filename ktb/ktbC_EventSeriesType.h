@@ -1,0 +1,48 @@
+#pragma once
+// The type of an event series: each event carries its time, its position (three coordinates) and
+// "fieldNums" field values.
+#include <cstdint>
+
+#include "framework/fw_Field.h"
+#include "platform/base/bas_Alloc.h"
+#include "platform/persist/cls_Uid.h"
+
+class cls_ReadVisitor;
+class cls_WriteVisitor;
+class cls_ClassRegistrar;
+
+class ktbC_EventSeriesType : public mem_Allocated {
+ public:
+  static constexpr const char* kClassName = "ktbC_EventSeriesType";
+  static constexpr const char* kScriptName = "EventSeriesType";
+  static constexpr int kVersion = 1000;
+  static constexpr unsigned TypeId() { return fw_TypeId(772, 8); }
+
+  // Persistent fields in write order (field numbers record the order they were added in).
+  static constexpr auto Fields() {
+    using C = ktbC_EventSeriesType;
+    return std::tuple{
+        fw_Field{"fieldNums", 0, "fieldNums", &C::fieldNums},
+    };
+  }
+
+  ktbC_EventSeriesType() = default;
+  explicit ktbC_EventSeriesType(const cls_ReadVisitor& reader);
+  virtual ~ktbC_EventSeriesType() = default;
+  void DBWrite(const cls_WriteVisitor& w) const;
+  virtual ktbC_EventSeriesType* Copy() const;
+  virtual void AssertValid() const;
+  unsigned DynTypeId() const { return TypeId(); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+  bool operator==(const ktbC_EventSeriesType& o) const;
+  bool operator!=(const ktbC_EventSeriesType& o) const { return !(*this == o); }
+  const cls_Uid& GetUid() const { return uid; }
+
+  std::int32_t GetFieldNums() const { return fieldNums; }
+  void SetFieldNums(std::int32_t v) { fieldNums = v; }
+
+ private:
+  std::int32_t fieldNums = 0;
+  cls_Uid uid;
+};

@@ -1,0 +1,250 @@
+// The field repositories as scripts and files see them: reachable by their scripting names, the
+// composed members of mapped fields, validation with the failing path, a saved model read back,
+// and a file holding mapped field rows of an older layout.
+#include <sqlite3.h>
+
+#include <filesystem>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "command/cmd_Session.h"
+#include "dbfile/dbf_File.h"
+#include "dbfile/dbf_Format.h"
+#include "dbfile/dbf_Vfs.h"
+#include "kfd/kfdC_AllFields.h"
+#include "kfd/kfdC_AnalyticalFieldContainer.h"
+#include "kfd/kfdC_DiscreteField.h"
+#include "kfd/kfdC_ExpressionField.h"
+#include "kfd/kfdC_MappedField.h"
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "tests/kfd/kfd_test.h"
+
+namespace {
+
+class KfdScript : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    qmx_StartLibrary();
+    Ok(R"({"op":"create","path":["Model-1"]})");
+  }
+  cmd_Json Ok(const std::string& line) {
+    cmd_Json r = s.ExecuteLine(line);
+    EXPECT_TRUE(r["ok"].get<bool>()) << line << "\n -> " << r.dump();
+    return r["result"];
+  }
+  cmd_Json Fails(const std::string& line) {
+    cmd_Json r = s.ExecuteLine(line);
+    EXPECT_FALSE(r["ok"].get<bool>()) << line << "\n -> " << r.dump();
+    return r.contains("error") ? r["error"] : cmd_Json();
+  }
+  std::string Dir(const char* name) {
+    const std::string d = qmx_TempDir(name);
+    std::filesystem::create_directories(d);
+    return d;
+  }
+  cmd_Session s;
+};
+
+TEST_F(KfdScript, FieldsAreMadeAndValidatedByScriptingNames) {
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","AF-1"],"type":"ExpressionField","values":{"expression":"X + Y"}})");
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","AF-2"],"type":"ExpressionField","values":{"csysType":"SPHERICAL","expression":"R + X"}})");
+  const cmd_Json e = Fails(R"({"op":"validate","path":["Model-1","analyticalFields"]})");
+  EXPECT_EQ(e["message"],
+            "Missing or invalid parameter names in expression for a spherical coordinate system.\n"
+            "Valid parameter names are R, Th, and P.");
+  EXPECT_EQ(e["path"], cmd_Json::parse(R"(["Model-1","analyticalFields","AF-2"])"));
+  EXPECT_EQ(e["file"], "QMXOdbKfdC.m/src/kfdC_assert");
+  EXPECT_EQ(e["line"], 82);
+  Ok(R"({"op":"set","path":["Model-1","analyticalFields","AF-2","expression"],"value":"R*P"})");
+  Ok(R"({"op":"validate","path":["Model-1","analyticalFields"]})");
+
+  // A discrete field is not an analytical one.
+  Fails(R"({"op":"create","path":["Model-1","analyticalFields","DF-1"],"type":"DiscreteField"})");
+  Ok(R"({"op":"create","path":["Model-1","discreteFields","DF-1"],"type":"DiscreteField",
+          "values":{"data":{"domain":["1","2"],"data":[1,2]},"defaultValues":[0]}})");
+  Ok(R"({"op":"validate","path":["Model-1","discreteFields"]})");
+  Ok(R"({"op":"set","path":["Model-1","discreteFields","DF-1","location"],"value":"INTEGRATION_POINT"})");
+  EXPECT_EQ(Fails(R"({"op":"validate","path":["Model-1","discreteFields","DF-1"]})")["message"],
+            "Discrete Fields are currently supported on Node or Elements only.");
+  EXPECT_EQ(Fails(R"({"op":"set","path":["Model-1","discreteFields","DF-1","location"],"value":"NODAL"})")["message"],
+            "omu_PrimEnum(const cow_String&) - str not allowed: NODAL  Permissible: NODES, ELEMENTS, INTEGRATION_POINT, "
+            "ELEMENT_NODES");
+}
+
+TEST_F(KfdScript, MappedFieldsShowTheirStoredFlagsAsLiteralsAndTheirFactorsAsATriple) {
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","MF-1"],"type":"MappedField",
+          "values":{"pointDataFormat":"GRID","searchTolType":"ABSOLUTE","numXInterval":1,"numYInterval":1,
+                    "gridPointData":[[0,0,1],[1,0,2],[0,1,3],[1,1,4]],"coordinateScalingFactors":[1,2,3]}})");
+  Ok(R"({"op":"validate","path":["Model-1","analyticalFields","MF-1"]})");
+  const cmd_Json f = Ok(R"({"op":"get","path":["Model-1","analyticalFields","MF-1"]})");
+  EXPECT_EQ(f["pointDataFormat"], "GRID");
+  EXPECT_EQ(f["searchTolType"], "ABSOLUTE");
+  EXPECT_EQ(f["coordinateScalingFactors"], cmd_Json::parse("[1.0,2.0,3.0]"));
+  EXPECT_EQ(f["gridPointData"], cmd_Json::parse("[[0.0,0.0,1.0],[1.0,0.0,2.0],[0.0,1.0,3.0],[1.0,1.0,4.0]]"));
+  EXPECT_FALSE(f.contains("isGridFormat"));
+  EXPECT_FALSE(f.contains("coordScale1"));
+
+  const auto& fields = dynamic_cast<const kfdC_AnalyticalFieldContainer::Map&>(
+      *s.Database().FindModel("Model-1")->FindRepository("analyticalFields"));
+  const auto* mf = dynamic_cast<const kfdC_MappedField*>(fields.ConstGet("MF-1"));
+  ASSERT_NE(mf, nullptr);
+  EXPECT_TRUE(mf->GetIsGridFormat());
+  EXPECT_FALSE(mf->GetIsRelTol());
+  EXPECT_EQ(mf->GetCoordScale2(), 2.0);
+  EXPECT_EQ(mf->GetGridCoordTable(), (cow_2DArray<double>{{0, 0}, {1, 0}, {0, 1}, {1, 1}}));
+
+  struct Case {
+    const char* values;
+    const char* message;
+  };
+  const Case cases[] = {
+      {R"({"pointDataFormat":"Grid"})", "omu_PrimEnum(const cow_String&) - str not allowed: Grid  Permissible: XYZ, GRID"},
+      {R"({"searchTolType":2})", "omu_PrimEnum(ENUMTYPE) - Enum value not allowed: 2  Permissible: ABSOLUTE, RELATIVE"},
+      {R"({"coordinateScalingFactors":[1,2]})", R"(The member "coordinateScalingFactors" of MappedField takes three numbers, not 2)"},
+      {R"({"gridPointData":[[0,0],[1,1]]})", "Invalid source point data definition for GRID format."},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.values);
+    EXPECT_EQ(Fails(std::string(R"({"op":"set","path":["Model-1","analyticalFields","MF-1"],"values":)") + c.values + "}")["message"],
+              c.message);
+  }
+  EXPECT_EQ(Ok(R"({"op":"get","path":["Model-1","analyticalFields","MF-1"]})"), f);  // nothing changed
+
+  // The results source is an optional member object.
+  Ok(R"({"op":"set","path":["Model-1","analyticalFields","MF-1","odbMeshRegionData"],"type":"OdbMeshRegionData",
+          "values":{"odbFileName":"Job-1.odb","variableLabel":"S","computeOrder":"RAW_DATA","regionBoundaries":"ELEMENT_SET"}})");
+  EXPECT_EQ(Ok(R"({"op":"get","path":["Model-1","analyticalFields","MF-1","odbMeshRegionData","regionBoundaries"]})"),
+            "ELEMENT_SET");
+}
+
+TEST_F(KfdScript, ASavedModelReadsBackWithEveryKindOfField) {
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","AF-1"],"type":"ExpressionField","values":{"expression":"Z","csysPartName":"Part-1"}})");
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","MF-1"],"type":"MappedField","values":{"xyzPointData":[[0,0,0,5]],"fieldDataType":"SCALAR"}})");
+  Ok(R"({"op":"set","path":["Model-1","analyticalFields","MF-1","odbMeshRegionData"],"type":"OdbMeshRegionData","values":{"stepIndex":3}})");
+  Ok(R"({"op":"create","path":["Model-1","discreteFields","DF-1"],"type":"DiscreteField",
+          "values":{"fieldType":"ORIENTATION","defaultValues":[1,0,0,0,1,0],"data":{"dataWidth":6,"domain":["Part-1-1.4"],"data":[1,0,0,0,1,0]}}})");
+  const cmd_Json model = Ok(R"({"op":"get","path":["Model-1"]})");
+  const std::string file = Dir("kfd-script") + "/fields.odb";
+  Ok(R"({"op":"save","file":")" + file + R"("})");
+  Ok(R"({"op":"delete","path":["Model-1"]})");
+  Ok(R"({"op":"open","file":")" + file + R"("})");
+  EXPECT_EQ(Ok(R"({"op":"get","path":["Model-1"]})"), model);
+  EXPECT_EQ(Ok(R"({"op":"get","path":["Model-1","discreteFields","DF-1","data","domain"]})"),
+            cmd_Json::parse(R"(["Part-1-1.4"])"));
+}
+
+void Edit(const std::string& path, const std::string& sql) {
+  sqlite3* db = nullptr;
+  ASSERT_EQ(sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READWRITE, dbf_ChecksumVfs()), SQLITE_OK);
+  char* err = nullptr;
+  EXPECT_EQ(sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &err), SQLITE_OK) << (err ? err : "") << " in " << sql;
+  sqlite3_free(err);
+  sqlite3_close(db);
+}
+
+TEST_F(KfdScript, AFileWithMappedFieldsOfTheLayoutOf1571IsUpgradedAsItIsOpened) {
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","MF-1"],"type":"MappedField",
+          "values":{"xyzPointData":[[0,0,0,5]],"searchTolType":"ABSOLUTE","interpolationTol":0.75,"scaleCoordinates":true,
+                    "coordinateScalingFactors":[2,2,2],"defaultUnMappedValue":-3}})");
+  const std::string file = Dir("kfd-upgrade") + "/old.odb";
+  dbf_Save(s.Database(), file);
+  // The layout of 1571: none of the fields that 1589, 1592, 1632 and 2302 added.
+  const std::vector<std::string> added = {"interpolationTol", "odbMeshRegion", "scaleCoordinates", "coordScale1",
+                                          "coordScale2", "coordScale3"};
+  std::vector<cls_Attribute> attrs;
+  for (const cls_Attribute& a : cls_ClassRegistrar::Instance().ByName("kfdC_MappedField")->Attributes())
+    if (std::find(added.begin(), added.end(), a.handle.Name().str()) == added.end()) attrs.push_back(a);
+  Edit(file,
+       "ALTER TABLE kfdC_MappedField DROP COLUMN interpolationTol;"
+       "ALTER TABLE kfdC_MappedField DROP COLUMN \"odbMeshRegion#OID\";"
+       "ALTER TABLE kfdC_MappedField DROP COLUMN \"odbMeshRegion#ClassID\";"
+       "ALTER TABLE kfdC_MappedField DROP COLUMN scaleCoordinates;"
+       "ALTER TABLE kfdC_MappedField DROP COLUMN coordScale1;"
+       "ALTER TABLE kfdC_MappedField DROP COLUMN coordScale2;"
+       "ALTER TABLE kfdC_MappedField DROP COLUMN coordScale3;"
+       "DELETE FROM dbf_Fields WHERE class = 'kfdC_MappedField' AND name IN ('interpolationTol', 'odbMeshRegion',"
+       " 'scaleCoordinates', 'coordScale1', 'coordScale2', 'coordScale3');"
+       "UPDATE dbf_Catalog SET version = 1571, fieldHash = '" + dbf_FieldTableHash(attrs) +
+           "' WHERE name = 'kfdC_MappedField';");
+  const ddr_Database db = dbf_Open(file);
+  const auto& fields = dynamic_cast<const kfdC_AnalyticalFieldContainer::Map&>(
+      *db.FindModel("Model-1")->FindRepository("analyticalFields"));
+  const auto* mf = dynamic_cast<const kfdC_MappedField*>(fields.ConstGet("MF-1"));
+  ASSERT_NE(mf, nullptr);
+  EXPECT_EQ(mf->GetInterpolationTol(), 0.05);
+  EXPECT_FALSE(mf->HasOdbMeshRegionData());
+  EXPECT_EQ(mf->GetScaleCoordinates(), false);
+  EXPECT_EQ(mf->GetCoordinateScalingFactors(), (std::array<double, 3>{1.0, 1.0, 1.0}));
+  // What the 1571 layout held is kept, the tolerance type included.
+  EXPECT_EQ(mf->GetSearchTolType(), kfdC_MappedField::SearchTolTypeEnm::ABSOLUTE);
+  EXPECT_EQ(mf->GetDefMappedVal(), -3.0);
+  EXPECT_EQ(mf->GetXyzDataTable(), (cow_2DArray<double>{{0, 0, 0, 5}}));
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(KfdScript, AllFieldsOfAModelByName) {
+  Ok(R"({"op":"create","path":["Model-1","discreteFields","A-Discrete"],"type":"DiscreteField"})");
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","Z-Expression"],"type":"ExpressionField","values":{"expression":"X"}})");
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","M-Mapped"],"type":"MappedField"})");
+  const ddr_Model& model = *s.Database().FindModel("Model-1");
+  std::vector<std::string> names;
+  for (const auto& [name, field] : kfdC_AllFields(model)) {
+    names.push_back(name.str());
+    EXPECT_EQ(kfdC_FindField(model, name), field);
+  }
+  EXPECT_EQ(names, (std::vector<std::string>{"M-Mapped", "Z-Expression", "A-Discrete"}));
+  EXPECT_NE(dynamic_cast<const kfdC_ExpressionField*>(kfdC_FindField(model, "Z-Expression")), nullptr);
+  EXPECT_EQ(kfdC_FindField(model, "Nothing"), nullptr);
+}
+
+}  // namespace
+
+namespace {
+
+// Rewrites the rows of a class in a saved file into the layout of an older version: the fields that
+// later versions added are dropped from the table, its field list and its hash.
+void MakeOld(const std::string& file, const char* className, int version, const std::vector<std::string>& added) {
+  std::vector<cls_Attribute> attrs;
+  for (const cls_Attribute& a : cls_ClassRegistrar::Instance().ByName(className)->Attributes())
+    if (std::find(added.begin(), added.end(), a.handle.Name().str()) == added.end()) attrs.push_back(a);
+  std::string sql;
+  for (const std::string& f : added)
+    sql += std::string("ALTER TABLE ") + className + " DROP COLUMN " + f + ";" + "DELETE FROM dbf_Fields WHERE class = '" +
+           className + "' AND name = '" + f + "';";
+  sql += "UPDATE dbf_Catalog SET version = " + std::to_string(version) + ", fieldHash = '" + dbf_FieldTableHash(attrs) +
+         "' WHERE name = '" + className + "';";
+  Edit(file, sql);
+}
+
+TEST_F(KfdScript, AFileWithDiscreteAndExpressionFieldsOfTheirFirstLayoutsIsUpgradedAsItIsOpened) {
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","AF-1"],"type":"ExpressionField",
+          "values":{"expression":"X*Y","csysPartName":"Part-9","csysType":"RECTANGULAR"}})");
+  Ok(R"({"op":"create","path":["Model-1","discreteFields","DF-1"],"type":"DiscreteField",
+          "values":{"location":"ELEMENTS","fieldType":"ORIENTATION","orientationType":"SPHERICAL","partLevelOrientation":true,
+                    "analyticFieldName":"AF-1","defaultValues":[7],"data":{"domain":["3"],"data":[7]}}})");
+  const std::string file = Dir("kfd-upgrade-first") + "/old.odb";
+  dbf_Save(s.Database(), file);
+  MakeOld(file, "kfdC_ExpressionField", 700, {"csysPartName"});
+  MakeOld(file, "kfdC_DiscreteField", 1000, {"fieldType", "orientationType", "partLevelOrientation", "analyticFieldName"});
+  const ddr_Database db = dbf_Open(file);
+  const ddr_Model& model = *db.FindModel("Model-1");
+  const auto* ex = dynamic_cast<const kfdC_ExpressionField*>(kfdC_FindField(model, "AF-1"));
+  ASSERT_NE(ex, nullptr);
+  EXPECT_EQ(ex->GetCsysPartName(), "");
+  EXPECT_EQ(ex->GetExpression(), "X*Y");
+  const auto* df = dynamic_cast<const kfdC_DiscreteField*>(kfdC_FindField(model, "DF-1"));
+  ASSERT_NE(df, nullptr);
+  EXPECT_EQ(df->GetFieldType(), kfdC_DiscreteField::FieldTypeEnm::SCALAR);
+  EXPECT_EQ(df->GetOrientationType(), kfdC_DiscreteField::OrientationTypeEnm::RECTANGULAR);
+  EXPECT_FALSE(df->GetPartLevelOrientation());
+  EXPECT_EQ(df->GetAnalyticFieldName(), "");
+  EXPECT_EQ(df->GetLocation(), kfdC_DiscreteField::LocationEnm::ELEMENTS);
+  EXPECT_EQ(df->GetData().GetDomain()[0], "3");
+  EXPECT_NO_THROW(df->AssertValid());  // a scalar field of width 1 again
+}
+
+}  // namespace

@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <stdexcept>
 #include <string>
 
 #include <nlohmann/json.hpp>
@@ -31,6 +32,10 @@ int Run(const std::string& script, const std::string& db) {
   if (!db.empty()) {
     try {
       target = dbf_SaveTarget(db);
+      // Found now rather than after the script ran, when the save at the end would fail.
+      const std::filesystem::path dir = std::filesystem::path(target).parent_path();
+      if (!dir.empty() && !std::filesystem::is_directory(dir))
+        throw std::runtime_error("the directory \"" + dir.string() + "\" does not exist");
     } catch (const std::exception& e) {
       Complain("cannot use \"" + db + "\" as the database: " + e.what());
       return kUnusable;

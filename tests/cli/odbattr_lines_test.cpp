@@ -103,6 +103,11 @@ TEST_F(ToolLines, TargetsThatAreNotRegularFilesAreRefusedAndLinksAreWrittenThrou
   EXPECT_EQ(r.err, "odbattr: cannot use \"" + fifo.string() + "\" as the database: it is a FIFO, not a regular file\n");
   EXPECT_TRUE(r.out.empty());  // nothing ran
   EXPECT_TRUE(fs::is_fifo(fifo));
+  const Outcome nodir = Tool("run --db " + Q(dir / "missing" / "m.db") + " " + Q(dir / "script.jsonl"));
+  EXPECT_EQ(nodir.code, 2);
+  EXPECT_EQ(nodir.err, "odbattr: cannot use \"" + (dir / "missing" / "m.db").string() + "\" as the database: the directory \"" +
+                           (dir / "missing").string() + "\" does not exist\n");
+  EXPECT_TRUE(nodir.out.empty());
 
   // save in a script: the line fails, the others run
   Write(dir / "save.jsonl", "{\"op\":\"create\",\"path\":[\"M\"]}\n{\"op\":\"save\",\"file\":\"" + fifo.string() +

@@ -254,9 +254,9 @@ cmd_OwnedObject NewInline(const cls_ClassMetadata& declared, const cmd_Json& v) 
   return obj;
 }
 
-// The members of a JSON object as the vector they are kept in. Keys of a repository are distinct,
-// so they are appended without the search that inserting by key makes (which made a dump
-// quadratic in the size of the repository).
+// The members of a JSON object as the vector they are kept in. Keys of a repository (and names of
+// models and repositories) are distinct, so they are appended without the search that inserting
+// by key makes (which made a dump quadratic in the size of the repository).
 std::vector<cmd_Json::object_t::value_type>& ObjectMembers(cmd_Json& j) {
   return static_cast<std::vector<cmd_Json::object_t::value_type>&>(j.get_ref<cmd_Json::object_t&>());
 }
@@ -376,12 +376,15 @@ cmd_Json cmd_RepositoryToJson(const mdl_Repository& repo) {
 
 cmd_Json cmd_ModelToJson(const ddr_Model& model) {
   cmd_Json j = cmd_Json::object();
-  for (const auto& name : model.RepositoryNames()) j[name.str()] = cmd_RepositoryToJson(*model.FindRepository(name.view()));
+  auto& members = ObjectMembers(j);
+  for (const auto& name : model.RepositoryNames())
+    members.emplace_back(name.str(), cmd_RepositoryToJson(*model.FindRepository(name.view())));
   return j;
 }
 
 cmd_Json cmd_DatabaseToJson(const ddr_Database& db) {
   cmd_Json j = cmd_Json::object();
-  for (const auto& [name, model] : db.GetModels()) j[name.str()] = cmd_ModelToJson(model.Get());
+  auto& members = ObjectMembers(j);
+  for (const auto& [name, model] : db.GetModels()) members.emplace_back(name.str(), cmd_ModelToJson(model.Get()));
   return j;
 }

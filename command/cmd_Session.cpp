@@ -205,6 +205,11 @@ cmd_Json cmd_Session::ExecuteLine(std::string_view line, std::size_t number) {
     cmd_Json r = Answer(number, false);
     r["error"] = ErrorOf(e.Kind(), e.Message(), e.File(), e.Line());
     return r;
+  } catch (const std::exception& e) {  // nothing about one line may end a run
+    ++failed_;
+    cmd_Json r = Answer(number, false);
+    r["error"] = ErrorOf("Error", e.what(), "", 0);
+    return r;
   }
   return Execute(command, number);
 }

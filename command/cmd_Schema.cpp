@@ -1,6 +1,7 @@
 #include "command/cmd_Schema.h"
 
 #include <cstdint>
+#include <exception>
 #include <limits>
 #include <string>
 #include <vector>
@@ -97,6 +98,7 @@ class Builder {
   cmd_Json RepositoryRules(const cmd_Json& repositories) {
     cmd_Json rules = cmd_Json::array();
     for (const auto& [repo, names] : repositories.items()) {
+      if (names.empty()) continue;  // a repository whose element class nothing can construct yet
       cmd_Json cond = cmd_Json{
           {"properties",
            {{"op", {{"enum", {"create", "set"}}}},
@@ -128,7 +130,11 @@ class Builder {
     props["$type"] = cmd_Json{{"const", name}};
     for (const auto& f : md.ScriptFields()) {
       cmd_Json m = Member(f);
-      m["default"] = cmd_MemberToJson(fresh.get(), f);
+      try {
+        m["default"] = cmd_MemberToJson(fresh.get(), f);
+      } catch (const std::exception&) {
+        // a default that cannot be shown as JSON is left out rather than failing the schema
+      }
       props[f.scriptName] = std::move(m);
     }
     cmd_Json d = cmd_Json::object();
@@ -148,6 +154,7 @@ class Builder {
         Define(*c);
         any.push_back(Ref(c->ScriptName()));
       }
+      if (any.empty()) return Typed("object");
       return cmd_Json{{"type", "object"}, {"additionalProperties", {{"anyOf", any}}}};
     }
     cmd_Json any = cmd_Json::array();
@@ -155,6 +162,7 @@ class Builder {
       Define(*c);
       any.push_back(Ref(c->ScriptName()));
     }
+    if (any.empty()) return Typed("object");  // nothing registered can stand there yet
     if (any.size() == 1) return any[0];
     return cmd_Json{{"anyOf", any}};
   }

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/odbattr_Commands.h"
+#include "command/cmd_Schema.h"
 #include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/persist/cls_Value.h"
 
@@ -35,6 +36,11 @@ int Classes() {
     all.push_back(std::move(c));
   }
   std::cout << all.dump(2) << std::endl;
+  return kOk;
+}
+
+int Schema() {
+  std::cout << cmd_ScriptSchema().dump(2) << std::endl;
   return kOk;
 }
 

@@ -23,6 +23,11 @@ int Classes();
 // Builds the example models from the scripts of a directory into a database file and checks it.
 int Example(const std::string& dir, const std::string& db);
 
+// Prints the JSON Schema of a command of a script.
+int Schema();
+// "odbattr 1.0.0 (library 1.0.0, database version N)".
+std::string VersionText();
+
 // Prints "odbattr: <message>" on standard error.
 void Complain(const std::string& message);
 

@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <iostream>
 #include <string>
 
@@ -8,6 +9,7 @@
 #include "command/cmd_Session.h"
 #include "dbfile/dbf_File.h"
 #include "dbfile/dbf_Format.h"
+#include "dbfile/dbf_Version.h"
 
 namespace odbattr {
 
@@ -50,20 +52,42 @@ int Dump(const std::string& file, const std::string& path) {
     Complain(r["error"]["message"].get<std::string>());
     return kFailed;
   }
-  std::cout << r["result"].dump(2) << std::endl;
+  std::cout << r["result"].dump(2, ' ', false, cmd_Json::error_handler_t::replace) << std::endl;
   return kOk;
 }
 
+std::string VersionText() {
+  return std::string("odbattr ") + dbf_LibraryVersion() + " (database version " + std::to_string(dbf_DatabaseVersion()) +
+         ")";
+}
+
 int Upgrade(const std::string& in, const std::string& out) {
+  namespace fs = std::filesystem;
+  std::error_code ec;
+  // The same file under another name (a link, a relative path) counts as the same file.
+  const bool same = fs::exists(out, ec) ? fs::equivalent(in, out, ec)
+                                        : fs::weakly_canonical(in, ec) == fs::weakly_canonical(out, ec);
+  if (same) {
+    Complain("IN and OUT are the same file (" + out + "); upgrade leaves IN as it is and writes a new file");
+    return kUnusable;
+  }
+  dbf_FileVersion version;
   try {
     Progress progress("upgrading " + in);
     progress.Stage("reading, upgrading and writing " + out);
-    dbf_Upgrade(in, out);
+    ddr_Database db = dbf_Open(in);
+    version = dbf_ReadFileVersion(in);
+    dbf_Save(db, out);
   } catch (const std::exception& e) {
     Complain(e.what());
     return kUnusable;
   }
-  std::cout << in << " upgraded to database version " << dbf_DatabaseVersion() << " as " << out << std::endl;
+  if (version.current)
+    std::cout << in << " is already at database version " << version.databaseVersion << "; written unchanged as "
+              << out << std::endl;
+  else
+    std::cout << in << " upgraded from database version " << version.databaseVersion << " to "
+              << dbf_DatabaseVersion() << " as " << out << std::endl;
   return kOk;
 }
 

@@ -52,7 +52,7 @@ int Example(const std::string& dir, const std::string& db) {
     std::size_t commands = 0, failed = 0;
     const bool complete = ForEachCommand(in, [&](const std::string& line, std::size_t number) {
       ++commands;
-      const cmd_Json r = session.ExecuteLine(line);
+      const cmd_Json r = session.ExecuteLine(line, number);
       if (r["ok"].get<bool>()) return;
       ++failed;
       std::cout << "  " << script.filename().string() << ":" << number << ": " << r["error"].dump() << '\n';

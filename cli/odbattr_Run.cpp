@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <stdexcept>
 #include <string>
 
 #include <nlohmann/json.hpp>
@@ -8,6 +9,7 @@
 #include "cli/odbattr_Commands.h"
 #include "cli/odbattr_Script.h"
 #include "command/cmd_Session.h"
+#include "dbfile/dbf_AtomicFile.h"
 #include "dbfile/dbf_File.h"
 
 namespace odbattr {
@@ -26,7 +28,20 @@ int Run(const std::string& script, const std::string& db) {
     in = &file;
   }
   cmd_Session session;
-  if (!db.empty() && std::filesystem::exists(db)) {
+  std::string target = db;  // where the save at the end goes: a symbolic link's target
+  if (!db.empty()) {
+    try {
+      target = dbf_SaveTarget(db);
+      // Found now rather than after the script ran, when the save at the end would fail.
+      const std::filesystem::path dir = std::filesystem::path(target).parent_path();
+      if (!dir.empty() && !std::filesystem::is_directory(dir))
+        throw std::runtime_error("the directory \"" + dir.string() + "\" does not exist");
+    } catch (const std::exception& e) {
+      Complain("cannot use \"" + db + "\" as the database: " + e.what());
+      return kUnusable;
+    }
+  }
+  if (!db.empty() && std::filesystem::exists(target)) {
     try {
       session = cmd_Session(dbf_Open(db));
     } catch (const std::exception& e) {
@@ -34,8 +49,10 @@ int Run(const std::string& script, const std::string& db) {
       return kUnusable;
     }
   }
-  const bool complete = ForEachCommand(*in, [&](const std::string& line, std::size_t) {
-    std::cout << session.ExecuteLine(line).dump() << '\n' << std::flush;
+  const bool complete = ForEachCommand(*in, [&](const std::string& line, std::size_t number) {
+    // Invalid UTF-8 never reaches a result (the line is refused), but the output must not depend on it.
+    std::cout << session.ExecuteLine(line, number).dump(-1, ' ', false, cmd_Json::error_handler_t::replace) << '\n'
+              << std::flush;
   });
   if (!complete) {
     Complain("reading the script " + script + " failed");
@@ -44,6 +61,7 @@ int Run(const std::string& script, const std::string& db) {
   if (!db.empty()) {
     try {
       dbf_Save(session.Database(), db);
+      if (target != db) Complain(db + " is a symbolic link; saved " + target + ", which it leads to");
     } catch (const std::exception& e) {
       Complain(e.what());
       return kUnusable;

@@ -11,6 +11,8 @@
 int main(int argc, char** argv) {
   CLI::App app{"odbattr: build, check, dump and upgrade model database files through the command layer"};
   app.require_subcommand(1);
+  app.set_version_flag("--version", odbattr::VersionText(), "Print the versions of the tool, the library and the database "
+                                                             "files it writes, and exit");
 
   std::string script, db, file, path, in, out, dir;
 
@@ -33,9 +35,12 @@ int main(int argc, char** argv) {
 
   CLI::App* upgrade = app.add_subcommand("upgrade", "Write a database file upgraded to the current class versions");
   upgrade->add_option("IN", in, "the database file to read; it is not changed")->required();
-  upgrade->add_option("OUT", out, "the database file to write")->required();
+  upgrade->add_option("OUT", out, "the database file to write; it must not be IN")->required();
 
   app.add_subcommand("classes", "List the registered classes with their type ids, versions and fields");
+  CLI::App* schema = app.add_subcommand(
+      "schema", "Print the JSON Schema of one command of a script, made from the registered classes: the ops, the "
+                "constructors of each repository, the members with their types, literals and defaults");
 
   CLI::App* example = app.add_subcommand(
       "example", "Build the example models (the scripts of examples/) into a database file and check it");
@@ -60,6 +65,7 @@ int main(int argc, char** argv) {
     else if (*dump) code = odbattr::Dump(file, path);
     else if (*upgrade) code = odbattr::Upgrade(in, out);
     else if (*example) code = odbattr::Example(dir, db);
+    else if (*schema) code = odbattr::Schema();
     else code = odbattr::Classes();
   } catch (const std::exception& e) {
     odbattr::Complain(e.what());

@@ -8,12 +8,24 @@
 
 #include <nlohmann/json.hpp>
 
+#include "platform/base/QMXBasException.h"
 #include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/persist/cls_Record.h"
 #include "command/cmd_Path.h"
 #include "platform/model/ddr_Database.h"
 #include "platform/model/ddr_Model.h"
 #include "platform/model/mdl_Repository.h"
+
+void cmd_WithinMember(const std::string& member, const std::function<void()>& fn) {
+  try {
+    fn();
+  } catch (cmd_MemberError& e) {
+    e.members.insert(e.members.begin(), member);
+    throw;
+  } catch (const QMXBasException& e) {
+    throw cmd_MemberError{{member}, e.Kind(), e.Message(), e.File(), e.Line()};
+  }
+}
 
 namespace {
 
@@ -138,7 +150,7 @@ class Converter {
         std::vector<cls_RecordPtr> out;
         for (std::size_t i = 0; i < v.size(); ++i) {
           if (v[i].is_null()) out.push_back(nullptr);
-          else if (v[i].is_object()) out.push_back(Inline(v[i]));
+          else if (v[i].is_object()) cmd_WithinMember(std::to_string(i), [&] { out.push_back(Inline(v[i])); });
           else Refuse(v[i], "with element " + std::to_string(i));
         }
         return out;
@@ -193,7 +205,9 @@ bool IsConstructorKey(const cls_ClassMetadata& md, const std::string& key) {
 
 void SetMembers(void* obj, const cls_ClassMetadata& md, const cmd_Json& values, const std::string& skip) {
   if (!values.is_object()) cmd_Refuse("The values of " + cmd_ClassLabel(md) + " must be a JSON object keyed by scripting names, not " + Describe(values));
-  for (const auto& [key, v] : values.items()) {
+  for (const auto& item : values.items()) {
+    const std::string& key = item.key();
+    const cmd_Json& v = item.value();
     if (!skip.empty() && key == skip) continue;
     if (IsConstructorKey(md, key)) {
       if (!v.is_string() || v.get<std::string>() != md.ScriptName())
@@ -207,7 +221,7 @@ void SetMembers(void* obj, const cls_ClassMetadata& md, const cmd_Json& values, 
       cmd_Refuse(cmd_ClassLabel(md) + " has no member \"" + key + "\"; its members are " +
                  (names.empty() ? "none" : names));
     }
-    f->set(obj, cmd_ValueFromJson(md, *f, v));
+    cmd_WithinMember(key, [&] { f->set(obj, cmd_ValueFromJson(md, *f, v)); });
   }
 }
 
@@ -226,17 +240,28 @@ cmd_OwnedObject NewInline(const cls_ClassMetadata& declared, const cmd_Json& v) 
   }
   cmd_OwnedObject obj = cmd_NewObject(*cls, nullptr);
   if (mdl_Repository* repo = cls->AsRepository(obj.get())) {
-    for (const auto& [k, e] : v.items()) {
+    for (const auto& item : v.items()) {
+      const std::string& k = item.key();
+      const cmd_Json& e = item.value();
       if (k == key) continue;
       if (!e.is_object())
         cmd_Refuse("The element \"" + k + "\" of " + repo->RepositoryName() + " must be an object, not " + Describe(e));
-      cmd_OwnedObject elem = NewInline(repo->ElementClass(), e);
-      repo->InsertNew(cow_String(k), elem.release());
+      cmd_WithinMember(k, [&] {
+        cmd_OwnedObject elem = NewInline(repo->ElementClass(), e);
+        repo->InsertNew(cow_String(k), elem.release());
+      });
     }
     return obj;
   }
   SetMembers(obj.get(), *cls, v, key);
   return obj;
+}
+
+// The members of a JSON object as the vector they are kept in. Keys of a repository (and names of
+// models and repositories) are distinct, so they are appended without the search that inserting
+// by key makes (which made a dump quadratic in the size of the repository).
+std::vector<cmd_Json::object_t::value_type>& ObjectMembers(cmd_Json& j) {
+  return static_cast<std::vector<cmd_Json::object_t::value_type>&>(j.get_ref<cmd_Json::object_t&>());
 }
 
 cmd_Json RecordToJson(const cls_Record& rec) {
@@ -341,22 +366,28 @@ cmd_Json cmd_MemberToJson(const void* owner, const cls_ScriptField& field) {
 
 cmd_Json cmd_RepositoryToJson(const mdl_Repository& repo) {
   cmd_Json j = cmd_Json::object();
-  for (const auto& key : repo.Keys()) {
+  const std::vector<cow_String> keys = repo.Keys();
+  auto& members = ObjectMembers(j);
+  members.reserve(keys.size());
+  for (const auto& key : keys) {
     const cls_ClassMetadata* cls = nullptr;
     const void* obj = repo.Find(key, &cls);
-    j[key.str()] = cmd_ObjectToJson(obj, *cls);
+    members.emplace_back(key.str(), cmd_ObjectToJson(obj, *cls));
   }
   return j;
 }
 
 cmd_Json cmd_ModelToJson(const ddr_Model& model) {
   cmd_Json j = cmd_Json::object();
-  for (const auto& name : model.RepositoryNames()) j[name.str()] = cmd_RepositoryToJson(*model.FindRepository(name.view()));
+  auto& members = ObjectMembers(j);
+  for (const auto& name : model.RepositoryNames())
+    members.emplace_back(name.str(), cmd_RepositoryToJson(*model.FindRepository(name.view())));
   return j;
 }
 
 cmd_Json cmd_DatabaseToJson(const ddr_Database& db) {
   cmd_Json j = cmd_Json::object();
-  for (const auto& [name, model] : db.GetModels()) j[name.str()] = cmd_ModelToJson(model.Get());
+  auto& members = ObjectMembers(j);
+  for (const auto& [name, model] : db.GetModels()) members.emplace_back(name.str(), cmd_ModelToJson(model.Get()));
   return j;
 }

@@ -5,8 +5,10 @@
 // constructor under "type" ("$type" in a class that has a member named "type"; "$type" is
 // accepted on input everywhere).
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <nlohmann/json_fwd.hpp>
 
@@ -20,6 +22,21 @@ class mdl_Repository;
 using cmd_Json = nlohmann::ordered_json;
 
 // --- JSON to values ------------------------------------------------------------------------------
+
+// A failure while setting members from JSON, carrying the failure as the system raised it (kind,
+// message, source file and line) and the members that lead to it: the scripting names of nested
+// members, keys of inline containers and positions in lists, from the object the values were
+// given for down to the member that failed (the last).
+struct cmd_MemberError {
+  std::vector<std::string> members;
+  std::string kind;
+  std::string message;
+  std::string file;
+  int line = 0;
+};
+
+// Runs fn; a failure inside it becomes (or stays) a cmd_MemberError with `member` in front.
+void cmd_WithinMember(const std::string& member, const std::function<void()>& fn);
 
 // The value a member takes from JSON; a JSON value of the wrong kind is refused with a
 // nex_CmdException naming the member and what it takes. Enumeration literals are passed on as

@@ -11,7 +11,9 @@
 #include "platform/base/QMXBasException.h"
 #include "platform/persist/cls_Record.h"
 #include "command/cmd_Check.h"
+#include "command/cmd_Line.h"
 #include "command/cmd_Path.h"
+#include "dbfile/dbf_AtomicFile.h"
 #include "dbfile/dbf_File.h"
 #include "platform/model/ddr_Model.h"
 #include "platform/model/mdl_MapOfCowsRepository.h"
@@ -22,8 +24,7 @@ namespace {
 
 // A validation failure of an object below the validated node: reported with its own path.
 struct ValidationFailure {
-  cmd_Failure first;
-  std::size_t count;
+  std::vector<cmd_Failure> failures;  // at least one; first failure first
 };
 
 struct OpKeys {
@@ -178,39 +179,80 @@ cmd_Json ErrorOf(const std::string& kind, const std::string& message, const std:
   return e;
 }
 
-}  // namespace
-
-cmd_Json cmd_Session::ExecuteLine(std::string_view line) {
-  cmd_Json command;
-  try {
-    command = cmd_Json::parse(line);
-  } catch (const cmd_Json::parse_error& e) {
-    ++failed_;
-    cmd_Json r = cmd_Json::object();
-    r["ok"] = false;
-    r["error"] = ErrorOf("CmdException", std::string("The command is not valid JSON: ") + e.what(), "cmd_Session.cpp", __LINE__);
-    return r;
-  }
-  return Execute(command);
+cmd_Json PathJson(const cmd_Path& path) {
+  cmd_Json a = cmd_Json::array();
+  for (const auto& step : path) a.push_back(step.str());
+  return a;
 }
 
-cmd_Json cmd_Session::Execute(const cmd_Json& command) {
+// The answer to one command: the script line first when there is one, so that a reader of the
+// results finds the line without counting.
+cmd_Json Answer(std::size_t line, bool ok) {
+  cmd_Json r = cmd_Json::object();
+  if (line) r["line"] = line;
+  r["ok"] = ok;
+  return r;
+}
+
+}  // namespace
+
+cmd_Json cmd_Session::ExecuteLine(std::string_view line, std::size_t number) {
+  cmd_Json command;
+  try {
+    command = cmd_ParseCommand(line);
+  } catch (const QMXBasException& e) {
+    ++failed_;
+    cmd_Json r = Answer(number, false);
+    r["error"] = ErrorOf(e.Kind(), e.Message(), e.File(), e.Line());
+    return r;
+  } catch (const std::exception& e) {  // nothing about one line may end a run
+    ++failed_;
+    cmd_Json r = Answer(number, false);
+    r["error"] = ErrorOf("Error", e.what(), "", 0);
+    return r;
+  }
+  return Execute(command, number);
+}
+
+cmd_Json cmd_Session::Execute(const cmd_Json& command, std::size_t number) {
   const std::size_t history = omu_ChangeHistory::Instance().Size();
   std::optional<SlotGuard> guard;
+  std::optional<cmd_Path> path;  // the command's path, for errors
   cmd_Json error;
   try {
+    cmd_CheckCommand(command);
+    if (command.is_object() && command.contains("path")) {
+      try {
+        path = PathOf(command);
+      } catch (const QMXBasException&) {
+        // the command is refused below, with its own message
+      }
+    }
     guard = SlotGuard::For(db_, command);
     cmd_Json result = Dispatch(command);
     ++succeeded_;
-    cmd_Json r = cmd_Json::object();
-    r["ok"] = true;
+    cmd_Json r = Answer(number, true);
     r["result"] = std::move(result);
     return r;
   } catch (const ValidationFailure& v) {
-    error = ErrorOf(v.first.kind, v.first.message, v.first.file, v.first.line);
-    error["path"] = cmd_Json::array();
-    for (const auto& step : v.first.path) error["path"].push_back(step.str());
-    error["failures"] = v.count;
+    const cmd_Failure& first = v.failures.front();
+    error = ErrorOf(first.kind, first.message, first.file, first.line);
+    error["path"] = PathJson(first.path);
+    error["failures"] = cmd_Json::array();
+    for (const auto& f : v.failures) {
+      cmd_Json one = ErrorOf(f.kind, f.message, f.file, f.line);
+      one["path"] = PathJson(f.path);
+      error["failures"].push_back(std::move(one));
+    }
+  } catch (const cmd_MemberError& e) {
+    error = ErrorOf(e.kind, e.message, e.file, e.line);
+    // The path of the object whose member failed: the command's path (less the member itself when
+    // "value" sets one member), then the members leading to it.
+    cmd_Path at = path.value_or(cmd_Path());
+    if (!at.empty() && command.contains("value")) at.pop_back();
+    for (std::size_t i = 0; i + 1 < e.members.size(); ++i) at.emplace_back(e.members[i]);
+    error["path"] = PathJson(at);
+    if (!e.members.empty()) error["member"] = e.members.back();
   } catch (const QMXBasException& e) {
     error = ErrorOf(e.Kind(), e.Message(), e.File(), e.Line());
   } catch (const cmd_Json::exception& e) {
@@ -218,11 +260,11 @@ cmd_Json cmd_Session::Execute(const cmd_Json& command) {
   } catch (const std::exception& e) {
     error = ErrorOf("Error", e.what(), "", 0);
   }
+  if (path && !error.contains("path")) error["path"] = PathJson(*path);
   if (guard) guard->Restore(db_);
   omu_ChangeHistory::Instance().Truncate(history);
   ++failed_;
-  cmd_Json r = cmd_Json::object();
-  r["ok"] = false;
+  cmd_Json r = Answer(number, false);
   r["error"] = std::move(error);
   return r;
 }
@@ -334,7 +376,9 @@ cmd_Json cmd_Session::Set(const cmd_Json& command) {
     if (hasValue) {
       if (!node.field)
         cmd_Refuse("\"value\" sets one member; " + cmd_PathText(path) + " names no member of an object: use \"values\"");
-      node.field->set(node.owner, cmd_ValueFromJson(*node.ownerMd, *node.field, command["value"]));
+      cmd_WithinMember(node.field->scriptName, [&] {
+        node.field->set(node.owner, cmd_ValueFromJson(*node.ownerMd, *node.field, command["value"]));
+      });
     } else {
       if (node.kind != cmd_Node::kObject)
         cmd_Refuse("\"values\" sets members of an object; " + cmd_PathText(path) + " names no object: use \"value\"");
@@ -427,7 +471,7 @@ cmd_Json cmd_Session::Validate(const cmd_Json& command) {
   const cmd_Path path = PathOf(command);
   cmd_Checker checker;
   cmd_WalkConst(db_, path, [&](const cmd_Node& n) { checker.CheckNode(n, path); });
-  if (!checker.Failures().empty()) throw ValidationFailure{checker.Failures().front(), checker.Failures().size()};
+  if (!checker.Failures().empty()) throw ValidationFailure{checker.Failures()};
   cmd_Json r = cmd_Json::object();
   r["validated"] = checker.Checked();
   return r;
@@ -439,6 +483,8 @@ cmd_Json cmd_Session::Save(const cmd_Json& command) {
   cmd_Json r = cmd_Json::object();
   r["file"] = file;
   r["models"] = db_.GetModels().size();
+  // A symbolic link stays; the file it leads to was replaced.
+  if (const std::string target = dbf_SaveTarget(file); target != file) r["target"] = target;
   return r;
 }
 

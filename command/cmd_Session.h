@@ -8,8 +8,11 @@
 //   {"op":"set","path":[...,"member"],"type":"Ctor","values":{...}}     a new object in a member
 //   {"op":"get","path":[...]}  {"op":"list","path":[...]}  {"op":"validate","path":[...]}
 //   {"op":"delete","path":[...]}  {"op":"save","file":"x.db"}  {"op":"open","file":"x.db"}
-// Each command answers {"ok":true,"result":...} or {"ok":false,"error":{"kind":...,"message":...,
-// "file":...,"line":...}}. A failed command changes nothing: the one repository element it may
+// Each command answers {"line":N,"ok":true,"result":...} or {"line":N,"ok":false,"error":{"kind":...,
+// "message":...,"file":...,"line":...,"path":[...],"member":...}}: "line" first is the script line,
+// the error's "message", "file" and "line" are the failure as the system raised it, "path" the
+// path of the object concerned and "member" the member that failed, when one did. A failed
+// validate lists every failure under "failures", first failure first. A failed command changes nothing: the one repository element it may
 // change is copied before it runs and put back on failure, and the change history is cut back to
 // where it was.
 #include <cstddef>
@@ -26,9 +29,11 @@ class cmd_Session {
   const ddr_Database& Database() const noexcept { return db_; }
   ddr_Database& Database() noexcept { return db_; }
 
-  cmd_Json Execute(const cmd_Json& command);
-  // One line of JSON; a line that is not JSON fails like a command.
-  cmd_Json ExecuteLine(std::string_view line);
+  // Runs one command. With a script line number (from 1) the answer carries it as "line".
+  cmd_Json Execute(const cmd_Json& command, std::size_t line = 0);
+  // One line of JSON. Whatever is wrong with the line (not JSON, not UTF-8, nested too deep, a
+  // duplicate key, a number out of range) fails it like a command; nothing is thrown.
+  cmd_Json ExecuteLine(std::string_view text, std::size_t line = 0);
 
   std::size_t Succeeded() const noexcept { return succeeded_; }
   std::size_t Failed() const noexcept { return failed_; }

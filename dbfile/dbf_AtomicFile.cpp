@@ -31,15 +31,40 @@ void SyncPath(const std::string& path, int flags, const std::string& what) {
 
 }  // namespace
 
-dbf_AtomicFile::dbf_AtomicFile(const std::string& path) : path_(path) {
+std::string dbf_SaveTarget(const std::string& path) {
   namespace fs = std::filesystem;
   if (path.empty()) nex_ThrowCmd("no file name was given");
+  if (path.find('\0') != std::string::npos) nex_ThrowCmd("the file name holds a NUL character");
   fs::path p(path);
+  if (!p.has_filename()) nex_ThrowCmd("the path names a directory, not a file");
+  std::error_code ec;
+  for (int hops = 0; fs::is_symlink(fs::symlink_status(p, ec)); ++hops) {
+    if (hops == 40) nex_ThrowCmd("it is a chain of symbolic links that does not end");
+    fs::path to = fs::read_symlink(p, ec);
+    if (ec) nex_ThrowCmd("its symbolic link cannot be read (" + ec.message() + ")");
+    p = to.is_absolute() ? to : p.parent_path() / to;
+  }
+  const fs::file_status st = fs::symlink_status(p, ec);
+  switch (st.type()) {
+    case fs::file_type::not_found:
+    case fs::file_type::regular: break;
+    case fs::file_type::directory: nex_ThrowCmd(p.string() == path ? "it is a directory" : "it leads to a directory");
+    case fs::file_type::fifo: nex_ThrowCmd("it is a FIFO, not a regular file");
+    case fs::file_type::socket: nex_ThrowCmd("it is a socket, not a regular file");
+    case fs::file_type::block:
+    case fs::file_type::character: nex_ThrowCmd("it is a device, not a regular file");
+    default: nex_ThrowCmd("it is not a regular file");
+  }
+  return p.string();
+}
+
+dbf_AtomicFile::dbf_AtomicFile(const std::string& path) : path_(dbf_SaveTarget(path)) {
+  namespace fs = std::filesystem;
+  fs::path p(path_);
   if (!p.has_filename()) nex_ThrowCmd("the path names a directory, not a file");
   fs::path dir = p.parent_path().empty() ? fs::path(".") : p.parent_path();
   std::error_code ec;
   if (!fs::is_directory(dir, ec)) nex_ThrowCmd("the directory \"" + dir.string() + "\" does not exist");
-  if (fs::is_directory(p, ec)) nex_ThrowCmd("it is a directory");
   static std::atomic<unsigned> counter{0};
   dir_ = dir.string();
   std::string name = ".";

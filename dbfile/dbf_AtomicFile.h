@@ -6,9 +6,15 @@
 // destination.
 #include <string>
 
+// The file that replacing `path` writes: `path` itself, or for a symbolic link the file it leads
+// to (through any chain of links), so that the link stays and its target is replaced. Refuses a
+// name with a NUL, a directory, and anything else that is not a regular file (a FIFO, a device,
+// a socket): replacing those by a regular file would break whoever uses them.
+std::string dbf_SaveTarget(const std::string& path);
+
 class dbf_AtomicFile {
  public:
-  // Refuses a destination whose directory does not exist or that is a directory itself.
+  // Refuses what dbf_SaveTarget refuses and a destination whose directory does not exist.
   explicit dbf_AtomicFile(const std::string& path);
   // Removes the temporary file and SQLite's side files of it unless committed.
   ~dbf_AtomicFile();

@@ -11,6 +11,7 @@
 
 #include "platform/persist/cls_ClassRegistrar.h"
 #include "dbfile/dbf_RowReader.h"
+#include "dbfile/dbf_Utf8.h"
 #include "dbfile/dbf_TableBlob.h"
 #include "dbfile/dbf_Vfs.h"
 #include "platform/base/nex_Exception.h"
@@ -443,6 +444,7 @@ std::vector<dbf_LoadedRoot> dbf_Reader::LoadRoots(const cls_ClassMetadata* requi
     std::int64_t cls = sqlite3_column_int64(s, 2);
     if (cls < 0 || cls > UINT32_MAX) Damaged("its list of roots holds a malformed entry");
     Entry e{cow_String(Text(s, 0)), dbf_Ref{sqlite3_column_int64(s, 1), static_cast<std::uint32_t>(cls)}};
+    if (dbf_InvalidUtf8At(e.name.view())) Damaged("its list of roots holds a name that is not UTF-8");
     const dbf_ReadTable& t = TableOf(e.ref.classId);
     if (required && !t.cls->IsA(*required))
       nex_ThrowCmd("the file holds a " + t.className + " under the name \"" + e.name.str() + "\", where a " +

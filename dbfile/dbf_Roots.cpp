@@ -66,13 +66,20 @@ void Save(const std::vector<dbf_Root>& roots, const std::string& path, const dbf
   file.Commit();
 }
 
+// The path as a message shows it: a NUL (refused as a file name) would end the message there.
+std::string Shown(const std::string& path) {
+  std::string out;
+  for (char c : path) out += c == '\0' ? std::string("\\0") : std::string(1, c);
+  return out;
+}
+
 }  // namespace
 
 void dbf_SaveRoots(const std::vector<dbf_Root>& roots, const std::string& path, const dbf_SaveOptions& options) {
   try {
     Save(roots, path, options);
   } catch (const std::exception& e) {
-    nex_ThrowCmd("Cannot save the model database \"" + path + "\": " + e.what());
+    nex_ThrowCmd("Cannot save the model database \"" + Shown(path) + "\": " + e.what());
   }
 }
 
@@ -84,6 +91,6 @@ std::vector<dbf_LoadedRoot> dbf_OpenRoots(const std::string& path, const dbc_Upg
     dbf_Reader reader(path, *driver);
     return reader.LoadRoots(required);
   } catch (const std::exception& e) {
-    nex_ThrowCmd("Cannot open the model database \"" + path + "\": " + e.what());
+    nex_ThrowCmd("Cannot open the model database \"" + Shown(path) + "\": " + e.what());
   }
 }

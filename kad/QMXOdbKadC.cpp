@@ -1,6 +1,7 @@
 #include "kad/QMXOdbKadC.h"
 
 #include "kad/kadC_ACWrapper.h"
+#include "kad/kadC_ADWrapper.h"
 #include "kad/kadC_AdptMeshCtrl.h"
 #include "kad/kadC_AdptMeshCtrl_302.h"
 #include "kad/kadC_AdptMeshCtrl_829.h"
@@ -65,10 +66,19 @@ void QMXOdbKadC_initialize(int& tally) {
   auto& old = omi_Singleton<dbc_OldClassRegistrar>::Instance();
   old.Register(cow_CountedHld<dbc_OldClassVersion>(new kadC_AdptMeshCtrl_302), 5);
   old.Register(cow_CountedHld<dbc_OldClassVersion>(new kadC_AdptMeshCtrl_829), 5);
+  // Domains live in the model too, after everything the module registers for its controls.
+  metadata.initClassMetadata(&kadC_ADWrapper::InitializeMetadata, 4);
+  {
+    kadC_AdptMeshDomCont domains;
+    kadC_ADWrapper prototype(domains);
+    ddr_Model::RegisterExtension(prototype);
+    bas_StartJournal::Register("kadC_ADWrapper");
+  }
 }
 
 void QMXOdbKadC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
   bas_StartJournal::Stop("QMXOdbKadC");
   ddr_Model::UnRegisterAdaptiveMeshControlContainer();
+  ddr_Model::UnRegisterExtension(kadC_AdptMeshDomCont::Names::kRepositoryName);
 }

@@ -15,6 +15,12 @@ int omu_PrimEnumBase::FindText(const char* text) const noexcept {
   return -1;
 }
 
+int omu_PrimEnumBase::FindText(std::string_view text) const noexcept {
+  for (int i = 0; table_[i].text; ++i)
+    if (std::string_view(table_[i].text) == text) return i;
+  return -1;
+}
+
 int omu_PrimEnumBase::FindValue(std::int64_t value) const noexcept {
   for (int i = 0; table_[i].text; ++i)
     if (table_[i].value == value) return i;

@@ -4,6 +4,7 @@
 // the function omu_LiteralTable(E) by argument-dependent lookup.
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <type_traits>
 
 #include "platform/base/bas_Alloc.h"
@@ -44,6 +45,8 @@ class omu_PrimEnumBase : public omu_Primitive {
  protected:
   explicit omu_PrimEnumBase(const omu_EnumLiteral* table) : table_(table) {}
   int FindText(const char* text) const noexcept;
+  // Compares the whole text, so that a text with an embedded NUL matches no literal.
+  int FindText(std::string_view text) const noexcept;
   int FindValue(std::int64_t value) const noexcept;
   void Store(int index) { str_ = cow_String(table_[index].text); }
   // Keeps a text already found equal to a literal: shares its body instead of making another.
@@ -79,7 +82,7 @@ class omu_PrimEnum<E, 1> : public omu_PrimEnumBase {
     value_ = value;
   }
   explicit omu_PrimEnum(const cow_String& s) : omu_PrimEnumBase(LiteralTable()) {
-    int i = FindText(s.c_str());
+    int i = FindText(s.view());
     if (i < 0) RefuseString(s);
     StoreFound(s);
     value_ = static_cast<E>(Table()[i].value);
@@ -87,12 +90,12 @@ class omu_PrimEnum<E, 1> : public omu_PrimEnumBase {
   // Reads the stored literal of the named field.
   omu_PrimEnum(const cls_ReadVisitor& r, const char* field) : omu_PrimEnumBase(LiteralTable()) {
     cow_String s = ReadStored(r, field);
-    int i = FindText(s.c_str());
+    int i = FindText(s.view());
     if (i < 0) RefuseStored(s);
     Take(i);
   }
   explicit omu_PrimEnum(const omu_PrimEnumBase& other) : omu_PrimEnumBase(LiteralTable()) {
-    int i = FindText(other.GetString().c_str());
+    int i = FindText(other.GetString().view());
     if (i < 0) RefuseOther(other.GetString());
     Take(i);
   }

@@ -71,13 +71,14 @@ TEST_F(OdbattrTest, RunReportsEachCommandAndSavesWhatSucceeded) {
   const Outcome r = Tool("run --db " + Q(db) + " " + Q(dir / "script.jsonl"));
   EXPECT_EQ(r.code, 1) << r.err;  // one command failed
   const std::vector<std::string> expected = {
-      R"({"ok":true,"result":null})",
-      R"({"ok":true,"result":null})",
-      R"({"ok":false,"error":{"kind":"CmdException","message":"omu_PrimEnum(const cow_String&) - str not allowed: )"
+      R"({"line":2,"ok":true,"result":null})",
+      R"({"line":3,"ok":true,"result":null})",
+      R"({"line":5,"ok":false,"error":{"kind":"CmdException","message":"omu_PrimEnum(const cow_String&) - str not allowed: )"
       R"(First_Order_Advection  Permissible: FIRST_ORDER_ADVECTION, SECOND_ORDER_ADVECTION","file":)"
-      R"("QMXAbuTessarUtilities/ProtectedInterfaces/omu_PrimEnum","line":103}})",
-      R"({"ok":true,"result":null})",
-      R"({"ok":true,"result":30.0})",
+      R"("QMXAbuTessarUtilities/ProtectedInterfaces/omu_PrimEnum","line":103,)"
+      R"("path":["Model-1","adaptiveMeshControls","C-1"],"member":"remapping"}})",
+      R"({"line":6,"ok":true,"result":null})",
+      R"({"line":7,"ok":true,"result":30.0})",
   };
   EXPECT_EQ(r.Lines(), expected);
 
@@ -98,7 +99,8 @@ TEST_F(OdbattrTest, RunReadsStandardInputAndRefusesAMissingScript) {
   Write(dir / "script.jsonl", "{\"op\":\"create\",\"path\":[\"M\"]}\n{\"op\":\"list\",\"path\":[]}\n");
   const Outcome r = Tool("run - < " + Q(dir / "script.jsonl"));
   EXPECT_EQ(r.code, 0) << r.err;
-  EXPECT_EQ(r.Lines(), (std::vector<std::string>{R"({"ok":true,"result":null})", R"({"ok":true,"result":["M"]})"}));
+  EXPECT_EQ(r.Lines(), (std::vector<std::string>{R"({"line":1,"ok":true,"result":null})",
+                                                 R"({"line":2,"ok":true,"result":["M"]})"}));
   const Outcome missing = Tool("run " + Q(dir / "absent.jsonl"));
   EXPECT_EQ(missing.code, 2);
   EXPECT_EQ(missing.err, "odbattr: cannot read the script " + (dir / "absent.jsonl").string() + "\n");

@@ -71,7 +71,8 @@ TEST_F(SessionTest, AFailedCommandChangesNothing) {
       "values":{"initialFeatureAngle":10,"remapping":"first_order_advection"}})");
   EXPECT_EQ(e, cmd_Json::parse(R"({"kind":"CmdException",
       "message":"omu_PrimEnum(const cow_String&) - str not allowed: first_order_advection  Permissible: FIRST_ORDER_ADVECTION, SECOND_ORDER_ADVECTION",
-      "file":"QMXAbuTessarUtilities/ProtectedInterfaces/omu_PrimEnum","line":103})"));
+      "file":"QMXAbuTessarUtilities/ProtectedInterfaces/omu_PrimEnum","line":103,
+      "path":["M","adaptiveMeshControls","C-1"],"member":"remapping"})"));
   EXPECT_EQ(Control("C-1").GetInitialFeatureAngle(), 30.0);
   EXPECT_TRUE(s.Database() == before);
   EXPECT_EQ(omu_ChangeHistory::Instance().Size(), history);
@@ -283,7 +284,11 @@ TEST_F(SessionTest, ValidationReportsTheModulesMessageAndTheFailingObject) {
   const cmd_Json e = cmdT_Fails(s, R"({"op":"validate","path":["M"]})");
   EXPECT_EQ(e, cmd_Json::parse(R"({"kind":"PrimException",
       "message":"Volumetric smoothing weight must be greater than or equal to zero.",
-      "file":"QMXOdbKadC.m/src/kadC_assert","line":71,"path":["M","adaptiveMeshControls","C-2"],"failures":2})"));
+      "file":"QMXOdbKadC.m/src/kadC_assert","line":71,"path":["M","adaptiveMeshControls","C-2"],"failures":[
+      {"kind":"PrimException","message":"Volumetric smoothing weight must be greater than or equal to zero.",
+       "file":"QMXOdbKadC.m/src/kadC_assert","line":71,"path":["M","adaptiveMeshControls","C-2"]},
+      {"kind":"PrimException","message":"Initial feature angle must be greater than or equal to zero and less than or equal to 180.",
+       "file":"QMXOdbKadC.m/src/kadC_assert","line":71,"path":["M","adaptiveMeshControls","C-3"]}]})"));
   EXPECT_EQ(cmdT_Fails(s, R"({"op":"validate","path":["M","adaptiveMeshControls","C-3"]})")["message"],
             "Initial feature angle must be greater than or equal to zero and less than or equal to 180.");
   EXPECT_EQ(cmdT_Ok(s, R"({"op":"validate","path":["M","adaptiveMeshControls","C-1"]})"),

@@ -10,6 +10,7 @@
 #include "frame/QMXOdbAttrEO2.h"
 #include "kad/QMXOdbKadC.h"
 #include "kad/kadC_ACWrapper.h"
+#include "kad/kadC_ADWrapper.h"
 #include "kad/kadC_AdptMeshCtrl.h"
 #include "kad/kadC_AdptMeshCtrlCont.h"
 #include "kad/kadC_AdptMeshCtrl_302.h"
@@ -70,6 +71,7 @@ TEST_F(frame_StoppedLibrary, AdaptiveMeshModuleStartedTwiceRegistersOnce) {
       {&kadC_AdptMeshDomCont::InitializeMetadata, 3},
       {&kadC_AdptMeshCtrlCont::InitializeMetadata, 3},
       {&kadC_ACWrapper::InitializeMetadata, 4},
+      {&kadC_ADWrapper::InitializeMetadata, 4},
   };
   const auto& entries = Metadata().Entries();
   ASSERT_EQ(entries.size() - metadataMark, std::size(expected));
@@ -86,8 +88,9 @@ TEST_F(frame_StoppedLibrary, AdaptiveMeshModuleStartedTwiceRegistersOnce) {
   EXPECT_EQ(old[oldMark + 1].kind, 5);
 
   EXPECT_EQ(bas_StartJournal::Since(journalMark),
-            (std::vector<std::string>{"start QMXOdbKadC", "register kadC_ACWrapper"}));
+            (std::vector<std::string>{"start QMXOdbKadC", "register kadC_ACWrapper", "register kadC_ADWrapper"}));
   EXPECT_EQ(RegisteredTimes("adaptiveMeshControls"), 1);
+  EXPECT_EQ(RegisteredTimes("adaptiveMeshDomains"), 1);
   const typ_ArchCompEntry* arch = typ_ArchCompTable::Find(616);
   ASSERT_NE(arch, nullptr);
   EXPECT_EQ(arch->Records(), kadC_ArchEntry().Records());
@@ -98,6 +101,7 @@ TEST_F(frame_StoppedLibrary, AdaptiveMeshModuleStartedTwiceRegistersOnce) {
   QMXOdbKadC_finalize(tally);
   EXPECT_EQ(tally, 0);
   EXPECT_EQ(RegisteredTimes("adaptiveMeshControls"), 0);
+  EXPECT_EQ(RegisteredTimes("adaptiveMeshDomains"), 0);
   EXPECT_EQ(Metadata().Entries().size() - metadataMark, std::size(expected));
   EXPECT_EQ(OldClasses().Entries().size() - oldMark, 2u);
   EXPECT_NE(cls_ClassRegistrar::Instance().ByName("kadC_AdptMeshCtrl"), nullptr);

@@ -17,7 +17,7 @@ class cls_ClassRegistrar;
 class kfdC_DataTable : public mem_Allocated {
  public:
   static constexpr const char* kClassName = "kfdC_DataTable";
-  static constexpr const char* kScriptName = "DataTable";
+  static constexpr const char* kScriptName = "FieldDataTable";  // "DataTable" constructs a table collection's data table
   static constexpr int kVersion = 1000;
   static constexpr unsigned TypeId() { return fw_TypeId(858, 8); }
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -48,6 +49,18 @@ TEST_F(Persistence, EveryRegisteredClassRoundTripsThroughARecord) {
     ++checked;
   }
   EXPECT_GE(checked, 5);
+}
+
+// Scripts construct by these names, so two classes of one name would make one unreachable.
+TEST_F(Persistence, NoTwoClassesShareAScriptingConstructorName) {
+  std::map<std::string, std::string> byScriptName;
+  for (const cls_ClassMetadata* md : cls_ClassRegistrar::Instance().All()) {
+    const std::string script = md->ScriptName();
+    if (script.empty()) continue;
+    const auto [it, fresh] = byScriptName.emplace(script, std::string(md->Name()));
+    EXPECT_TRUE(fresh) << "\"" << script << "\" names " << it->second << " and " << md->Name();
+  }
+  EXPECT_GT(byScriptName.size(), 20u);
 }
 
 TEST_F(Persistence, UidsAreFreshForNewObjectsAndKeptByReadAndCopy) {

@@ -349,6 +349,11 @@ cmd_Json cmd_RepositoryToJson(const mdl_Repository& repo) {
 cmd_Json cmd_ModelToJson(const ddr_Model& model) {
   cmd_Json j = cmd_Json::object();
   for (const auto& name : model.RepositoryNames()) j[name.str()] = cmd_RepositoryToJson(*model.FindRepository(name.view()));
+  for (const auto& name : model.ObjectNames()) {
+    const cls_ClassMetadata* cls = nullptr;
+    const void* obj = model.FindObject(name.view(), &cls);
+    j[name.str()] = cmd_ObjectToJson(obj, *cls);
+  }
   return j;
 }
 

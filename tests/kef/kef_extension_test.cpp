@@ -1,0 +1,161 @@
+// The engineering features as one object of each model: not a repository, reached by scripts
+// through its containers, separated copy-on-write, saved and read back with the model, and
+// restored whole when a command inside it fails.
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+
+#include <string>
+#include <vector>
+
+#include "command/cmd_Session.h"
+#include "kef/kefC_EngineeringFeatures.h"
+#include "kef/kefC_NonstructuralMass.h"
+#include "kef/kefC_PointMassInertia.h"
+#include "platform/model/ddr_Model.h"
+#include "platform/model/omu_ChangeHistory.h"
+#include "tests/kef/kef_test.h"
+
+namespace {
+
+const kefC_EngineeringFeatures* Features(const ddr_Model& m) {
+  return static_cast<const kefC_EngineeringFeatures*>(static_cast<const mdl_Extension*>(m.FindObject("engineeringFeatures")));
+}
+
+cmd_Json Ok(cmd_Session& s, const std::string& line) {
+  cmd_Json r = s.ExecuteLine(line);
+  EXPECT_TRUE(r["ok"].get<bool>()) << line << "\n -> " << r.dump();
+  return r["result"];
+}
+
+cmd_Json Fails(cmd_Session& s, const std::string& line) {
+  cmd_Json r = s.ExecuteLine(line);
+  EXPECT_FALSE(r["ok"].get<bool>()) << line << "\n -> " << r.dump();
+  return r.contains("error") ? r["error"] : cmd_Json();
+}
+
+class KefExtension : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    kef_Start();
+    Ok(s, R"({"op":"create","path":["Model-1"]})");
+    omu_ChangeHistory::Instance().Clear();
+  }
+  const ddr_Model& Model() { return *s.Database().FindModel("Model-1"); }
+  cmd_Session s;
+};
+
+TEST_F(KefExtension, EachModelHoldsOneObjectThatIsNotARepository) {
+  ddr_Model m;
+  EXPECT_EQ(m.FindRepository("engineeringFeatures"), nullptr);
+  const std::vector<cow_String> repos = m.RepositoryNames();
+  EXPECT_EQ(std::count(repos.begin(), repos.end(), cow_String("engineeringFeatures")), 0);
+  EXPECT_EQ(m.ObjectNames(), std::vector<cow_String>{"engineeringFeatures"});
+  const cls_ClassMetadata* cls = nullptr;
+  ASSERT_NE(m.FindObject("engineeringFeatures", &cls), nullptr);
+  EXPECT_EQ(cls->Name(), "kefC_EngineeringFeatures");
+  EXPECT_EQ(m.FindObject("inertias"), nullptr);
+  EXPECT_EQ(m.FindObject("constraints"), nullptr);  // a repository is not an object extension
+
+  // a copy of the model shares the object until one side modifies it
+  ddr_Model copy = m;
+  EXPECT_EQ(copy.FindObject("engineeringFeatures"), m.FindObject("engineeringFeatures"));
+  auto* mine = static_cast<kefC_EngineeringFeatures*>(static_cast<mdl_Extension*>(copy.ModifyObject("engineeringFeatures")));
+  kefC_PointMassInertia pm;
+  pm.SetMass(1.0);
+  mine->GetInertiaContainer().Insert("PM-1", pm);
+  EXPECT_NE(copy.FindObject("engineeringFeatures"), m.FindObject("engineeringFeatures"));
+  EXPECT_EQ(Features(m)->GetInertiaContainer().Size(), 0u);
+  EXPECT_EQ(Features(copy)->GetInertiaContainer().Size(), 1u);
+  EXPECT_FALSE(copy == m);
+}
+
+TEST_F(KefExtension, ScriptsReachAFeatureThroughItsContainer) {
+  Ok(s, R"({"op":"create","path":["Model-1","engineeringFeatures","inertias","PM-1"],"type":"PointMassInertia",
+            "values":{"region":"Set-1","mass":2.5,"localCsys":"Datum csys-1"}})");
+  const std::vector<omu_PrimTuple> inserted = {{"kefC_InertiaContainer", "Insert", "PM-1"}};
+  EXPECT_EQ(omu_ChangeHistory::Instance().Entries(), inserted);
+  EXPECT_EQ(Ok(s, R"({"op":"get","path":["Model-1","engineeringFeatures","inertias","PM-1","mass"]})"), 2.5);
+  EXPECT_EQ(Ok(s, R"({"op":"list","path":["Model-1","engineeringFeatures"]})"),
+            cmd_Json::parse(R"(["inertias","fasteners","cracks","springDashpots","imperfections"])"));
+  EXPECT_EQ(Ok(s, R"({"op":"list","path":["Model-1","engineeringFeatures","inertias"]})"), cmd_Json::parse(R"(["PM-1"])"));
+  const cmd_Json models = Ok(s, R"({"op":"list","path":["Model-1"]})");
+  EXPECT_NE(std::find(models.begin(), models.end(), "engineeringFeatures"), models.end());
+
+  Ok(s, R"({"op":"create","path":["Model-1","engineeringFeatures","springDashpots","Spring-1"],"type":"SpringDashpotToGround",
+            "values":{"applySpring":true,"springStiffness":1000,"dof1":3,"region":"Set-2"}})");
+  Ok(s, R"({"op":"set","path":["Model-1","engineeringFeatures","springDashpots","Spring-1","dashpotCoefficient"],"value":0.5})");
+  const cmd_Json spring = Ok(s, R"({"op":"get","path":["Model-1","engineeringFeatures","springDashpots","Spring-1"]})");
+  EXPECT_EQ(spring["type"], "SpringDashpotToGround");
+  EXPECT_EQ(spring["dashpotCoefficient"], 0.5);
+  EXPECT_EQ(spring["springStiffness"], 1000.0);
+  EXPECT_EQ(Ok(s, R"({"op":"validate","path":["Model-1","engineeringFeatures"]})")["validated"], 3);
+
+  // the whole model is validated through the object, and a failure names its own path
+  Ok(s, R"({"op":"set","path":["Model-1","engineeringFeatures","inertias","PM-1"],"values":{"mass1":1.0}})");
+  const cmd_Json e = Fails(s, R"({"op":"validate","path":["Model-1"]})");
+  EXPECT_EQ(e["message"], "Point mass/inertia cannot contain both isotropic and anisotropic mass values.");
+  EXPECT_EQ(e["path"], cmd_Json::parse(R"(["Model-1","engineeringFeatures","inertias","PM-1"])"));
+  EXPECT_EQ(Ok(s, R"({"op":"get","path":["Model-1"]})")["engineeringFeatures"]["inertias"]["PM-1"]["mass1"], 1.0);
+
+  Ok(s, R"({"op":"delete","path":["Model-1","engineeringFeatures","inertias","PM-1"]})");
+  EXPECT_EQ(Features(Model())->GetInertiaContainer().Size(), 0u);
+}
+
+TEST_F(KefExtension, WrongPathsAreRefusedAndChangeNothing) {
+  const ddr_Database before = s.Database();
+  struct Case {
+    const char* line;
+    const char* message;
+  };
+  const Case cases[] = {
+      {R"({"op":"get","path":["Model-1","engineeringFeatures","masses"]})",
+       "kefC_EngineeringFeatures has no member \"masses\"; its members are inertias, fasteners, cracks, springDashpots, "
+       "imperfections"},
+      {R"({"op":"get","path":["Model-1","engineeringFeatures","inertias","PM-9"]})", "There is no \"PM-9\" in inertias"},
+      {R"({"op":"create","path":["Model-1","engineeringFeatures","inertias","F-1"],"type":"PointFastener"})", nullptr},
+      {R"({"op":"delete","path":["Model-1","engineeringFeatures","inertias"]})",
+       "the member \"inertias\" of kefC_EngineeringFeatures always holds an object; it cannot be deleted"},
+      {R"({"op":"create","path":["Model-1","engineeringFeatures"],"type":"PointMassInertia"})",
+       "The repositories of a model come with it; \"engineeringFeatures\" cannot be created"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.line);
+    const cmd_Json e = Fails(s, c.line);
+    EXPECT_EQ(e["kind"], "CmdException");
+    if (c.message) {
+      EXPECT_EQ(e["message"], c.message);
+    }
+  }
+  EXPECT_TRUE(s.Database() == before);
+}
+
+TEST_F(KefExtension, AFailedCommandInsideTheObjectPutsItBack) {
+  Ok(s, R"({"op":"create","path":["Model-1","engineeringFeatures","inertias","NSM-1"],"type":"NonstructuralMass",
+            "values":{"magnitude":1.5}})");
+  const ddr_Database before = s.Database();
+  omu_ChangeHistory::Instance().Clear();
+  // the magnitude is set before the unknown literal is refused; the failure undoes it
+  const cmd_Json e = Fails(s, R"({"op":"set","path":["Model-1","engineeringFeatures","inertias","NSM-1"],
+                                  "values":{"magnitude":9.0,"units":"KILOGRAMS"}})");
+  EXPECT_EQ(e["message"].get<std::string>().rfind("omu_PrimEnum(const cow_String&) - str not allowed: KILOGRAMS  Permissible: ", 0), 0u);
+  EXPECT_TRUE(s.Database() == before);
+  const auto& nsm = dynamic_cast<const kefC_NonstructuralMass&>(*Features(Model())->GetInertiaContainer().ConstGet("NSM-1"));
+  EXPECT_EQ(nsm.GetMagnitude(), 1.5);
+  EXPECT_EQ(nsm.GetUnits(), kefC_UnitsEnum::TOTAL_MASS);
+  EXPECT_TRUE(omu_ChangeHistory::Instance().Entries().empty());
+}
+
+TEST_F(KefExtension, TheObjectIsSavedAndReadBackWithItsModel) {
+  const std::string file = qmx_TempDir("kef-ext") + "/m.odb";
+  Ok(s, R"({"op":"create","path":["Model-1","engineeringFeatures","imperfections","Imp-1"],"type":"DataImperfection",
+            "values":{"imperfectionTable":[[0.1,0.0,0.0],[0.0,0.2,0.0]],"nodeNumbers":[4,9],"system":"CYLINDRICAL"}})");
+  Ok(s, R"({"op":"save","file":")" + file + R"("})");
+  cmd_Session other;
+  Ok(other, R"({"op":"open","file":")" + file + R"("})");
+  EXPECT_TRUE(other.Database() == s.Database());
+  EXPECT_EQ(Ok(other, R"({"op":"get","path":["Model-1","engineeringFeatures","imperfections","Imp-1","system"]})"), "CYLINDRICAL");
+  EXPECT_EQ(Features(*other.Database().FindModel("Model-1"))->GetUid(), Features(Model())->GetUid());
+}
+
+}  // namespace

@@ -10,6 +10,6 @@ bool kcoC_Tie::SameAs(const kcoC_Constraint& o) const { return *this == static_c
 void kcoC_Tie::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kcoC_Tie>(r); }
 void kcoC_Tie::CowDtor(void* p) { fw_CowDtor<kcoC_Tie>(p); }
 
-// The tie's own rules need the model (which regions are surfaces, which analyses are explicit);
-// the command layer that has it raises them. On its own a tie is always acceptable.
+// The tie's rules need the model (which regions are surfaces, which analyses are explicit); see
+// kcoC_AssertInModel. On its own a tie is always acceptable.
 void kcoC_Tie::AssertValid() const {}

@@ -1,7 +1,7 @@
 #pragma once
 // A tie between a main surface and a secondary region: the secondary nodes follow the main
-// surface. Whether the main region is a surface and whether rotations may be tied depend on the
-// model and the analysis, which the command layer judges (codes 5 to 7).
+// surface. Whether the main region is a surface, the adjusting set valid and rotations allowed
+// depend on the model and the analysis; kcoC_AssertInModel judges them (codes 5 to 7).
 #include <cstdint>
 
 #include "kco/kcoC_Constraint.h"

@@ -1,6 +1,7 @@
 // The constraint error table letter for letter, the rules of each kind in order, and the
 // enumerations with their literals.
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "kco/kcoC_EmbeddedRegion.h"
 #include "kco/kcoC_Equation.h"
 #include "kco/kcoC_MPC.h"
+#include "kco/kcoC_ModelContext.h"
 #include "kco/kcoC_RigidBody.h"
 #include "kco/kcoC_ShellSolidCoupling.h"
 #include "kco/kcoC_Tie.h"
@@ -165,6 +167,54 @@ TEST_F(KcoValidation, EnumerationsListTheirLiteralsInOrderCountingFromZero) {
   // Lookups are exact: the lower-case spelling is refused with the enumeration's message.
   auto e = qmx_Catch<nex_CmdError>([] { omu_PrimEnum<kcoC_CouplingTypeEnm, 1>(cow_String("distributing")); });
   EXPECT_EQ(e.Message().rfind("omu_PrimEnum(const cow_String&) - str not allowed: distributing  Permissible: ", 0), 0u);
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(KcoValidation, TieRulesJudgedAgainstTheModelComeInTheOrderOfTheirCodes) {
+  kcoC_Tie tie;
+  tie.SetMaster(rgnC_Region("Edge-1"));
+  tie.SetTiedNset(rgnC_Region("Adjust-1"));
+  kcoC_ModelContext model;
+  EXPECT_NO_THROW(kcoC_AssertInModel(tie, model));  // nothing asked, nothing refused
+  model.explicitAnalysis = true;
+  model.isSurface = [](const rgnC_Region& r) { return r.Name() != "Edge-1"; };
+  model.isValidAdjustSet = [](const rgnC_Region& r) { return r.Name() == "Good"; };
+  auto message = [&] { return qmx_Catch<nex_PrimError>([&] { kcoC_AssertInModel(tie, model); }).Message(); };
+  EXPECT_EQ(message(), kMainSurface);
+  tie.SetMaster(rgnC_Region("Surf-1"));
+  EXPECT_EQ(message(), "Set to adjust for Tie-constraint overclosure is invalid.");
+  tie.SetAdjust(false);  // the set matters only when adjusting
+  EXPECT_EQ(message(), "Rotational DOF's cannot be tied in an Explicit analysis.");
+  tie.SetTieRotations(false);
+  EXPECT_NO_THROW(kcoC_AssertInModel(tie, model));
+  tie.SetTieRotations(true);
+  tie.SetSuppress(true);
+  EXPECT_NO_THROW(kcoC_AssertInModel(tie, model));
+}
+
+// A constraint kind that no module registered.
+class UnknownKind : public kcoC_Constraint {
+ public:
+  void DBWrite(const cls_WriteVisitor&) const override {}
+  UnknownKind* Copy() const override { return new UnknownKind(*this); }
+  void AssertValid() const override {}
+  unsigned ClassTypeId() const override { return fw_TypeId(720, 99); }
+
+ protected:
+  bool SameAs(const kcoC_Constraint&) const override { return true; }
+};
+
+TEST_F(KcoValidation, OnlyKnownKindsAreCopied) {
+  kcoC_Tie tie;
+  tie.SetPositionTolerance(0.75);
+  std::unique_ptr<kcoC_Constraint> copy(kcoC_CopyConstraint(tie));
+  ASSERT_NE(dynamic_cast<kcoC_Tie*>(copy.get()), nullptr);
+  EXPECT_TRUE(*copy == tie);
+  auto e = qmx_Catch<nex_PrimError>([] { kcoC_CopyConstraint(UnknownKind()); });
+  EXPECT_EQ(e.Message(), "Unable to copy unknown constraint type.");
 }
 
 }  // namespace

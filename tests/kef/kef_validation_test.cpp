@@ -11,6 +11,7 @@
 #include "kef/kefC_FileImperfection.h"
 #include "kef/kefC_HeatCapacitance.h"
 #include "kef/kefC_InputImperfection.h"
+#include "kef/kefC_ModelContext.h"
 #include "kef/kefC_NonstructuralMass.h"
 #include "kef/kefC_PointFastener.h"
 #include "kef/kefC_PointMassInertia.h"
@@ -293,6 +294,51 @@ TEST_F(KefValidation, EnumerationsListTheirLiteralsInOrderCountingFromZero) {
   EXPECT_EQ(Literals<kefC_UnitsEnum>(), (V{"TOTAL_MASS", "MASS_PER_VOLUME", "MASS_PER_AREA", "MASS_PER_LENGTH"}));
   EXPECT_EQ(Literals<kefC_WeightingMethodEnum>(), (V{"UNIFORM", "LINEAR", "QUADRATIC", "CUBIC"}));
   EXPECT_EQ(Literals<kefC_WholeSurfaceEnum>(), (V{"WHOLE_SURFACE"}));
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(KefValidation, RulesJudgedAgainstTheModelFollowTheFeaturesOwn) {
+  kefC_ModelContext model;
+  model.isBeamMpcSection = [](const cow_String& s) { return s == "Beam-MPC"; };
+  model.isEdgeBased = [](const rgnC_Region& r) { return r.Name() == "Edges"; };
+  model.isStandardContactPair = [](const cow_String& i) { return i == "Pair-1"; };
+  model.isStandardStep = [](const cow_String& s) { return s == "Static"; };
+  auto message = [](const std::function<void()>& fn) { return qmx_Catch<nex_PrimError>(fn).Message(); };
+
+  kefC_PointFastener f;
+  f.SetConnectionType(kefC_PointAdherendEnum::BEAM_MPC);
+  f.SetSectionName("Tie-MPC");
+  f.SetTargetSurface(rgnC_Region("Edges"));
+  f.SetPhysicalRadius(0.0);
+  EXPECT_EQ(message([&] { kefC_AssertInModel(f, model); }), "Physical radius must be specified and must be greater than zero.");
+  f.SetPhysicalRadius(1.0);
+  EXPECT_EQ(message([&] { kefC_AssertInModel(f, model); }),
+            "Specified MPC section not yet supported for point fasteners. Point fastener supports only beam type MPC "
+            "section from available MPC sections.");
+  f.SetSectionName("Beam-MPC");
+  EXPECT_EQ(message([&] { kefC_AssertInModel(f, model); }), "The target surface cannot be an edge based for Point fastners.");
+  f.SetTargetSurface(rgnC_Region("Faces"));
+  EXPECT_NO_THROW(kefC_AssertInModel(f, model));
+  f.SetConnectionType(kefC_PointAdherendEnum::CONNECTOR);  // a connector section is not an MPC section
+  EXPECT_NO_THROW(kefC_AssertInModel(f, model));
+
+  kefC_DebondVCCT d;
+  d.SetSurfToSurfInteraction("General");
+  d.SetStepName("Dynamic");
+  EXPECT_EQ(message([&] { kefC_AssertInModel(d, model); }),
+            "The interaction specified in the Debond VCCT crack must be Tessar/Standard contact pair interaction");
+  d.SetSurfToSurfInteraction("Pair-1");
+  EXPECT_EQ(message([&] { kefC_AssertInModel(d, model); }),
+            "The step specified in the Debond VCCT crack must be an Tessar/Standard step");
+  d.SetStepName("Static");
+  EXPECT_NO_THROW(kefC_AssertInModel(d, model));
+  d.SetStepName("");
+  EXPECT_EQ(message([&] { kefC_AssertInModel(d, model); }), "An initiation step must be specified.");
+  d.SetSuppress(true);
+  EXPECT_NO_THROW(kefC_AssertInModel(d, model));
 }
 
 }  // namespace

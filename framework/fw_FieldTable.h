@@ -122,6 +122,7 @@ struct fw_ScriptAccess {
   static cls_ScriptField Make() {
     const omu_EnumLiteral* literals = nullptr;
     if constexpr (std::is_enum_v<M>) literals = omu_LiteralTable(M{});
+    if constexpr (requires { Tr::Literals(); }) literals = Tr::Literals();  // a number or a literal
     const cls_ClassMetadata* declared = nullptr;
     bool optional = false;
     if constexpr (requires { typename Tr::Element; }) {

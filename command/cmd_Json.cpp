@@ -107,8 +107,10 @@ class Converter {
       return e.get<bool>();
     };
     switch (field_.type) {
-      case cls_AttrInt: return integer(v, "");
-      case cls_AttrDouble: return number(v, "");
+      case cls_AttrInt:
+      case cls_AttrDouble:
+        if (v.is_string() && field_.literals) return cow_String(v.get<std::string>());  // a number or a literal
+        return field_.type == cls_AttrInt ? cls_Value(integer(v, "")) : cls_Value(number(v, ""));
       case cls_AttrBool: return boolean(v, "");
       case cls_AttrString:
       case cls_AttrRegion: return text(v, "");

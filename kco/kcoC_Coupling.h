@@ -1,9 +1,10 @@
 #pragma once
 // A coupling of a reference point to a surface: kinematic, distributing, structural or uniform.
-// The influence radius is "WHOLE_SURFACE" (held as the largest finite double) or a distance.
+// The influence radius is "WHOLE_SURFACE" or a distance.
 #include <cstdint>
 
 #include "kco/kcoC_Constraint.h"
+#include "framework/fw_OrLiteral.h"
 #include "kco/kcoC_Enums.h"
 #include "platform/base/cow_String.h"
 #include "platform/model/rgnC_Region.h"
@@ -54,13 +55,13 @@ class kcoC_Coupling : public kcoC_Constraint {
   bool operator==(const kcoC_Coupling& o) const;
   bool operator!=(const kcoC_Coupling& o) const { return !(*this == o); }
 
-  bool IsWholeSurface() const { return influenceRadius == kcoC_kWholeSurface; }
-  void SetInfluenceRadius(kcoC_InfluenceRadiusEnm) { influenceRadius = kcoC_kWholeSurface; }
+  bool IsWholeSurface() const { return influenceRadius.IsLiteral(); }
+  void SetInfluenceRadius(kcoC_InfluenceRadiusEnm v) { influenceRadius = v; }
   const rgnC_Region& GetSurface() const { return surface; }
   void SetSurface(const rgnC_Region& v) { surface = v; }
   const rgnC_Region& GetRefPoint() const { return refPoint; }
   void SetRefPoint(const rgnC_Region& v) { refPoint = v; }
-  double GetInfluenceRadius() const { return influenceRadius; }
+  double GetInfluenceRadius() const { return influenceRadius.value; }
   void SetInfluenceRadius(double v) { influenceRadius = v; }
   kcoC_CouplingTypeEnm GetCouplingType() const { return couplingType; }
   void SetCouplingType(kcoC_CouplingTypeEnm v) { couplingType = v; }
@@ -99,7 +100,7 @@ class kcoC_Coupling : public kcoC_Constraint {
  private:
   rgnC_Region surface;
   rgnC_Region refPoint;
-  double influenceRadius = kcoC_kWholeSurface;  // "WHOLE_SURFACE" or a distance
+  fw_OrLiteral<double, kcoC_InfluenceRadiusEnm> influenceRadius;  // "WHOLE_SURFACE" (the default) or a distance
   kcoC_CouplingTypeEnm couplingType = kcoC_CouplingTypeEnm::KINEMATIC;
   cow_String csys;  // the name of a local coordinate system; empty for the global one
   bool u1 = true;

@@ -72,7 +72,3 @@ constexpr const omu_EnumLiteral* omu_LiteralTable(kcoC_UniformConstraintEnm) { r
 constexpr const omu_EnumLiteral* omu_LiteralTable(kcoC_MPCTypeEnum) { return kcoC_kMPCTypeLiterals; }
 constexpr const omu_EnumLiteral* omu_LiteralTable(kcoC_UserModeEnum) { return kcoC_kUserModeLiterals; }
 constexpr const omu_EnumLiteral* omu_LiteralTable(kcoC_EmbeddedToleranceEnm) { return kcoC_kEmbeddedToleranceLiterals; }
-
-// An influence radius of "WHOLE_SURFACE" is held as the largest finite double; any other value
-// is a distance.
-inline constexpr double kcoC_kWholeSurface = 1.7976931348623157e308;

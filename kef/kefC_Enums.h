@@ -71,9 +71,5 @@ constexpr const omu_EnumLiteral* omu_LiteralTable(kefC_UnitsEnum) { return kefC_
 constexpr const omu_EnumLiteral* omu_LiteralTable(kefC_WeightingMethodEnum) { return kefC_kWeightingMethodEnumLiterals; }
 constexpr const omu_EnumLiteral* omu_LiteralTable(kefC_WholeSurfaceEnum) { return kefC_kWholeSurfaceEnumLiterals; }
 
-// An influence radius of "WHOLE_SURFACE" is held as the largest finite double, and a maximum
-// number of layers of "ALL" as the largest 32-bit integer; other values are themselves.
-inline constexpr double kefC_kWholeSurface = 1.7976931348623157e308;
-inline constexpr std::int32_t kefC_kAll = 2147483647;
 // A radius or distance left unspecified (to the solver's default).
 inline constexpr double kefC_kUnspecified = 1.7976931348623157e308;

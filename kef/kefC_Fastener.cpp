@@ -20,5 +20,5 @@ const char* kefC_Fastener::DisplayLabel() const { return kefC_TypeLabelMap::Inst
 
 // "WHOLE_SURFACE" is a radius that needs no value, so it passes.
 void kefC_Fastener::AssertFastenerValid() const {
-  kefC_Assert(influenceRadius > 0, kefC_InfluenceRadiusNotPositive);
+  kefC_Assert(influenceRadius.value > 0, kefC_InfluenceRadiusNotPositive);
 }

@@ -6,6 +6,7 @@
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/persist/cls_Uid.h"
+#include "framework/fw_OrLiteral.h"
 #include "kef/kefC_Enums.h"
 #include "platform/base/cow_String.h"
 #include "platform/model/rgnC_Region.h"
@@ -38,8 +39,8 @@ class kefC_Fastener : public mem_Allocated {
   const cls_Uid& GetUid() const { return uid; }
   // The kind's display label ("Point mass/inertia"); empty for kinds that have none.
   const char* DisplayLabel() const;
-  bool IsWholeSurface() const { return influenceRadius == kefC_kWholeSurface; }
-  void SetInfluenceRadius(kefC_WholeSurfaceEnum) { influenceRadius = kefC_kWholeSurface; }
+  bool IsWholeSurface() const { return influenceRadius.IsLiteral(); }
+  void SetInfluenceRadius(kefC_WholeSurfaceEnum v) { influenceRadius = v; }
   bool GetSuppress() const { return suppress; }
   void SetSuppress(bool v) { suppress = v; }
   const rgnC_Region& GetRegion() const { return region; }
@@ -52,7 +53,7 @@ class kefC_Fastener : public mem_Allocated {
   void SetUr2(bool v) { ur2 = v; }
   bool GetUr3() const { return ur3; }
   void SetUr3(bool v) { ur3 = v; }
-  double GetInfluenceRadius() const { return influenceRadius; }
+  double GetInfluenceRadius() const { return influenceRadius.value; }
   void SetInfluenceRadius(double v) { influenceRadius = v; }
   kefC_WeightingMethodEnum GetWeightingMethod() const { return weightingMethod; }
   void SetWeightingMethod(kefC_WeightingMethodEnum v) { weightingMethod = v; }
@@ -78,7 +79,7 @@ class kefC_Fastener : public mem_Allocated {
   bool ur1 = true;
   bool ur2 = true;
   bool ur3 = true;
-  double influenceRadius = kefC_kWholeSurface;  // "WHOLE_SURFACE" or a distance
+  fw_OrLiteral<double, kefC_WholeSurfaceEnum> influenceRadius;  // "WHOLE_SURFACE" (the default) or a distance
   kefC_WeightingMethodEnum weightingMethod = kefC_WeightingMethodEnum::UNIFORM;
   kefC_CouplingEnum coupling = kefC_CouplingEnum::CONTINUUM;
   kefC_RotationalCouplingEnum rotCoupling = kefC_RotationalCouplingEnum::ROTATIONAL_CONTINUUM;

@@ -18,6 +18,6 @@ void kefC_PointFastener::AssertValid() const {
   AssertFastenerValid();
   kefC_Assert(searchRadius > 0, kefC_SearchRadiusNotPositive);
   kefC_Assert(physicalRadius > 0, kefC_PhysicalRadiusNotPositive);
-  kefC_Assert(maximumLayers >= 1, kefC_MaximumLayersNotPositive);
+  kefC_Assert(maximumLayers.value >= 1, kefC_MaximumLayersNotPositive);
   kefC_Assert(connectionType != kefC_PointAdherendEnum::CONNECTOR || !sectionName.empty(), kefC_NoConnectorSection);
 }

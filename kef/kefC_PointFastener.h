@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "kef/kefC_Fastener.h"
+#include "framework/fw_OrLiteral.h"
 #include "kef/kefC_Enums.h"
 #include "platform/base/cow_List.h"
 #include "platform/base/cow_String.h"
@@ -66,8 +67,8 @@ class kefC_PointFastener : public kefC_Fastener {
   bool operator==(const kefC_PointFastener& o) const;
   bool operator!=(const kefC_PointFastener& o) const { return !(*this == o); }
 
-  bool IsAllLayers() const { return maximumLayers == kefC_kAll; }
-  void SetMaximumLayers(kefC_AllEnum) { maximumLayers = kefC_kAll; }
+  bool IsAllLayers() const { return maximumLayers.IsLiteral(); }
+  void SetMaximumLayers(kefC_AllEnum v) { maximumLayers = v; }
   const rgnC_Region& GetTargetSurface() const { return targetSurface; }
   void SetTargetSurface(const rgnC_Region& v) { targetSurface = v; }
   const cow_List<rgnC_Region>& GetTargetSurfaces() const { return targetSurfaces; }
@@ -76,7 +77,7 @@ class kefC_PointFastener : public kefC_Fastener {
   void SetDirectionVector(const cow_List<double>& v) { directionVector = v; }
   double GetSearchRadius() const { return searchRadius; }
   void SetSearchRadius(double v) { searchRadius = v; }
-  std::int32_t GetMaximumLayers() const { return maximumLayers; }
+  std::int32_t GetMaximumLayers() const { return maximumLayers.value; }
   void SetMaximumLayers(std::int32_t v) { maximumLayers = v; }
   bool GetAdjustOrientation() const { return adjustOrientation; }
   void SetAdjustOrientation(bool v) { adjustOrientation = v; }
@@ -115,7 +116,7 @@ class kefC_PointFastener : public kefC_Fastener {
   cow_List<rgnC_Region> targetSurfaces;
   cow_List<double> directionVector;  // two points, six coordinates; empty for the normals
   double searchRadius = kefC_kUnspecified;  // unspecified: the solver's default
-  std::int32_t maximumLayers = kefC_kAll;  // "ALL" or a number
+  fw_OrLiteral<std::int32_t, kefC_AllEnum> maximumLayers;  // "ALL" (the default) or a number
   bool adjustOrientation = true;
   bool unsorted = false;
   double physicalRadius = 0.1;

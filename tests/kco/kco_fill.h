@@ -31,8 +31,17 @@ inline void kco_FillAway(void* obj, const cls_ClassMetadata& md, const cls_Recor
     const cls_Value now = f.get(obj);
     const std::string tag = std::string("X-") + f.scriptName;
     switch (f.type) {
-      case cls_AttrInt: f.set(obj, std::get<std::int32_t>(now) == 7 ? 8 : 7); break;
-      case cls_AttrDouble: f.set(obj, std::get<double>(now) == 0.75 ? 1.25 : 0.75); break;
+      // A number that holds its literal ("ALL", "WHOLE_SURFACE") is offered as the literal's text.
+      case cls_AttrInt: {
+        const auto* i = std::get_if<std::int32_t>(&now);
+        f.set(obj, i && *i == 7 ? 8 : 7);
+        break;
+      }
+      case cls_AttrDouble: {
+        const auto* d = std::get_if<double>(&now);
+        f.set(obj, d && *d == 0.75 ? 1.25 : 0.75);
+        break;
+      }
       case cls_AttrBool: f.set(obj, !std::get<bool>(now)); break;
       case cls_AttrString:
       case cls_AttrRegion: f.set(obj, cow_String(tag)); break;

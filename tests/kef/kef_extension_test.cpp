@@ -11,6 +11,7 @@
 #include "command/cmd_Session.h"
 #include "kef/kefC_EngineeringFeatures.h"
 #include "kef/kefC_NonstructuralMass.h"
+#include "kef/kefC_PointFastener.h"
 #include "kef/kefC_PointMassInertia.h"
 #include "platform/model/ddr_Model.h"
 #include "platform/model/omu_ChangeHistory.h"
@@ -156,6 +157,46 @@ TEST_F(KefExtension, TheObjectIsSavedAndReadBackWithItsModel) {
   EXPECT_TRUE(other.Database() == s.Database());
   EXPECT_EQ(Ok(other, R"({"op":"get","path":["Model-1","engineeringFeatures","imperfections","Imp-1","system"]})"), "CYLINDRICAL");
   EXPECT_EQ(Features(*other.Database().FindModel("Model-1"))->GetUid(), Features(Model())->GetUid());
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(KefExtension, NumbersThatMayHoldALiteralTakeItsTextAndRefuseOthers) {
+  Ok(s, R"({"op":"create","path":["Model-1","engineeringFeatures","fasteners","F-1"],"type":"PointFastener",
+            "values":{"influenceRadius":4.5,"maximumLayers":3,"sectionName":"C-1"}})");
+  const std::string f = R"("path":["Model-1","engineeringFeatures","fasteners","F-1")";
+  EXPECT_EQ(Ok(s, R"({"op":"get",)" + f + R"(,"influenceRadius"]})"), 4.5);
+  EXPECT_EQ(Ok(s, R"({"op":"get",)" + f + R"(,"maximumLayers"]})"), 3);
+  Ok(s, R"({"op":"set",)" + f + R"(],"values":{"influenceRadius":"WHOLE_SURFACE","maximumLayers":"ALL"}})");
+  EXPECT_EQ(Ok(s, R"({"op":"get",)" + f + R"(,"influenceRadius"]})"), "WHOLE_SURFACE");
+  EXPECT_EQ(Ok(s, R"({"op":"get",)" + f + R"(,"maximumLayers"]})"), "ALL");
+  const auto& point = dynamic_cast<const kefC_PointFastener&>(*Features(Model())->GetFastenerContainer().ConstGet("F-1"));
+  EXPECT_TRUE(point.IsWholeSurface());
+  EXPECT_TRUE(point.IsAllLayers());
+  EXPECT_EQ(point.GetMaximumLayers(), 2147483647);
+  EXPECT_EQ(point.GetInfluenceRadius(), 1.7976931348623157e308);
+
+  const ddr_Database before = s.Database();
+  struct Case {
+    const char* values;
+    const char* message;
+  };
+  const Case cases[] = {
+      {R"({"maximumLayers":"all"})", "omu_PrimEnum(const cow_String&) - str not allowed: all  Permissible: ALL"},
+      {R"({"influenceRadius":"ALL"})", "omu_PrimEnum(const cow_String&) - str not allowed: ALL  Permissible: WHOLE_SURFACE"},
+      {R"({"maximumLayers":2.5})", nullptr},
+      {R"({"searchRadius":"WHOLE_SURFACE"})", nullptr},  // a plain number takes no literal
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.values);
+    const cmd_Json e = Fails(s, R"({"op":"set",)" + f + R"(],"values":)" + c.values + "}");
+    if (c.message) {
+      EXPECT_EQ(e["message"], c.message);
+    }
+  }
+  EXPECT_TRUE(s.Database() == before);
 }
 
 }  // namespace

@@ -82,9 +82,12 @@ class Walker {
             return Next(c, i + 1);
           }
         }
-        if (!r)
+        if (!r) {
+          std::vector<cow_String> names = n.model->RepositoryNames();
+          for (const auto& o : n.model->ObjectNames()) names.push_back(o);
           cmd_Refuse("The model " + Quoted(n.modelName.view()) + " has no repository " + Quoted(step.view()) +
-                     "; it has " + Listing(n.model->RepositoryNames()));
+                     "; it has " + Listing(names));
+        }
         c.kind = cmd_Node::kRepository;
         c.repo = r;
         return Next(c, i + 1);

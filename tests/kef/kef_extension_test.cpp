@@ -200,3 +200,15 @@ TEST_F(KefExtension, NumbersThatMayHoldALiteralTakeItsTextAndRefuseOthers) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(KefExtension, AnUnknownStepAfterTheModelListsTheObjectToo) {
+  const cmd_Json e = Fails(s, R"({"op":"get","path":["Model-1","engineeringFeature"]})");
+  const std::string m = e["message"].get<std::string>();
+  EXPECT_EQ(m.rfind(R"(The model "Model-1" has no repository "engineeringFeature"; it has )", 0), 0u) << m;
+  EXPECT_NE(m.find(", engineeringFeatures"), std::string::npos) << m;
+  EXPECT_NE(m.find("constraints"), std::string::npos) << m;
+}
+
+}  // namespace

@@ -13,8 +13,10 @@
 #include "kef/kefC_NonstructuralMass.h"
 #include "kef/kefC_PointFastener.h"
 #include "kef/kefC_PointMassInertia.h"
+#include "kef/kefC_SpringToGround.h"
 #include "platform/model/ddr_Model.h"
 #include "platform/model/omu_ChangeHistory.h"
+#include "platform/persist/cls_Record.h"
 #include "tests/kef/kef_test.h"
 
 namespace {
@@ -209,6 +211,52 @@ TEST_F(KefExtension, AnUnknownStepAfterTheModelListsTheObjectToo) {
   EXPECT_EQ(m.rfind(R"(The model "Model-1" has no repository "engineeringFeature"; it has )", 0), 0u) << m;
   EXPECT_NE(m.find(", engineeringFeatures"), std::string::npos) << m;
   EXPECT_NE(m.find("constraints"), std::string::npos) << m;
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(KefExtension, AModelStoredWithoutTheObjectGetsAnEmptyOneAndKeepsTheRest) {
+  ddr_Model m;
+  auto* features = static_cast<kefC_EngineeringFeatures*>(static_cast<mdl_Extension*>(m.ModifyObject("engineeringFeatures")));
+  kefC_PointMassInertia pm;
+  pm.SetMass(3.0);
+  features->GetInertiaContainer().Insert("PM-1", pm);
+  cls_Record rec = cls_ToRecord(m);
+  auto extensions = std::get<std::vector<cls_RecordPtr>>(*rec.Find("extensions"));
+  const std::size_t stored = extensions.size();
+  std::erase_if(extensions, [](const cls_RecordPtr& e) { return e->typeId == kefC_EngineeringFeatures::TypeId(); });
+  ASSERT_EQ(extensions.size(), stored - 1);
+  rec.Set("extensions", extensions);
+
+  const ddr_Model back{cls_RecordReader(rec)};
+  ASSERT_NE(Features(back), nullptr);
+  EXPECT_EQ(Features(back)->GetInertiaContainer().Size(), 0u);
+  EXPECT_EQ(back.ObjectNames(), std::vector<cow_String>{"engineeringFeatures"});
+  EXPECT_EQ(back.RepositoryNames(), m.RepositoryNames());
+  // read with it, the object comes back as it was
+  EXPECT_TRUE(ddr_Model(cls_RecordReader(cls_ToRecord(m))) == m);
+}
+
+TEST_F(KefExtension, AHeldExtensionIsPutBackWholeAndAForeignOneRefused) {
+  ddr_Model m;
+  const ddr_Model::ExtensionHandle held = *m.FindExtension("engineeringFeatures");
+  auto* features = static_cast<kefC_EngineeringFeatures*>(static_cast<mdl_Extension*>(m.ModifyObject("engineeringFeatures")));
+  features->GetSpringContainer().Insert("S-1", kefC_SpringToGround());
+  EXPECT_EQ(Features(m)->GetSpringContainer().Size(), 1u);
+  m.ReplaceExtension(held);
+  EXPECT_EQ(Features(m)->GetSpringContainer().Size(), 0u);
+  EXPECT_EQ(m.FindObject("engineeringFeatures"), &held.Get());
+
+  // A model made while the module's prototype was withdrawn has no such extension to replace.
+  ddr_Model::UnRegisterExtension("engineeringFeatures");
+  ddr_Model without;
+  ddr_Model::RegisterExtension(kefC_EngineeringFeatures());
+  EXPECT_EQ(without.FindExtension("engineeringFeatures"), nullptr);
+  auto e = qmx_Catch<nex_CmdError>([&] { without.ReplaceExtension(held); });
+  EXPECT_STREQ(e.what(), "The model has no extension \"engineeringFeatures\" to replace");
+  EXPECT_EQ(without.FindExtension("engineeringFeatures"), nullptr);
 }
 
 }  // namespace

@@ -29,6 +29,12 @@ void cmd_Checker::Model(cmd_Path path, const ddr_Model& model) {
     path.back() = name;
     Repository(path, *model.FindRepository(name.view()));
   }
+  for (const auto& name : model.ObjectNames()) {  // holders of repositories, counted like the model
+    path.back() = name;
+    const cls_ClassMetadata* cls = nullptr;
+    const void* obj = model.FindObject(name.view(), &cls);
+    Nested(path, obj, *cls);
+  }
 }
 
 void cmd_Checker::Repository(const cmd_Path& path, const mdl_Repository& repo) {

@@ -119,11 +119,10 @@ class Converter {
       return e.get<bool>();
     };
     switch (field_.type) {
-      case cls_AttrInt: return integer(v, "");
+      case cls_AttrInt:
       case cls_AttrDouble:
-        // A number member with literals of its own ("SOLVER_DEFAULT") leaves the text to the member.
-        if (v.is_string() && field_.literals) return cow_String(v.get<std::string>());
-        return number(v, "");
+        if (v.is_string() && field_.literals) return cow_String(v.get<std::string>());  // a number or a literal
+        return field_.type == cls_AttrInt ? cls_Value(integer(v, "")) : cls_Value(number(v, ""));
       case cls_AttrBool: return boolean(v, "");
       case cls_AttrString:
       case cls_AttrRegion: return text(v, "");
@@ -382,6 +381,11 @@ cmd_Json cmd_ModelToJson(const ddr_Model& model) {
   auto& members = ObjectMembers(j);
   for (const auto& name : model.RepositoryNames())
     members.emplace_back(name.str(), cmd_RepositoryToJson(*model.FindRepository(name.view())));
+  for (const auto& name : model.ObjectNames()) {
+    const cls_ClassMetadata* cls = nullptr;
+    const void* obj = model.FindObject(name.view(), &cls);
+    members.emplace_back(name.str(), cmd_ObjectToJson(obj, *cls));
+  }
   return j;
 }
 

@@ -73,10 +73,21 @@ class Walker {
       case cmd_Node::kModel: {
         mdl_Repository* r = modify_ ? n.model->ModifyRepository(step.view())
                                     : const_cast<mdl_Repository*>(n.model->FindRepository(step.view()));
-        if (!r)
-          cmd_Refuse("The model " + Quoted(n.modelName.view()) + " has no repository " + Quoted(step.view()) +
-                     "; it has " + Listing(n.model->RepositoryNames()));
         cmd_Node c = Below(n);
+        if (!r) {  // an extension that is one object, whose members the walk goes on into
+          c.obj = modify_ ? n.model->ModifyObject(step.view(), &c.md)
+                          : const_cast<void*>(n.model->FindObject(step.view(), &c.md));
+          if (c.obj) {
+            c.kind = cmd_Node::kObject;
+            return Next(c, i + 1);
+          }
+        }
+        if (!r) {
+          std::vector<cow_String> names = n.model->RepositoryNames();
+          for (const auto& o : n.model->ObjectNames()) names.push_back(o);
+          cmd_Refuse("The model " + Quoted(n.modelName.view()) + " has no repository " + Quoted(step.view()) +
+                     "; it has " + Listing(names));
+        }
         c.kind = cmd_Node::kRepository;
         c.repo = r;
         return Next(c, i + 1);

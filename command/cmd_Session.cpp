@@ -132,8 +132,13 @@ class SlotGuard {
     } catch (const QMXBasException&) {
       return std::nullopt;  // the command fails before it changes anything
     }
+    const ddr_Model* model = path.size() < 2 ? nullptr : db.FindModel(path[0]);
+    if (model && model->FindObject(path[1].view())) {  // one object as an extension: keep all of it
+      SlotGuard g(path[0], path[1], cow_String(), 0);
+      g.extension_ = *model->FindExtension(path[1].view());
+      return g;
+    }
     if (path.size() < 3) return std::nullopt;
-    const ddr_Model* model = db.FindModel(path[0]);
     const mdl_Repository* repo = model ? model->FindRepository(path[1].view()) : nullptr;
     if (!repo) return std::nullopt;
     SlotGuard g(path[0], path[1], path[2], repo->Count());
@@ -144,6 +149,7 @@ class SlotGuard {
 
   void Restore(ddr_Database& db) {
     ddr_Model* model = db.ModifyModel(model_);
+    if (model && extension_) return model->ReplaceExtension(*extension_);
     mdl_Repository* repo = model ? model->ModifyRepository(repo_.view()) : nullptr;
     if (!repo) return;
     if (repo->Positional()) {
@@ -168,6 +174,7 @@ class SlotGuard {
   cow_String model_, repo_, key_;
   std::size_t count_;
   cmd_OwnedObject saved_;
+  std::optional<ddr_Model::ExtensionHandle> extension_;
 };
 
 cmd_Json ErrorOf(const std::string& kind, const std::string& message, const std::string& file, int line) {
@@ -412,6 +419,7 @@ cmd_Json cmd_Session::List(const cmd_Json& command) {
         break;
       case cmd_Node::kModel:
         for (const auto& name : n.model->RepositoryNames()) out.push_back(name.str());
+        for (const auto& name : n.model->ObjectNames()) out.push_back(name.str());
         break;
       case cmd_Node::kRepository:
         for (const auto& key : n.repo->Keys()) out.push_back(key.str());

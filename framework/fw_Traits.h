@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "framework/fw_Field.h"
+#include "framework/fw_OrLiteral.h"
 #include "platform/persist/cls_ClassMetadata.h"
 #include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/persist/cls_Family.h"
@@ -138,6 +139,26 @@ struct fw_Traits<E> {
   static bool Equal(E a, E b) { return a == b; }
   static cls_Value Get(E v) { return Literal(v); }
   static void Set(const char* n, E& m, const cls_Value& v) { m = FromValue(n, v); }
+};
+
+// A number or the one literal of E (fw_OrLiteral): stored as the number, offered to scripts as the
+// literal's text when it holds the literal. A text is looked up through omu_PrimEnum, so that
+// anything but the literal is refused with the enumeration's message.
+template <class N, class E>
+struct fw_Traits<fw_OrLiteral<N, E>> {
+  using T = fw_OrLiteral<N, E>;
+  static constexpr int kType = fw_Traits<N>::kType, kCollection = cls_Single;
+  static const omu_EnumLiteral* Literals() { return omu_LiteralTable(E{}); }
+  static void Write(const cls_WriteVisitor& w, const char* n, const T& v) { fw_Traits<N>::Write(w, n, v.value); }
+  static void Read(const cls_ReadVisitor& r, const char* n, T& v) { fw_Traits<N>::Read(r, n, v.value); }
+  static bool Equal(const T& a, const T& b) { return fw_Traits<N>::Equal(a.value, b.value); }
+  static cls_Value Get(const T& v) {
+    return v.IsLiteral() ? cls_Value(fw_Traits<E>::Literal(E{})) : fw_Traits<N>::Get(v.value);
+  }
+  static void Set(const char* n, T& m, const cls_Value& v) {
+    if (auto p = std::get_if<cow_String>(&v)) return void(m = T(omu_PrimEnum<E, 1>(*p).GetValue()));
+    fw_Traits<N>::Set(n, m.value, v);
+  }
 };
 
 template <>

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/persist/cls_Family.h"
 #include "platform/persist/cls_Record.h"
 #include "platform/persist/cls_TypedMetadata.h"
 #include "platform/model/mdl_Repository.h"
@@ -15,7 +16,7 @@ std::vector<Prototype>& Prototypes() {
   return prototypes;
 }
 
-const char* NameOf(const mdl_Extension& e) { return e.Repository().RepositoryName(); }
+const char* NameOf(const mdl_Extension& e) { return e.ExtensionName(); }
 
 void WriteExtension(const void* p, const cls_WriteVisitor& w) { static_cast<const mdl_Extension*>(p)->DBWrite(w); }
 }  // namespace
@@ -29,7 +30,7 @@ ddr_Model::ddr_Model(const cls_ReadVisitor& r) : uid_(r.GetUid()) {
   });
   // Containers registered since the file was written start empty.
   for (const auto& proto : Prototypes())
-    if (!FindRepository(NameOf(proto.Get()))) extensions_.push_back(proto);
+    if (!FindExtension(NameOf(proto.Get()))) extensions_.push_back(proto);
 }
 
 void ddr_Model::DBWrite(const cls_WriteVisitor& w) const {
@@ -80,24 +81,67 @@ void ddr_Model::UnRegisterAdaptiveMeshControlContainer() { UnRegisterExtension("
 
 std::vector<cow_String> ddr_Model::RegisteredRepositoryNames() {
   std::vector<cow_String> names;
-  for (const auto& p : Prototypes()) names.emplace_back(NameOf(p.Get()));
+  for (const auto& p : Prototypes())
+    if (p.Get().Repository()) names.emplace_back(NameOf(p.Get()));
   return names;
 }
 
 std::vector<cow_String> ddr_Model::RepositoryNames() const {
   std::vector<cow_String> names;
-  for (const auto& e : extensions_) names.emplace_back(NameOf(e.Get()));
+  for (const auto& e : extensions_)
+    if (e.Get().Repository()) names.emplace_back(NameOf(e.Get()));
   return names;
 }
 
 const mdl_Repository* ddr_Model::FindRepository(std::string_view name) const {
-  for (const auto& e : extensions_)
-    if (NameOf(e.Get()) == name) return &e.Get().Repository();
-  return nullptr;
+  const ExtensionHandle* e = FindExtension(name);
+  return e ? e->Get().Repository() : nullptr;
 }
 
 mdl_Repository* ddr_Model::ModifyRepository(std::string_view name) {
   for (auto& e : extensions_)
-    if (NameOf(e.Get()) == name) return &e.Get().Repository();
+    if (NameOf(e.Get()) == name) return e.Get().Repository();
   return nullptr;
+}
+
+std::vector<cow_String> ddr_Model::ObjectNames() const {
+  std::vector<cow_String> names;
+  for (const auto& e : extensions_)
+    if (!e.Get().Repository()) names.emplace_back(NameOf(e.Get()));
+  return names;
+}
+
+const void* ddr_Model::FindObject(std::string_view name, const cls_ClassMetadata** cls) const {
+  const ExtensionHandle* e = FindExtension(name);
+  if (!e || e->Get().Repository()) return nullptr;
+  if (cls) *cls = &cls_MetadataOf(e->Get().ClassTypeId());
+  return &e->Get();
+}
+
+void* ddr_Model::ModifyObject(std::string_view name, const cls_ClassMetadata** cls) {
+  if (!FindObject(name, cls)) return nullptr;
+  for (auto& e : extensions_)
+    if (NameOf(e.Get()) == name) return &e.Get();
+  return nullptr;
+}
+
+const ddr_Model::ExtensionHandle* ddr_Model::FindExtension(std::string_view name) const {
+  for (const auto& e : extensions_)
+    if (NameOf(e.Get()) == name) return &e;
+  return nullptr;
+}
+
+void ddr_Model::ReplaceExtension(const ExtensionHandle& extension) {
+  for (auto& e : extensions_) {
+    if (std::string_view(NameOf(e.Get())) == NameOf(extension.Get())) {
+      e = extension;
+      return;
+    }
+  }
+  nex_ThrowCmd(std::string("The model has no extension \"") + NameOf(extension.Get()) + "\" to replace");
+}
+
+const char* mdl_Extension::ExtensionName() const {
+  const mdl_Repository* r = Repository();
+  return r ? r->RepositoryName() : "";
 }

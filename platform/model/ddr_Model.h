@@ -47,6 +47,19 @@ class ddr_Model : public mem_Allocated {
   mdl_Repository* ModifyRepository(std::string_view name);
   const std::vector<ExtensionHandle>& Extensions() const noexcept { return extensions_; }
 
+  // Extensions that are one object rather than a repository ("engineeringFeatures"), by scripting
+  // name in registration order. The object is the extension itself, as a pointer to the root of
+  // its family (mdl_Extension), with the metadata of its own class; its members may be
+  // repositories. Null when the model has no such object.
+  std::vector<cow_String> ObjectNames() const;
+  const void* FindObject(std::string_view name, const cls_ClassMetadata** cls = nullptr) const;
+  // For modification: separates the extension first.
+  void* ModifyObject(std::string_view name, const cls_ClassMetadata** cls = nullptr);
+  // The extension of that name, repository or object, as the model holds it; and its replacement
+  // by a handle held before (to undo a change). Replacing refuses a name the model lacks.
+  const ExtensionHandle* FindExtension(std::string_view name) const;
+  void ReplaceExtension(const ExtensionHandle& extension);
+
  private:
   std::vector<ExtensionHandle> extensions_;
   cls_Uid uid_;

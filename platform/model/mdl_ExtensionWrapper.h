@@ -45,8 +45,8 @@ class mdl_ExtensionWrapper : public mdl_Extension {
 
   C& Extension() noexcept { return extension_; }
   const C& Extension() const noexcept { return extension_; }
-  mdl_Repository& Repository() override { return extension_; }
-  const mdl_Repository& Repository() const override { return extension_; }
+  mdl_Repository* Repository() override { return &extension_; }
+  const mdl_Repository* Repository() const override { return &extension_; }
   bool Equals(const mdl_Extension& o) const override {
     auto* w = dynamic_cast<const mdl_ExtensionWrapper*>(&o);
     return w && *this == *w;

@@ -28,7 +28,7 @@ struct cls_ScriptField {
   const char* persistentName;
   int number;
   int type;                          // cls_AttrType
-  const omu_EnumLiteral* literals;   // enumerations only
+  const omu_EnumLiteral* literals;   // enumerations, and numbers that may hold a literal
   const cls_ClassMetadata* declared; // object members only: the declared class (may be a base)
   bool optional;                     // object members only: may be null
   cls_Value (*get)(const void* obj);

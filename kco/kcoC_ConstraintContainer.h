@@ -1,0 +1,15 @@
+#pragma once
+// Constraints of every kind by name ("constraints").
+#include "framework/fw_Field.h"
+#include "kco/kcoC_Constraint.h"
+#include "platform/model/mdl_MapString2ObjCow.h"
+
+template <>
+struct mdl_MapTraits<kcoC_Constraint> {
+  static constexpr const char* kClassName = "kcoC_ConstraintContainer";
+  static constexpr const char* kRepositoryName = "constraints";
+  static constexpr int kVersion = kcoC_Constraint::kVersion;
+  static constexpr unsigned TypeId() { return fw_TypeId(720, 13); }
+};
+
+using kcoC_ConstraintContainer = mdl_MapString2ObjCow<kcoC_Constraint>;

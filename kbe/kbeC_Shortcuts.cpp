@@ -1,0 +1,204 @@
+#include "kbe/kbeC_Shortcuts.h"
+
+#include <string>
+
+#include "kbe/kbeC_ConnectorDamage.h"
+#include "kbe/kbeC_ConnectorDamping.h"
+#include "kbe/kbeC_ConnectorElasticity.h"
+#include "kbe/kbeC_ConnectorFriction.h"
+#include "kbe/kbeC_ConnectorPlasticity.h"
+#include "kbe/kbeC_ConnectorSectionContainer.h"
+#include "platform/base/nex_Exception.h"
+#include "platform/model/ddr_Model.h"
+#include "platform/persist/cls_Visitor.h"
+
+// --- an option by position --------------------------------------------------------------------
+
+namespace {
+const char* const kSections = "connectorSections";
+const char* const kOptions = "behaviorOptions";
+}  // namespace
+
+kbeC_OptionInListShortcut kbeC_OptionInListShortcut::Ctor(const cls_ReadVisitor& r) {
+  if (r.GetTypeId() != TypeId()) ddr_RefuseShortcutRecord(kClassName, r.GetTypeId());
+  kbeC_OptionInListShortcut s(r.ReadString("section"), r.ReadInt("position"));
+  s.SetUid(r.GetUid());
+  return s;
+}
+
+kbeC_OptionInListShortcut* kbeC_OptionInListShortcut::Copy() const { return mem_New<kbeC_OptionInListShortcut>(*this); }
+
+cow_String kbeC_OptionInListShortcut::Name() const { return cow_String(std::to_string(position_)); }
+
+std::vector<cow_String> kbeC_OptionInListShortcut::Path() const {
+  return {cow_String(kSections), section_, cow_String(kOptions), Name()};
+}
+
+const kbeC_ConnectorBehaviorOption* kbeC_OptionInListShortcut::ConstGet(const ddr_Model& model) const {
+  const auto* sections = dynamic_cast<const kbeC_ConnectorSectionContainer*>(model.FindRepository(kSections));
+  const kbeC_ConnectorSection* section = sections ? sections->ConstGet(section_) : nullptr;
+  if (!section || position_ < 0 || static_cast<std::size_t>(position_) >= section->GetBehaviorOptions().size()) return nullptr;
+  const auto& h = section->GetBehaviorOptions()[static_cast<std::size_t>(position_)];
+  return h.IsNull() ? nullptr : &h.Get();
+}
+
+kbeC_ConnectorBehaviorOption& kbeC_OptionInListShortcut::Get(ddr_Model& model) const {
+  if (!ConstGet(model)) ddr_RefuseShortcutPath(Path(), "there is no option at that position");
+  auto* sections = dynamic_cast<kbeC_ConnectorSectionContainer*>(model.ModifyRepository(kSections));
+  return sections->Get(section_).ModifyBehaviorOption(static_cast<std::size_t>(position_));
+}
+
+void kbeC_OptionInListShortcut::DBWrite(const cls_WriteVisitor& w) const {
+  if (!w.StartWrite(TypeId(), GetUid())) return;
+  w.WriteString("section", section_);
+  w.WriteInt("position", position_);
+}
+
+template <class Self, class Impl, class Member>
+void kbeC_OptionMemberShortcut<Self, Impl, Member>::DBWrite(const cls_WriteVisitor& w) const {
+  if (!w.StartWrite(Self::TypeId(), this->GetUid())) return;
+  w.WriteObject("owner", &owner_, [](const void* p, const cls_WriteVisitor& v) {
+    static_cast<const kbeC_OptionInListShortcut*>(p)->DBWrite(v);
+  });
+}
+
+template class kbeC_OptionMemberShortcut<kbeC_ConnectorOptionsInConnectorBehaviorOptionShortcut, kbeC_ConnectorOptionsIMPLSC, kbeC_OptionsMember>;
+template class kbeC_OptionMemberShortcut<kbeC_InitiationOptionsInConnectorBehaviorOptionShortcut, kbeC_ConnectorOptionsIMPLSC, kbeC_InitiationOptionsMember>;
+template class kbeC_OptionMemberShortcut<kbeC_EvolutionOptionsInConnectorBehaviorOptionShortcut, kbeC_ConnectorOptionsIMPLSC, kbeC_EvolutionOptionsMember>;
+template class kbeC_OptionMemberShortcut<kbeC_IsotropicOptionsInConnectorBehaviorOptionShortcut, kbeC_ConnectorOptionsIMPLSC, kbeC_IsotropicOptionsMember>;
+template class kbeC_OptionMemberShortcut<kbeC_KinematicOptionsInConnectorBehaviorOptionShortcut, kbeC_ConnectorOptionsIMPLSC, kbeC_KinematicOptionsMember>;
+template class kbeC_OptionMemberShortcut<kbeC_InitiationPotentialsListInConnectorBehaviorOptionShortcut, kbeC_ConnectorPotentialListIMPLSC, kbeC_InitiationPotentialsMember>;
+template class kbeC_OptionMemberShortcut<kbeC_EvolutionPotentialsListInConnectorBehaviorOptionShortcut, kbeC_ConnectorPotentialListIMPLSC, kbeC_EvolutionPotentialsMember>;
+template class kbeC_OptionMemberShortcut<kbeC_ConnectPotentialsListInConnectorBehaviorOptionShortcut, kbeC_ConnectorPotentialListIMPLSC, kbeC_ConnectorPotentialsMember>;
+template class kbeC_OptionMemberShortcut<kbeC_ConnectPotentialsListInConnectorFrictionShortcut, kbeC_ConnectorPotentialListIMPLSC, kbeC_FrictionPotentialsMember>;
+template class kbeC_OptionMemberShortcut<kbeC_TangentialBehaviorInConnectorBehaviorOptionShortcut, kbeC_TangentialBehaviorIMPLSC, kbeC_TangentialBehaviorMember>;
+template class kbeC_OptionMemberShortcut<kbeC_DerivedComponentInConnectorBehaviorOptionShortcut, kbeC_DerivedComponentIMPLSC, kbeC_DerivedComponentMember>;
+
+// --- the members ----------------------------------------------------------------------------------
+
+namespace {
+[[noreturn]] void Refuse(const char* text) { nex_ThrowCmd(text); }
+
+// The kind an option must be for a member; refused with the member's text otherwise.
+template <class K>
+const K* As(const kbeC_ConnectorBehaviorOption& o) {
+  return dynamic_cast<const K*>(&o);
+}
+template <class K>
+K* As(kbeC_ConnectorBehaviorOption& o) {
+  return dynamic_cast<K*>(&o);
+}
+
+
+const char* const kOptionsText =
+    "ConnectorOptions exists only for ConnectorDamping, ConnectorElasticity, or ConnectorFriction objects.";
+const char* const kPotentialsText = "ConnectorPotentials exists only for ConnectorFriction or ConnectorPlasticity object.";
+}  // namespace
+
+// Each Find reads the member through the kind's own accessors; Modify goes through the kind's
+// Modify accessors, which separate a shared copy first.
+const kbeC_ConnectorOptions* kbeC_OptionsMember::Find(const kbeC_ConnectorBehaviorOption& o) {
+  if (auto* e = As<kbeC_ConnectorElasticity>(o)) return e->HasOptions() ? &e->GetOptions() : nullptr;
+  if (auto* d = As<kbeC_ConnectorDamping>(o)) return d->HasOptions() ? &d->GetOptions() : nullptr;
+  if (auto* f = As<kbeC_ConnectorFriction>(o)) return f->HasOptions() ? &f->GetOptions() : nullptr;
+  Refuse(kOptionsText);
+}
+kbeC_ConnectorOptions& kbeC_OptionsMember::Modify(kbeC_ConnectorBehaviorOption& o) {
+  if (auto* e = As<kbeC_ConnectorElasticity>(o)) return e->ModifyOptions();
+  if (auto* d = As<kbeC_ConnectorDamping>(o)) return d->ModifyOptions();
+  if (auto* f = As<kbeC_ConnectorFriction>(o)) return f->ModifyOptions();
+  Refuse(kOptionsText);
+}
+
+const kbeC_ConnectorOptions* kbeC_InitiationOptionsMember::Find(const kbeC_ConnectorBehaviorOption& o) {
+  if (auto* d = As<kbeC_ConnectorDamage>(o)) return d->HasInitiationOptions() ? &d->GetInitiationOptions() : nullptr;
+  Refuse("initiationOptions exists only for the ConnectorDamage object.");
+}
+kbeC_ConnectorOptions& kbeC_InitiationOptionsMember::Modify(kbeC_ConnectorBehaviorOption& o) {
+  if (auto* d = As<kbeC_ConnectorDamage>(o)) return d->ModifyInitiationOptions();
+  Refuse("initiationOptions exists only for the ConnectorDamage object.");
+}
+
+const kbeC_ConnectorOptions* kbeC_EvolutionOptionsMember::Find(const kbeC_ConnectorBehaviorOption& o) {
+  if (auto* d = As<kbeC_ConnectorDamage>(o)) return d->HasEvolutionOptions() ? &d->GetEvolutionOptions() : nullptr;
+  Refuse("evolutionOptions exists only for the ConnectorDamage object.");
+}
+kbeC_ConnectorOptions& kbeC_EvolutionOptionsMember::Modify(kbeC_ConnectorBehaviorOption& o) {
+  if (auto* d = As<kbeC_ConnectorDamage>(o)) return d->ModifyEvolutionOptions();
+  Refuse("evolutionOptions exists only for the ConnectorDamage object.");
+}
+
+const kbeC_ConnectorOptions* kbeC_IsotropicOptionsMember::Find(const kbeC_ConnectorBehaviorOption& o) {
+  if (auto* p = As<kbeC_ConnectorPlasticity>(o)) return p->HasIsotropicOptions() ? &p->GetIsotropicOptions() : nullptr;
+  Refuse("isotropicOptions exists only for the ConnectorPlasticity object.");
+}
+kbeC_ConnectorOptions& kbeC_IsotropicOptionsMember::Modify(kbeC_ConnectorBehaviorOption& o) {
+  if (auto* p = As<kbeC_ConnectorPlasticity>(o)) return p->ModifyIsotropicOptions();
+  Refuse("isotropicOptions exists only for the ConnectorPlasticity object.");
+}
+
+const kbeC_ConnectorOptions* kbeC_KinematicOptionsMember::Find(const kbeC_ConnectorBehaviorOption& o) {
+  if (auto* p = As<kbeC_ConnectorPlasticity>(o)) return p->HasKinematicOptions() ? &p->GetKinematicOptions() : nullptr;
+  Refuse("kinematicOptions exists only for the ConnectorPlasticity object.");
+}
+kbeC_ConnectorOptions& kbeC_KinematicOptionsMember::Modify(kbeC_ConnectorBehaviorOption& o) {
+  if (auto* p = As<kbeC_ConnectorPlasticity>(o)) return p->ModifyKinematicOptions();
+  Refuse("kinematicOptions exists only for the ConnectorPlasticity object.");
+}
+
+const kbeC_ConnectorPotentialList* kbeC_InitiationPotentialsMember::Find(const kbeC_ConnectorBehaviorOption& o) {
+  if (auto* d = As<kbeC_ConnectorDamage>(o)) return &d->GetInitiationPotentials();
+  Refuse("InitiationPotentials exists only for ConnectorDamage object.");
+}
+kbeC_ConnectorPotentialList& kbeC_InitiationPotentialsMember::Modify(kbeC_ConnectorBehaviorOption& o) {
+  if (auto* d = As<kbeC_ConnectorDamage>(o)) return d->ModifyInitiationPotentials();
+  Refuse("InitiationPotentials exists only for ConnectorDamage object.");
+}
+
+const kbeC_ConnectorPotentialList* kbeC_EvolutionPotentialsMember::Find(const kbeC_ConnectorBehaviorOption& o) {
+  if (auto* d = As<kbeC_ConnectorDamage>(o)) return &d->GetEvolutionPotentials();
+  Refuse("EvolutionPotentials exists only for ConnectorDamage object.");
+}
+kbeC_ConnectorPotentialList& kbeC_EvolutionPotentialsMember::Modify(kbeC_ConnectorBehaviorOption& o) {
+  if (auto* d = As<kbeC_ConnectorDamage>(o)) return d->ModifyEvolutionPotentials();
+  Refuse("EvolutionPotentials exists only for ConnectorDamage object.");
+}
+
+const kbeC_ConnectorPotentialList* kbeC_ConnectorPotentialsMember::Find(const kbeC_ConnectorBehaviorOption& o) {
+  if (auto* f = As<kbeC_ConnectorFriction>(o)) return &f->GetConnectorPotentials();
+  if (auto* p = As<kbeC_ConnectorPlasticity>(o)) return &p->GetConnectorPotentials();
+  Refuse(kPotentialsText);
+}
+kbeC_ConnectorPotentialList& kbeC_ConnectorPotentialsMember::Modify(kbeC_ConnectorBehaviorOption& o) {
+  if (auto* f = As<kbeC_ConnectorFriction>(o)) return f->ModifyConnectorPotentials();
+  if (auto* p = As<kbeC_ConnectorPlasticity>(o)) return p->ModifyConnectorPotentials();
+  Refuse(kPotentialsText);
+}
+
+// The friction-only form of the same member refuses a plasticity too.
+const kbeC_ConnectorPotentialList* kbeC_FrictionPotentialsMember::Find(const kbeC_ConnectorBehaviorOption& o) {
+  if (auto* f = As<kbeC_ConnectorFriction>(o)) return &f->GetConnectorPotentials();
+  Refuse(kPotentialsText);
+}
+kbeC_ConnectorPotentialList& kbeC_FrictionPotentialsMember::Modify(kbeC_ConnectorBehaviorOption& o) {
+  if (auto* f = As<kbeC_ConnectorFriction>(o)) return f->ModifyConnectorPotentials();
+  Refuse(kPotentialsText);
+}
+
+const kbeC_TangentialBehavior* kbeC_TangentialBehaviorMember::Find(const kbeC_ConnectorBehaviorOption& o) {
+  if (auto* f = As<kbeC_ConnectorFriction>(o)) return f->HasTangentialBehavior() ? &f->GetTangentialBehavior() : nullptr;
+  Refuse("TangentialBehavior exists only for ConnectorFriction object.");
+}
+kbeC_TangentialBehavior& kbeC_TangentialBehaviorMember::Modify(kbeC_ConnectorBehaviorOption& o) {
+  if (auto* f = As<kbeC_ConnectorFriction>(o)) return f->ModifyTangentialBehavior();
+  Refuse("TangentialBehavior exists only for ConnectorFriction object.");
+}
+
+const kbeC_DerivedComponent* kbeC_DerivedComponentMember::Find(const kbeC_ConnectorBehaviorOption& o) {
+  if (auto* f = As<kbeC_ConnectorFriction>(o)) return f->HasDerivedComponent() ? &f->GetDerivedComponent() : nullptr;
+  Refuse("DerivedComponent exists only for ConnectorFriction object.");
+}
+kbeC_DerivedComponent& kbeC_DerivedComponentMember::Modify(kbeC_ConnectorBehaviorOption& o) {
+  if (auto* f = As<kbeC_ConnectorFriction>(o)) return f->ModifyDerivedComponent();
+  Refuse("DerivedComponent exists only for ConnectorFriction object.");
+}

@@ -1,5 +1,6 @@
 #include "kbe/kbeC_Shortcuts.h"
 
+#include <optional>
 #include <string>
 
 #include "kbe/kbeC_ConnectorDamage.h"
@@ -52,6 +53,17 @@ void kbeC_OptionInListShortcut::DBWrite(const cls_WriteVisitor& w) const {
   if (!w.StartWrite(TypeId(), GetUid())) return;
   w.WriteString("section", section_);
   w.WriteInt("position", position_);
+}
+
+template <class Self, class Impl, class Member>
+Self kbeC_OptionMemberShortcut<Self, Impl, Member>::Ctor(const cls_ReadVisitor& r) {
+  if (r.GetTypeId() != Self::TypeId()) ddr_RefuseShortcutRecord(Self::kClassName, r.GetTypeId());
+  std::optional<kbeC_OptionInListShortcut> owner;
+  r.ReadObject("owner", [&](const cls_ReadVisitor& m) { owner.emplace(kbeC_OptionInListShortcut::Ctor(m)); });
+  if (!owner) nex_ThrowCmd(std::string("A stored ") + Self::kClassName + " has no owner");
+  Self s(*std::move(owner));
+  s.SetUid(r.GetUid());
+  return s;
 }
 
 template <class Self, class Impl, class Member>
@@ -201,4 +213,27 @@ const kbeC_DerivedComponent* kbeC_DerivedComponentMember::Find(const kbeC_Connec
 kbeC_DerivedComponent& kbeC_DerivedComponentMember::Modify(kbeC_ConnectorBehaviorOption& o) {
   if (auto* f = As<kbeC_ConnectorFriction>(o)) return f->ModifyDerivedComponent();
   Refuse("DerivedComponent exists only for ConnectorFriction object.");
+}
+
+// --- handles ------------------------------------------------------------------------------------
+
+kbeC_ConnectorBehaviorOptionShortcut kbeC_ConnectorBehaviorOptionShortcut::Ctor(const cls_ReadVisitor& r) {
+  return ddr_ShortcutCtor<kbeC_ConnectorBehaviorOptionShortcut, kbeC_OptionInListShortcut>(r);
+}
+kbeC_ConnectorOptionsShortcut kbeC_ConnectorOptionsShortcut::Ctor(const cls_ReadVisitor& r) {
+  return ddr_ShortcutCtor<kbeC_ConnectorOptionsShortcut, kbeC_ConnectorOptionsInConnectorBehaviorOptionShortcut,
+                          kbeC_InitiationOptionsInConnectorBehaviorOptionShortcut, kbeC_EvolutionOptionsInConnectorBehaviorOptionShortcut,
+                          kbeC_IsotropicOptionsInConnectorBehaviorOptionShortcut, kbeC_KinematicOptionsInConnectorBehaviorOptionShortcut>(r);
+}
+kbeC_ConnectorPotentialListShortcut kbeC_ConnectorPotentialListShortcut::Ctor(const cls_ReadVisitor& r) {
+  return ddr_ShortcutCtor<kbeC_ConnectorPotentialListShortcut, kbeC_InitiationPotentialsListInConnectorBehaviorOptionShortcut,
+                          kbeC_EvolutionPotentialsListInConnectorBehaviorOptionShortcut,
+                          kbeC_ConnectPotentialsListInConnectorBehaviorOptionShortcut,
+                          kbeC_ConnectPotentialsListInConnectorFrictionShortcut>(r);
+}
+kbeC_DerivedComponentShortcut kbeC_DerivedComponentShortcut::Ctor(const cls_ReadVisitor& r) {
+  return ddr_ShortcutCtor<kbeC_DerivedComponentShortcut, kbeC_DerivedComponentInConnectorBehaviorOptionShortcut>(r);
+}
+kbeC_TangentialBehaviorShortcut kbeC_TangentialBehaviorShortcut::Ctor(const cls_ReadVisitor& r) {
+  return ddr_ShortcutCtor<kbeC_TangentialBehaviorShortcut, kbeC_TangentialBehaviorInConnectorBehaviorOptionShortcut>(r);
 }

@@ -16,6 +16,7 @@
 #include "platform/base/cow_COW.h"
 #include "platform/base/cow_List.h"
 #include "platform/base/cow_String.h"
+#include "platform/model/ddr_Shortcut.h"
 #include "platform/model/ddr_ShortcutIMPL.h"
 
 using kbeC_ConnectorPotentialList = cow_List<cow_COW<kbeC_ConnectorPotential>>;
@@ -78,6 +79,8 @@ class kbeC_OptionMemberShortcut : public Impl {
  public:
   using T = typename Impl::Addressed;
   explicit kbeC_OptionMemberShortcut(kbeC_OptionInListShortcut owner) : owner_(std::move(owner)) {}
+  // Rebuilds a stored shortcut of this class.
+  static Self Ctor(const cls_ReadVisitor& r);
 
   const kbeC_OptionInListShortcut& Owner() const noexcept { return owner_; }
   Impl* Copy() const override { return mem_New<Self>(static_cast<const Self&>(*this)); }
@@ -239,4 +242,41 @@ class kbeC_DerivedComponentInConnectorBehaviorOptionShortcut
   static constexpr const char* kClassName = "kbeC_DerivedComponentInConnectorBehaviorOptionShortcut";
   static constexpr unsigned TypeId() { return fw_TypeId(680, 49); }
   using kbeC_OptionMemberShortcut::kbeC_OptionMemberShortcut;
+};
+
+// Handles: a shortcut to an object of the addressed class, whichever concrete shortcut reaches it.
+class kbeC_ConnectorBehaviorOptionShortcut : public ddr_Shortcut<kbeC_ConnectorBehaviorOptionIMPLSC> {
+ public:
+  static constexpr const char* kClassName = "kbeC_ConnectorBehaviorOptionShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 18); }
+  using ddr_Shortcut::ddr_Shortcut;
+  static kbeC_ConnectorBehaviorOptionShortcut Ctor(const cls_ReadVisitor& r);
+};
+class kbeC_ConnectorOptionsShortcut : public ddr_Shortcut<kbeC_ConnectorOptionsIMPLSC> {
+ public:
+  static constexpr const char* kClassName = "kbeC_ConnectorOptionsShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 28); }
+  using ddr_Shortcut::ddr_Shortcut;
+  static kbeC_ConnectorOptionsShortcut Ctor(const cls_ReadVisitor& r);
+};
+class kbeC_ConnectorPotentialListShortcut : public ddr_Shortcut<kbeC_ConnectorPotentialListIMPLSC> {
+ public:
+  static constexpr const char* kClassName = "kbeC_ConnectorPotentialListShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 39); }
+  using ddr_Shortcut::ddr_Shortcut;
+  static kbeC_ConnectorPotentialListShortcut Ctor(const cls_ReadVisitor& r);
+};
+class kbeC_DerivedComponentShortcut : public ddr_Shortcut<kbeC_DerivedComponentIMPLSC> {
+ public:
+  static constexpr const char* kClassName = "kbeC_DerivedComponentShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 47); }
+  using ddr_Shortcut::ddr_Shortcut;
+  static kbeC_DerivedComponentShortcut Ctor(const cls_ReadVisitor& r);
+};
+class kbeC_TangentialBehaviorShortcut : public ddr_Shortcut<kbeC_TangentialBehaviorIMPLSC> {
+ public:
+  static constexpr const char* kClassName = "kbeC_TangentialBehaviorShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 57); }
+  using ddr_Shortcut::ddr_Shortcut;
+  static kbeC_TangentialBehaviorShortcut Ctor(const cls_ReadVisitor& r);
 };

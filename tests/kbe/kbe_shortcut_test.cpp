@@ -96,6 +96,15 @@ TEST_F(KbeShortcut, MembersResolveAndModifyThroughTheRepository) {
   const kbeC_OptionInListShortcut back = kbeC_OptionInListShortcut::Ctor(cls_RecordReader(w.Record()));
   EXPECT_TRUE(back.SameAddress(At(kLock)));
   EXPECT_NE(dynamic_cast<const kbeC_ConnectorLock*>(back.ConstGet(Model())), nullptr);
+
+  // Handles rebuild the concrete shortcut their record names.
+  const kbeC_ConnectorOptionsShortcut initiation = kbeC_InitiationOptionsInConnectorBehaviorOptionShortcut(At(kDamage));
+  cls_RecordWriter h;
+  initiation.DBWrite(h);
+  const kbeC_ConnectorOptionsShortcut read = kbeC_ConnectorOptionsShortcut::Ctor(cls_RecordReader(h.Record()));
+  EXPECT_TRUE(read == initiation);
+  EXPECT_EQ(read.ConstGet(Model())->GetRateFactor(), 0.75);
+  EXPECT_THROW(kbeC_TangentialBehaviorShortcut::Ctor(cls_RecordReader(h.Record())), nex_CmdError);
 }
 
 }  // namespace

@@ -223,7 +223,8 @@ kbeC_ConnectorBehaviorOptionShortcut kbeC_ConnectorBehaviorOptionShortcut::Ctor(
 kbeC_ConnectorOptionsShortcut kbeC_ConnectorOptionsShortcut::Ctor(const cls_ReadVisitor& r) {
   return ddr_ShortcutCtor<kbeC_ConnectorOptionsShortcut, kbeC_ConnectorOptionsInConnectorBehaviorOptionShortcut,
                           kbeC_InitiationOptionsInConnectorBehaviorOptionShortcut, kbeC_EvolutionOptionsInConnectorBehaviorOptionShortcut,
-                          kbeC_IsotropicOptionsInConnectorBehaviorOptionShortcut, kbeC_KinematicOptionsInConnectorBehaviorOptionShortcut>(r);
+                          kbeC_IsotropicOptionsInConnectorBehaviorOptionShortcut, kbeC_KinematicOptionsInConnectorBehaviorOptionShortcut,
+                          kbeC_ConnectorOptionsInCDCTermShortcut>(r);
 }
 kbeC_ConnectorPotentialListShortcut kbeC_ConnectorPotentialListShortcut::Ctor(const cls_ReadVisitor& r) {
   return ddr_ShortcutCtor<kbeC_ConnectorPotentialListShortcut, kbeC_InitiationPotentialsListInConnectorBehaviorOptionShortcut,
@@ -232,8 +233,106 @@ kbeC_ConnectorPotentialListShortcut kbeC_ConnectorPotentialListShortcut::Ctor(co
                           kbeC_ConnectPotentialsListInConnectorFrictionShortcut>(r);
 }
 kbeC_DerivedComponentShortcut kbeC_DerivedComponentShortcut::Ctor(const cls_ReadVisitor& r) {
-  return ddr_ShortcutCtor<kbeC_DerivedComponentShortcut, kbeC_DerivedComponentInConnectorBehaviorOptionShortcut>(r);
+  return ddr_ShortcutCtor<kbeC_DerivedComponentShortcut, kbeC_DerivedComponentInConnectorBehaviorOptionShortcut,
+                          kbeC_DerivedComponentInConnectorPotentialShortcut>(r);
 }
 kbeC_TangentialBehaviorShortcut kbeC_TangentialBehaviorShortcut::Ctor(const cls_ReadVisitor& r) {
   return ddr_ShortcutCtor<kbeC_TangentialBehaviorShortcut, kbeC_TangentialBehaviorInConnectorBehaviorOptionShortcut>(r);
 }
+kbeC_ConnectorPotentialShortcut kbeC_ConnectorPotentialShortcut::Ctor(const cls_ReadVisitor& r) {
+  return ddr_ShortcutCtor<kbeC_ConnectorPotentialShortcut, kbeC_ConnectorPotentialInConnectorPotentialListShortcut>(r);
+}
+kbeC_CDCTermListShortcut kbeC_CDCTermListShortcut::Ctor(const cls_ReadVisitor& r) {
+  return ddr_ShortcutCtor<kbeC_CDCTermListShortcut, kbeC_CdcTermsListInDerivedComponentShortcut>(r);
+}
+kbeC_CDCTermShortcut kbeC_CDCTermShortcut::Ctor(const cls_ReadVisitor& r) {
+  return ddr_ShortcutCtor<kbeC_CDCTermShortcut, kbeC_CDCTermInCDCTermListShortcut>(r);
+}
+
+// --- steps below potentials and derived components -------------------------------------------------
+
+namespace {
+// The element at a position of a list of handles; null outside the list or for a null element.
+template <class E>
+const E* ElementAt(const cow_List<cow_COW<E>>& list, std::int32_t i) {
+  if (i < 0 || static_cast<std::size_t>(i) >= list.size() || list[static_cast<std::size_t>(i)].IsNull()) return nullptr;
+  return &list[static_cast<std::size_t>(i)].Get();
+}
+}  // namespace
+
+struct kbeC_PotentialElementStep {
+  static constexpr const char* kScriptName = "";
+  static const kbeC_ConnectorPotential* Find(const kbeC_ConnectorPotentialList& l, std::int32_t i) { return ElementAt(l, i); }
+  static kbeC_ConnectorPotential& Modify(kbeC_ConnectorPotentialList& l, std::int32_t i) {
+    return l.Get(static_cast<std::size_t>(i)).Get();
+  }
+};
+struct kbeC_PotentialDerivedStep {
+  static constexpr const char* kScriptName = "derivedComponent";
+  static const kbeC_DerivedComponent* Find(const kbeC_ConnectorPotential& p, std::int32_t) {
+    return p.HasDerivedComponent() ? &p.GetDerivedComponent() : nullptr;
+  }
+  static kbeC_DerivedComponent& Modify(kbeC_ConnectorPotential& p, std::int32_t) { return p.ModifyDerivedComponent(); }
+};
+struct kbeC_TermsStep {
+  static constexpr const char* kScriptName = "cdcTerms";
+  static const kbeC_CDCTermList* Find(const kbeC_DerivedComponent& d, std::int32_t) { return &d.GetCdcTerms(); }
+  static kbeC_CDCTermList& Modify(kbeC_DerivedComponent& d, std::int32_t) { return d.ModifyCdcTerms(); }
+};
+struct kbeC_TermElementStep {
+  static constexpr const char* kScriptName = "";
+  static const kbeC_CDCTerm* Find(const kbeC_CDCTermList& l, std::int32_t i) { return ElementAt(l, i); }
+  static kbeC_CDCTerm& Modify(kbeC_CDCTermList& l, std::int32_t i) { return l.Get(static_cast<std::size_t>(i)).Get(); }
+};
+struct kbeC_TermOptionsStep {
+  static constexpr const char* kScriptName = "options";
+  static const kbeC_ConnectorOptions* Find(const kbeC_CDCTerm& t, std::int32_t) { return t.HasOptions() ? &t.GetOptions() : nullptr; }
+  static kbeC_ConnectorOptions& Modify(kbeC_CDCTerm& t, std::int32_t) { return t.ModifyOptions(); }
+};
+
+template <class Self, class Impl, class OwnerHandle, class Step>
+Self kbeC_ChildShortcut<Self, Impl, OwnerHandle, Step>::Ctor(const cls_ReadVisitor& r) {
+  if (r.GetTypeId() != Self::TypeId()) ddr_RefuseShortcutRecord(Self::kClassName, r.GetTypeId());
+  std::optional<OwnerHandle> owner;
+  r.ReadObject("owner", [&](const cls_ReadVisitor& m) { owner.emplace(OwnerHandle::Ctor(m)); });
+  if (!owner) nex_ThrowCmd(std::string("A stored ") + Self::kClassName + " has no owner");
+  Self s(*std::move(owner), r.ReadInt("index"));
+  s.SetUid(r.GetUid());
+  return s;
+}
+
+template <class Self, class Impl, class OwnerHandle, class Step>
+cow_String kbeC_ChildShortcut<Self, Impl, OwnerHandle, Step>::Name() const {
+  return *Step::kScriptName ? cow_String(Step::kScriptName) : cow_String(std::to_string(index_));
+}
+
+template <class Self, class Impl, class OwnerHandle, class Step>
+auto kbeC_ChildShortcut<Self, Impl, OwnerHandle, Step>::ConstGet(const ddr_Model& model) const -> const T* {
+  const auto* o = owner_.ConstGet(model);
+  return o ? Step::Find(*o, index_) : nullptr;
+}
+
+template <class Self, class Impl, class OwnerHandle, class Step>
+auto kbeC_ChildShortcut<Self, Impl, OwnerHandle, Step>::Get(ddr_Model& model) const -> T& {
+  // Refuse before the repositories on the way record a modification.
+  if (!ConstGet(model)) ddr_RefuseShortcutPath(Path(), "it names nothing");
+  return Step::Modify(owner_.Get(model), index_);
+}
+
+template <class Self, class Impl, class OwnerHandle, class Step>
+void kbeC_ChildShortcut<Self, Impl, OwnerHandle, Step>::DBWrite(const cls_WriteVisitor& w) const {
+  if (!w.StartWrite(Self::TypeId(), this->GetUid())) return;
+  w.WriteObject("owner", &owner_, [](const void* p, const cls_WriteVisitor& v) { static_cast<const OwnerHandle*>(p)->DBWrite(v); });
+  w.WriteInt("index", index_);
+}
+
+template class kbeC_ChildShortcut<kbeC_ConnectorPotentialInConnectorPotentialListShortcut, kbeC_ConnectorPotentialIMPLSC,
+                                  kbeC_ConnectorPotentialListShortcut, kbeC_PotentialElementStep>;
+template class kbeC_ChildShortcut<kbeC_DerivedComponentInConnectorPotentialShortcut, kbeC_DerivedComponentIMPLSC,
+                                  kbeC_ConnectorPotentialShortcut, kbeC_PotentialDerivedStep>;
+template class kbeC_ChildShortcut<kbeC_CdcTermsListInDerivedComponentShortcut, kbeC_CDCTermListIMPLSC,
+                                  kbeC_DerivedComponentShortcut, kbeC_TermsStep>;
+template class kbeC_ChildShortcut<kbeC_CDCTermInCDCTermListShortcut, kbeC_CDCTermIMPLSC, kbeC_CDCTermListShortcut,
+                                  kbeC_TermElementStep>;
+template class kbeC_ChildShortcut<kbeC_ConnectorOptionsInCDCTermShortcut, kbeC_ConnectorOptionsIMPLSC, kbeC_CDCTermShortcut,
+                                  kbeC_TermOptionsStep>;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "framework/fw_Field.h"
+#include "kbe/kbeC_CDCTerm.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
 #include "kbe/kbeC_ConnectorOptions.h"
 #include "kbe/kbeC_ConnectorPotential.h"
@@ -35,6 +36,7 @@ class kbeC_ConnectorOptionsIMPLSC : public ddr_ShortcutIMPL<kbeC_ConnectorOption
 class kbeC_ConnectorPotentialListIMPLSC : public ddr_ShortcutIMPL<kbeC_ConnectorPotentialList> {
  public:
   static constexpr const char* kClassName = "kbeC_ConnectorPotentialListIMPLSC";
+  static constexpr const char* kAddressedName = "kbeC_ConnectorPotentialList";
   static constexpr unsigned TypeId() { return fw_TypeId(680, 38); }
 };
 class kbeC_DerivedComponentIMPLSC : public ddr_ShortcutIMPL<kbeC_DerivedComponent> {
@@ -46,6 +48,52 @@ class kbeC_TangentialBehaviorIMPLSC : public ddr_ShortcutIMPL<kbeC_TangentialBeh
  public:
   static constexpr const char* kClassName = "kbeC_TangentialBehaviorIMPLSC";
   static constexpr unsigned TypeId() { return fw_TypeId(680, 56); }
+};
+
+class kbeC_ConnectorPotentialIMPLSC : public ddr_ShortcutIMPL<kbeC_ConnectorPotential> {
+ public:
+  static constexpr const char* kClassName = "kbeC_ConnectorPotentialIMPLSC";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 36); }
+};
+using kbeC_CDCTermList = cow_List<cow_COW<kbeC_CDCTerm>>;
+class kbeC_CDCTermListIMPLSC : public ddr_ShortcutIMPL<kbeC_CDCTermList> {
+ public:
+  static constexpr const char* kClassName = "kbeC_CDCTermListIMPLSC";
+  static constexpr const char* kAddressedName = "kbeC_CDCTermList";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 52); }
+};
+class kbeC_CDCTermIMPLSC : public ddr_ShortcutIMPL<kbeC_CDCTerm> {
+ public:
+  static constexpr const char* kClassName = "kbeC_CDCTermIMPLSC";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 50); }
+};
+
+// The handle of a shortcut to a list of records, as ddr_Shortcut is for objects (a list has no
+// class name of its own; its IMPLSC names it for the refusal of an empty handle).
+template <class Impl>
+class kbeC_ListHandle {
+ public:
+  using IMPL = Impl;
+  using Addressed = typename Impl::Addressed;
+  kbeC_ListHandle() = default;
+  kbeC_ListHandle(const Impl& impl) : impl_(impl) {}  // NOLINT: a concrete shortcut converts
+  bool IsNull() const noexcept { return impl_.IsNull(); }
+  const Impl& GetImpl() const {
+    if (impl_.IsNull()) ddr_RefuseEmptyShortcut(Impl::kAddressedName);
+    return impl_.Get();
+  }
+  cow_String Name() const { return GetImpl().Name(); }
+  std::vector<cow_String> Path() const { return GetImpl().Path(); }
+  const Addressed* ConstGet(const ddr_Model& model) const { return GetImpl().ConstGet(model); }
+  Addressed& Get(ddr_Model& model) const { return GetImpl().Get(model); }
+  void DBWrite(const cls_WriteVisitor& w) const { GetImpl().DBWrite(w); }
+  friend bool operator==(const kbeC_ListHandle& a, const kbeC_ListHandle& b) {
+    if (a.IsNull() || b.IsNull()) return a.IsNull() == b.IsNull();
+    return a.impl_.Get().SameAddress(b.impl_.Get());
+  }
+
+ private:
+  cow_COW<Impl, cow_Virtual<Impl>> impl_;
 };
 
 // An option by position in the option list of a section.
@@ -259,11 +307,11 @@ class kbeC_ConnectorOptionsShortcut : public ddr_Shortcut<kbeC_ConnectorOptionsI
   using ddr_Shortcut::ddr_Shortcut;
   static kbeC_ConnectorOptionsShortcut Ctor(const cls_ReadVisitor& r);
 };
-class kbeC_ConnectorPotentialListShortcut : public ddr_Shortcut<kbeC_ConnectorPotentialListIMPLSC> {
+class kbeC_ConnectorPotentialListShortcut : public kbeC_ListHandle<kbeC_ConnectorPotentialListIMPLSC> {
  public:
   static constexpr const char* kClassName = "kbeC_ConnectorPotentialListShortcut";
   static constexpr unsigned TypeId() { return fw_TypeId(680, 39); }
-  using ddr_Shortcut::ddr_Shortcut;
+  using kbeC_ListHandle::kbeC_ListHandle;
   static kbeC_ConnectorPotentialListShortcut Ctor(const cls_ReadVisitor& r);
 };
 class kbeC_DerivedComponentShortcut : public ddr_Shortcut<kbeC_DerivedComponentIMPLSC> {
@@ -279,4 +327,100 @@ class kbeC_TangentialBehaviorShortcut : public ddr_Shortcut<kbeC_TangentialBehav
   static constexpr unsigned TypeId() { return fw_TypeId(680, 57); }
   using ddr_Shortcut::ddr_Shortcut;
   static kbeC_TangentialBehaviorShortcut Ctor(const cls_ReadVisitor& r);
+};
+
+class kbeC_ConnectorPotentialShortcut : public ddr_Shortcut<kbeC_ConnectorPotentialIMPLSC> {
+ public:
+  static constexpr const char* kClassName = "kbeC_ConnectorPotentialShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 37); }
+  using ddr_Shortcut::ddr_Shortcut;
+  static kbeC_ConnectorPotentialShortcut Ctor(const cls_ReadVisitor& r);
+};
+class kbeC_CDCTermListShortcut : public kbeC_ListHandle<kbeC_CDCTermListIMPLSC> {
+ public:
+  static constexpr const char* kClassName = "kbeC_CDCTermListShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 53); }
+  using kbeC_ListHandle::kbeC_ListHandle;
+  static kbeC_CDCTermListShortcut Ctor(const cls_ReadVisitor& r);
+};
+class kbeC_CDCTermShortcut : public ddr_Shortcut<kbeC_CDCTermIMPLSC> {
+ public:
+  static constexpr const char* kClassName = "kbeC_CDCTermShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 51); }
+  using ddr_Shortcut::ddr_Shortcut;
+  static kbeC_CDCTermShortcut Ctor(const cls_ReadVisitor& r);
+};
+
+// A shortcut one step below another: a member of the owner's object (Step::Find and
+// Step::Modify, named Step::kScriptName) or, with an index, an element of the owner's list.
+template <class Self, class Impl, class OwnerHandle, class Step>
+class kbeC_ChildShortcut : public Impl {
+ public:
+  using T = typename Impl::Addressed;
+  explicit kbeC_ChildShortcut(OwnerHandle owner, std::int32_t index = -1) : owner_(std::move(owner)), index_(index) {}
+  static Self Ctor(const cls_ReadVisitor& r);
+
+  Impl* Copy() const override { return mem_New<Self>(static_cast<const Self&>(*this)); }
+  const char* ClassName() const override { return Self::kClassName; }
+  unsigned ClassTypeId() const override { return Self::TypeId(); }
+  cow_String Name() const override;
+  std::vector<cow_String> Path() const override {
+    std::vector<cow_String> p = owner_.Path();
+    p.push_back(Name());
+    return p;
+  }
+  const T* ConstGet(const ddr_Model& model) const override;
+  T& Get(ddr_Model& model) const override;
+  void DBWrite(const cls_WriteVisitor& w) const override;
+
+ private:
+  OwnerHandle owner_;
+  std::int32_t index_;
+};
+
+struct kbeC_PotentialElementStep;
+struct kbeC_PotentialDerivedStep;
+struct kbeC_TermsStep;
+struct kbeC_TermElementStep;
+struct kbeC_TermOptionsStep;
+
+class kbeC_ConnectorPotentialInConnectorPotentialListShortcut
+    : public kbeC_ChildShortcut<kbeC_ConnectorPotentialInConnectorPotentialListShortcut, kbeC_ConnectorPotentialIMPLSC,
+                                kbeC_ConnectorPotentialListShortcut, kbeC_PotentialElementStep> {
+ public:
+  static constexpr const char* kClassName = "kbeC_ConnectorPotentialInConnectorPotentialListShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 40); }
+  using kbeC_ChildShortcut::kbeC_ChildShortcut;
+};
+class kbeC_DerivedComponentInConnectorPotentialShortcut
+    : public kbeC_ChildShortcut<kbeC_DerivedComponentInConnectorPotentialShortcut, kbeC_DerivedComponentIMPLSC,
+                                kbeC_ConnectorPotentialShortcut, kbeC_PotentialDerivedStep> {
+ public:
+  static constexpr const char* kClassName = "kbeC_DerivedComponentInConnectorPotentialShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 48); }
+  using kbeC_ChildShortcut::kbeC_ChildShortcut;
+};
+class kbeC_CdcTermsListInDerivedComponentShortcut
+    : public kbeC_ChildShortcut<kbeC_CdcTermsListInDerivedComponentShortcut, kbeC_CDCTermListIMPLSC,
+                                kbeC_DerivedComponentShortcut, kbeC_TermsStep> {
+ public:
+  static constexpr const char* kClassName = "kbeC_CdcTermsListInDerivedComponentShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 55); }
+  using kbeC_ChildShortcut::kbeC_ChildShortcut;
+};
+class kbeC_CDCTermInCDCTermListShortcut
+    : public kbeC_ChildShortcut<kbeC_CDCTermInCDCTermListShortcut, kbeC_CDCTermIMPLSC, kbeC_CDCTermListShortcut,
+                                kbeC_TermElementStep> {
+ public:
+  static constexpr const char* kClassName = "kbeC_CDCTermInCDCTermListShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 54); }
+  using kbeC_ChildShortcut::kbeC_ChildShortcut;
+};
+class kbeC_ConnectorOptionsInCDCTermShortcut
+    : public kbeC_ChildShortcut<kbeC_ConnectorOptionsInCDCTermShortcut, kbeC_ConnectorOptionsIMPLSC, kbeC_CDCTermShortcut,
+                                kbeC_TermOptionsStep> {
+ public:
+  static constexpr const char* kClassName = "kbeC_ConnectorOptionsInCDCTermShortcut";
+  static constexpr unsigned TypeId() { return fw_TypeId(680, 35); }
+  using kbeC_ChildShortcut::kbeC_ChildShortcut;
 };

@@ -107,4 +107,35 @@ TEST_F(KbeShortcut, MembersResolveAndModifyThroughTheRepository) {
   EXPECT_THROW(kbeC_TangentialBehaviorShortcut::Ctor(cls_RecordReader(h.Record())), nex_CmdError);
 }
 
+TEST_F(KbeShortcut, DownToTheOptionsOfATermOfAPotential) {
+  const ddr_Database before = db_;
+  const kbeC_ConnectorPotentialListShortcut list = kbeC_ConnectPotentialsListInConnectorBehaviorOptionShortcut(At(kPlasticity));
+  const kbeC_ConnectorPotentialShortcut potential = kbeC_ConnectorPotentialInConnectorPotentialListShortcut(list, 1);
+  const kbeC_DerivedComponentShortcut derived = kbeC_DerivedComponentInConnectorPotentialShortcut(potential);
+  const kbeC_CDCTermListShortcut terms = kbeC_CdcTermsListInDerivedComponentShortcut(derived);
+  const kbeC_CDCTermShortcut term = kbeC_CDCTermInCDCTermListShortcut(terms, 0);
+  const kbeC_ConnectorOptionsShortcut options = kbeC_ConnectorOptionsInCDCTermShortcut(term);
+  EXPECT_EQ(options.Path(), (std::vector<cow_String>{"connectorSections", "Bushing", "behaviorOptions", "2", "connectorPotentials",
+                                                     "1", "derivedComponent", "cdcTerms", "0", "options"}));
+  EXPECT_EQ(derived.ConstGet(Model())->GetName(), "radial");
+  EXPECT_EQ(terms.ConstGet(Model())->size(), 2u);
+  EXPECT_EQ(options.ConstGet(Model())->GetRateFactor(), 0.9);
+  options.Get(Model()).SetInterpolation(kbeC_ConnectorOptions::InterpolationEnm::LOGARITHMIC);
+  EXPECT_EQ(options.ConstGet(Model())->GetInterpolation(), kbeC_ConnectorOptions::InterpolationEnm::LOGARITHMIC);
+  EXPECT_FALSE(db_ == before);
+
+  // The second term has no options; a third term and the first potential's derived component do
+  // not exist.
+  EXPECT_EQ(kbeC_ConnectorOptionsInCDCTermShortcut(kbeC_CDCTermInCDCTermListShortcut(terms, 1)).ConstGet(Model()), nullptr);
+  EXPECT_EQ(kbeC_CDCTermInCDCTermListShortcut(terms, 2).ConstGet(Model()), nullptr);
+  const kbeC_ConnectorPotentialShortcut first = kbeC_ConnectorPotentialInConnectorPotentialListShortcut(list, 0);
+  EXPECT_THROW(kbeC_DerivedComponentInConnectorPotentialShortcut(first).Get(Model()), nex_CmdError);
+
+  cls_RecordWriter w;
+  options.DBWrite(w);
+  const kbeC_ConnectorOptionsShortcut back = kbeC_ConnectorOptionsShortcut::Ctor(cls_RecordReader(w.Record()));
+  EXPECT_TRUE(back == options);
+  EXPECT_EQ(back.ConstGet(Model())->GetInterpolation(), kbeC_ConnectorOptions::InterpolationEnm::LOGARITHMIC);
+}
+
 }  // namespace

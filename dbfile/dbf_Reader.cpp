@@ -174,8 +174,19 @@ void dbf_Reader::ReadCatalog() {
     t->storedVersion = static_cast<int>(version);
 
     t->cls = registrar.ByName(t->className);
-    if (!t->cls) nex_ThrowCmd("the file holds objects of class " + t->className + ", which this library does not know");
-    const int current = t->cls->Version();
+    if (!t->cls) {
+      // A class of an older version under a name it no longer has, or a part of such classes.
+      t->rename = driver_.RenameOf(t->className, t->storedVersion);
+      if (!t->rename)
+        nex_ThrowCmd("the file holds objects of class " + t->className + ", which this library does not know");
+      if (!t->rename->IsPart()) {
+        t->cls = registrar.ByName(t->rename->NewName());
+        if (!t->cls)
+          nex_ThrowCmd("class " + t->className + " is renamed to " + t->rename->NewName() +
+                       ", which this library does not know");
+      }
+    }
+    const int current = t->cls ? t->cls->Version() : t->storedVersion;
     if (t->storedVersion > current)
       nex_ThrowCmd("class " + t->className + " is stored at version " + std::to_string(t->storedVersion) +
                    ", newer than this library's version " + std::to_string(current));
@@ -200,10 +211,16 @@ void dbf_Reader::ReadCatalog() {
     }
     fields.Reset();
     if (dbf_FieldTableHash(stored) != hash) Damaged("the stored fields of class " + t->className + " do not match their hash");
-    if (t->storedVersion == current && hash != dbf_FieldTableHash(t->cls->Attributes()))
+    if (t->rename) {
+      if (t->cls && !driver_.HasPath(t->rename->NewName(), t->rename->Target(), current))
+        nex_ThrowCmd("class " + t->className + " is renamed to " + t->rename->NewName() + " at version " +
+                     std::to_string(t->rename->Target()) +
+                     ", from which no chain of upgrade steps reaches its current version " + std::to_string(current));
+      t->upgrade = t->cls != nullptr;
+    } else if (t->storedVersion == current && hash != dbf_FieldTableHash(t->cls->Attributes()))
       nex_ThrowCmd("the fields of class " + t->className + " differ from the ones stored at its version " +
                    std::to_string(current) + "; a changed field table needs a new class version and an upgrade step");
-    if (t->storedVersion < current) {
+    if (!t->rename && t->storedVersion < current) {
       if (!driver_.HasPath(t->className, t->storedVersion, current))
         nex_ThrowCmd("class " + t->className + " is stored at version " + std::to_string(t->storedVersion) +
                      ", from which no chain of upgrade steps reaches its current version " + std::to_string(current));
@@ -263,7 +280,11 @@ dbf_ReadTable& dbf_Reader::TableOf(std::uint32_t storedClassId) const {
   return *it->second;
 }
 
-unsigned dbf_Reader::CurrentTypeId(std::uint32_t storedClassId) const { return TableOf(storedClassId).cls->TypeId(); }
+unsigned dbf_Reader::CurrentTypeId(std::uint32_t storedClassId) const {
+  const dbf_ReadTable& t = TableOf(storedClassId);
+  if (!t.cls) Damaged("an object refers to a row of class " + t.className + ", which is only ever part of other rows");
+  return t.cls->TypeId();
+}
 
 sqlite3_stmt* dbf_Reader::Position(dbf_ReadTable& t, std::int64_t oid) {
   if (!t.scanDone && (!t.scanStarted || t.scanOid < oid)) {
@@ -285,6 +306,7 @@ sqlite3_stmt* dbf_Reader::Position(dbf_ReadTable& t, std::int64_t oid) {
 
 void dbf_Reader::Load(const dbf_Ref& ref, dbf_LoadedRow& row) {
   dbf_ReadTable& t = TableOf(ref.classId);
+  if (!t.cls) Damaged("an object refers to a row of class " + t.className + ", which is only ever part of other rows");
   if (ref.oid < 1 || ref.oid > t.rows)
     Damaged(std::string("it refers to row ") + std::to_string(ref.oid) + " of class " + t.className + ", which holds " +
             std::to_string(t.rows) + " rows");
@@ -299,7 +321,98 @@ void dbf_Reader::Load(const dbf_Ref& ref, dbf_LoadedRow& row) {
   if (sqlite3_column_type(s, 1) != SQLITE_TEXT || !ParseUid(Text(s, 1), row.uid))
     DamagedField(t, ref.oid, dbf_kUidColumn, "no uid");
   Extract(t, s, row);
-  if (t.upgrade) Upgrade(row);
+  if (t.rename) Rename(row);
+  else if (t.upgrade) Upgrade(row);
+}
+
+cls_Record dbf_Reader::RawRecord(const dbf_LoadedRow& row) {
+  const dbf_ReadTable& t = *row.table;
+  cls_Record rec;
+  rec.typeId = t.storedTypeId;
+  rec.uid = row.uid;
+  for (std::size_t i = 0; i < t.fields.size(); ++i) {
+    const dbf_ReadField& f = t.fields[i];
+    if (f.kind == dbf_Kind::Object) {
+      const dbf_Ref& ref = row.refs[row.spans[i].first];
+      rec.fields.emplace_back(f.name + "#OID", ref.oid ? cls_Value(static_cast<std::int32_t>(ref.oid)) : cls_Value());
+      rec.fields.emplace_back(f.name + "#ClassID",
+                              ref.oid ? cls_Value(static_cast<std::int32_t>(ref.classId)) : cls_Value());
+    } else if (f.kind == dbf_Kind::ObjectList) {
+      std::vector<std::int32_t> oids, ids;
+      for (std::uint32_t k = 0; k < row.spans[i].second; ++k) {
+        const dbf_Ref& ref = row.refs[row.spans[i].first + k];
+        oids.push_back(static_cast<std::int32_t>(ref.oid));
+        ids.push_back(static_cast<std::int32_t>(ref.classId));
+      }
+      rec.fields.emplace_back(f.name + "#OID", std::move(oids));
+      rec.fields.emplace_back(f.name + "#ClassID", std::move(ids));
+    } else {
+      rec.fields.emplace_back(f.name, row.values[i]);
+    }
+  }
+  return rec;
+}
+
+std::shared_ptr<const cls_Record> dbf_Reader::FetchRaw(dbf_ReadTable& t, std::int64_t oid) {
+  if (oid < 1 || oid > t.rows) return nullptr;
+  if (!MarkLoaded(t, oid))
+    Damaged(std::string("row ") + std::to_string(oid) + " of class " + t.className + " is held twice");
+  ++t.loaded;
+  sqlite3_stmt* s = Position(t, oid);
+  if (!s) return nullptr;
+  dbf_LoadedRow row;
+  row.table = &t;
+  row.oid = oid;
+  if (sqlite3_column_type(s, 1) != SQLITE_TEXT || !ParseUid(Text(s, 1), row.uid))
+    DamagedField(t, oid, dbf_kUidColumn, "no uid");
+  Extract(t, s, row);
+  return std::make_shared<const cls_Record>(RawRecord(row));
+}
+
+// The other rows of the file, as a conversion that renames a class sees them.
+class dbf_Reader::Source final : public dbc_RowSource {
+ public:
+  Source(dbf_Reader& reader, dbf_LoadedRow::Upgraded& up) : reader_(reader), up_(up) {}
+  std::shared_ptr<const cls_Record> Fetch(std::uint32_t classId, std::int64_t oid) override {
+    auto it = reader_.byStoredId_.find(classId);
+    return it == reader_.byStoredId_.end() ? nullptr : reader_.FetchRaw(*it->second, oid);
+  }
+  std::shared_ptr<const cls_Record> FetchByName(const std::string& className, std::int64_t oid) override {
+    for (const auto& t : reader_.tables_)
+      if (t->className == className) return reader_.FetchRaw(*t, oid);
+    return nullptr;
+  }
+  std::string ClassName(std::uint32_t classId) const override {
+    auto it = reader_.byStoredId_.find(classId);
+    return it == reader_.byStoredId_.end() ? std::string() : it->second->className;
+  }
+  cls_RecordPtr Reference(std::uint32_t classId, std::int64_t oid) override {
+    auto rec = std::make_shared<cls_Record>();
+    rec->typeId = reader_.CurrentTypeId(classId);
+    up_.stubs.emplace(rec.get(), std::pair{cls_RecordPtr(rec), dbf_Ref{oid, classId}});
+    return rec;
+  }
+
+ private:
+  dbf_Reader& reader_;
+  dbf_LoadedRow::Upgraded& up_;
+};
+
+void dbf_Reader::Rename(dbf_LoadedRow& row) {
+  dbf_ReadTable& t = *row.table;
+  const cls_Record old = RawRecord(row);
+  auto up = std::make_unique<dbf_LoadedRow::Upgraded>();
+  up->record.typeId = t.cls->TypeId();
+  up->record.uid = row.uid;
+  Source source(*this, *up);
+  dbc_Row oldRow(old);
+  oldRow.SetSource(&source);
+  dbc_Row newRow(up->record);
+  newRow.SetSource(&source);
+  if (dbc_ConversionFn fn = t.rename->Function()) fn(oldRow, newRow, t.rename->Arg());
+  if (t.rename->Target() != t.cls->Version())
+    driver_.Upgrade(t.rename->NewName(), t.rename->Target(), t.cls->Version(), up->record);
+  row.upgraded = std::move(up);
 }
 
 void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) {
@@ -446,6 +559,7 @@ std::vector<dbf_LoadedRoot> dbf_Reader::LoadRoots(const cls_ClassMetadata* requi
     Entry e{cow_String(Text(s, 0)), dbf_Ref{sqlite3_column_int64(s, 1), static_cast<std::uint32_t>(cls)}};
     if (dbf_InvalidUtf8At(e.name.view())) Damaged("its list of roots holds a name that is not UTF-8");
     const dbf_ReadTable& t = TableOf(e.ref.classId);
+    if (!t.cls) Damaged("a root names a row of class " + t.className + ", which is only ever part of other rows");
     if (required && !t.cls->IsA(*required))
       nex_ThrowCmd("the file holds a " + t.className + " under the name \"" + e.name.str() + "\", where a " +
                    required->Name().str() + " belongs");

@@ -35,7 +35,8 @@ struct dbf_ReadField {
 
 struct dbf_ReadTable {
   std::string className;
-  const cls_ClassMetadata* cls = nullptr;  // the registered class of today
+  const cls_ClassMetadata* cls = nullptr;  // the registered class of today (null for a part class)
+  const dbc_ClassRename* rename = nullptr;  // set for a class stored under a retired name
   std::uint32_t storedTypeId = 0;
   int storedVersion = 0;
   bool upgrade = false;
@@ -111,6 +112,12 @@ class dbf_Reader {
   sqlite3_stmt* Position(dbf_ReadTable& t, std::int64_t oid);
   void Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row);
   void Upgrade(dbf_LoadedRow& row);
+  // Renamed classes: the row built by the rename's conversion, then carried up its new chain.
+  void Rename(dbf_LoadedRow& row);
+  class Source;
+  // A stored row as stored, object fields as their "#OID" and "#ClassID" numbers.
+  static cls_Record RawRecord(const dbf_LoadedRow& row);
+  std::shared_ptr<const cls_Record> FetchRaw(dbf_ReadTable& t, std::int64_t oid);
   // False when the row was loaded before.
   static bool MarkLoaded(dbf_ReadTable& t, std::int64_t oid);
 

@@ -47,6 +47,15 @@ dbc_ClassConverter& dbc_Converter::Upgrade(const char* className, unsigned typeI
   return *steps_.back();
 }
 
+dbc_ClassRename& dbc_Converter::Rename(const char* oldName, int fromVersion, const char* newName, unsigned newTypeId) {
+  renames_.push_back(std::make_unique<dbc_ClassRename>(oldName, fromVersion, newName, newTypeId, target_));
+  return *renames_.back();
+}
+
+void dbc_Converter::Part(const char* oldName, int fromVersion) {
+  renames_.push_back(std::make_unique<dbc_ClassRename>(oldName, fromVersion, std::string(), 0u, target_));
+}
+
 dbc_Converter& dbc_DatabaseConverter::GetConverter(int target) {
   auto& slot = converters_[target];
   if (!slot) slot = std::make_unique<dbc_Converter>(target);
@@ -79,7 +88,13 @@ void dbc_UpgradeDriver::Load(const dbc_DatabaseConverter& steps) {
                      std::to_string(step->From()) + " (to " + std::to_string(it->second->Target()) + " and " +
                      std::to_string(step->Target()) + ")");
     }
+    for (const auto& r : conv->Renames()) renames_.emplace(std::pair{r->OldName(), r->From()}, r.get());
   }
+}
+
+const dbc_ClassRename* dbc_UpgradeDriver::RenameOf(const std::string& oldName, int storedVersion) const {
+  auto it = renames_.find({oldName, storedVersion});
+  return it == renames_.end() ? nullptr : it->second;
 }
 
 bool dbc_UpgradeDriver::HasPath(const std::string& className, int v, int current) const {

@@ -61,6 +61,38 @@ class dbc_ClassConverter {
   int arg_ = 0;
 };
 
+// Rows of a class that a later version renamed: rows of `oldName` stored at `fromVersion` become
+// rows of `newName` at the converter's target version, built by the bound function from the old
+// row and the rows it rests on (dbc_Row::Source). Rows of a part class (a retired base class or
+// a retired class whose rows only ever belonged to other rows) are read only by such functions.
+class dbc_ClassRename {
+ public:
+  dbc_ClassRename(std::string oldName, int fromVersion, std::string newName, unsigned newTypeId, int target)
+      : oldName_(std::move(oldName)), newName_(std::move(newName)), newTypeId_(newTypeId), from_(fromVersion),
+        target_(target) {}
+  void BindConversionFunction(dbc_ConversionFn fn, int arg = 0) {
+    fn_ = fn;
+    arg_ = arg;
+  }
+  const std::string& OldName() const noexcept { return oldName_; }
+  const std::string& NewName() const noexcept { return newName_; }  // empty for a part class
+  unsigned NewTypeId() const noexcept { return newTypeId_; }
+  int From() const noexcept { return from_; }
+  int Target() const noexcept { return target_; }
+  bool IsPart() const noexcept { return newName_.empty(); }
+  dbc_ConversionFn Function() const noexcept { return fn_; }
+  int Arg() const noexcept { return arg_; }
+
+ private:
+  std::string oldName_;
+  std::string newName_;
+  unsigned newTypeId_;
+  int from_;
+  int target_;
+  dbc_ConversionFn fn_ = nullptr;
+  int arg_ = 0;
+};
+
 // The changes that take the database to one target version.
 class dbc_Converter {
  public:
@@ -70,10 +102,16 @@ class dbc_Converter {
   // Declares that rows of the class stored at fromVersion move to this converter's target.
   dbc_ClassConverter& Upgrade(const char* className, unsigned typeId, int fromVersion);
   const std::vector<std::unique_ptr<dbc_ClassConverter>>& Steps() const noexcept { return steps_; }
+  // Declares that rows of oldName stored at fromVersion become rows of newName at this target.
+  dbc_ClassRename& Rename(const char* oldName, int fromVersion, const char* newName, unsigned newTypeId);
+  // Declares a class whose rows stored at fromVersion are read only as parts of renamed rows.
+  void Part(const char* oldName, int fromVersion);
+  const std::vector<std::unique_ptr<dbc_ClassRename>>& Renames() const noexcept { return renames_; }
 
  private:
   int target_;
   std::vector<std::unique_ptr<dbc_ClassConverter>> steps_;
+  std::vector<std::unique_ptr<dbc_ClassRename>> renames_;
 };
 
 class dbc_DatabaseConverter {
@@ -104,10 +142,14 @@ class dbc_UpgradeDriver {
   void Upgrade(const std::string& className, int storedVersion, int currentVersion, cls_Record& row) const;
   // True when the class has a chain of steps from the stored version to the current one.
   bool HasPath(const std::string& className, int storedVersion, int currentVersion) const;
+  // The rename (or part declaration) of a class no longer registered, stored at a version; null
+  // when there is none.
+  const dbc_ClassRename* RenameOf(const std::string& oldName, int storedVersion) const;
 
  private:
   void Load(const dbc_DatabaseConverter& steps);
   // per class: steps by from-version
   std::map<std::string, std::map<int, const dbc_ClassConverter*>> steps_;
+  std::map<std::pair<std::string, int>, const dbc_ClassRename*> renames_;
   dbc_DatabaseConverter own_;
 };

@@ -2,6 +2,7 @@
 // A stored row as converters see it: the fields of a record frozen at one class version,
 // addressed by rfm_FieldHandle.
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "platform/persist/cls_Record.h"
@@ -16,6 +17,25 @@ class rfm_FieldHandle {
  private:
   std::string name_;
   int number_;
+};
+
+// Where a conversion that renames a class finds the other stored rows its old row was built on:
+// base-class rows ("##BaseClassOID") and rows it refers to ("<field>#OID", "<field>#ClassID").
+class dbc_RowSource {
+ public:
+  virtual ~dbc_RowSource() = default;
+  // The stored row `oid` of the class stored under `classId`, as stored: each object field as the
+  // two numbers "<field>#OID" and "<field>#ClassID" (null for no object), each list of objects as
+  // the two lists "<field>#OID" and "<field>#ClassID". Null when there is no such row. A row
+  // fetched counts as read.
+  virtual std::shared_ptr<const cls_Record> Fetch(std::uint32_t classId, std::int64_t oid) = 0;
+  // The same by the stored class name (for base rows, whose class the row does not name).
+  virtual std::shared_ptr<const cls_Record> FetchByName(const std::string& className, std::int64_t oid) = 0;
+  // The stored class name of a class id; empty for an id the file does not know.
+  virtual std::string ClassName(std::uint32_t classId) const = 0;
+  // A member object of the new row that stands for stored row `oid`, read (and upgraded) by its
+  // own class when the new row's owner reads it.
+  virtual cls_RecordPtr Reference(std::uint32_t classId, std::int64_t oid) = 0;
 };
 
 class dbc_Row {
@@ -39,8 +59,12 @@ class dbc_Row {
   void Remove(const rfm_FieldHandle& h);
 
   const cls_Record& Record() const noexcept { return *const_; }
+  // The other stored rows, for conversions that rename a class; null for other conversions.
+  dbc_RowSource* Source() const noexcept { return source_; }
+  void SetSource(dbc_RowSource* source) noexcept { source_ = source; }
 
  private:
   cls_Record* rec_ = nullptr;
   const cls_Record* const_;
+  dbc_RowSource* source_ = nullptr;
 };

@@ -35,8 +35,8 @@ class kfdC_FieldContainer : public mdl_Extension {
   // The typed repository: Get for modification, Insert and Remove record their changes.
   Map& Fields() noexcept { return map_; }
   const Map& Fields() const noexcept { return map_; }
-  mdl_Repository& Repository() override { return map_; }
-  const mdl_Repository& Repository() const override { return map_; }
+  mdl_Repository* Repository() override { return &map_; }
+  const mdl_Repository* Repository() const override { return &map_; }
   bool Equals(const mdl_Extension& o) const override {
     auto* c = dynamic_cast<const kfdC_FieldContainer*>(&o);
     return c && *this == *c;

@@ -23,9 +23,10 @@ namespace {
 int count = 0;
 
 // Row i names the class whose type id is (568 << 16) | i: the material, the option root, the
-// option and sub-option classes (rows 3 to 92, kmaC_OptionClass), the material table at 61,
-// then the container, its shortcuts and the wrapper. Rows name option classes that later join
-// the library too, so that each class's type id is fixed before the class exists.
+// option and sub-option classes (rows 3 to 92, kmaC_OptionClass), the material table at 61, then
+// the container, its shortcuts, the wrapper and the shortcuts to list members of options. Rows
+// name option classes that later join the library too, so that each class's type id is fixed
+// before the class exists.
 constexpr typ_ArchCompRecord kArchRows[] = {
     {0, 0, 0, nullptr},
     {7, 1, 0, "kmaC_Material"},
@@ -132,8 +133,17 @@ constexpr typ_ArchCompRecord kArchRows[] = {
     {7, 1, 0, "kmaC_MaterialOptionInMaterialShortcut"},
     {7, 1, 0, "kmaC_MaterialOptionInMaterialOptionShortcut"},
     {7, 1, 0, "kmaC_MCWrapper"},
+    {7, 1, 0, "kmaC_MaterialOptionListIMPLSC"},
+    {7, 1, 0, "kmaC_MaterialOptionListShortcut"},
+    {7, 1, 0, "kmaC_MaterialOptionListInMullinsEffectShortcut"},
+    {7, 1, 0, "kmaC_UniaxialTestsListInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_BiaxialTestsListInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_PlanarTestsListInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_DamageEvolutionListInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_ElectrodeParticleListInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_ElectrodeParticleLayerListInMaterialOptionShortcut"},
 };
-static_assert(std::size(kArchRows) == 105);
+static_assert(std::size(kArchRows) == 114);
 
 template <class Step>
 void RegisterOld(dbc_OldClassRegistrar& old) {

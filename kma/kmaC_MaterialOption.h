@@ -3,6 +3,7 @@
 // a material and of an option hold options through this class; each kind writes, copies,
 // validates and compares itself.
 #include <cstdint>
+#include <string_view>
 
 #include "framework/fw_Field.h"
 #include "kma/kmaC_OptionClass.h"
@@ -14,6 +15,7 @@
 class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
+class kmaC_MaterialOptionList;
 
 class kmaC_MaterialOption : public mem_Allocated {
  public:
@@ -30,6 +32,9 @@ class kmaC_MaterialOption : public mem_Allocated {
   virtual void DBWrite(const cls_WriteVisitor& w) const;
   // The refusal of a sub-option name the option does not have.
   virtual const char* UnknownSubOptionMessage() const { return "Material option has no suboptions"; }
+  // The list member of that scripting name ("uniaxialTests"), or null for an option without it.
+  virtual const kmaC_MaterialOptionList* OptionList(std::string_view) const { return nullptr; }
+  virtual kmaC_MaterialOptionList* ModifyOptionList(std::string_view) { return nullptr; }
 
   // True when the object's class is the given one or derives from it.
   bool IsA(unsigned typeId) const;

@@ -15,6 +15,8 @@
 #include "kma/kmaC_MaterialInMaterialContainerShortcut.h"
 #include "kma/kmaC_MaterialOptionInMaterialOptionShortcut.h"
 #include "kma/kmaC_MaterialOptionInMaterialShortcut.h"
+#include "kma/kmaC_MaterialOptionListShortcut.h"
+#include "kma/kmaC_OptionListShortcuts.h"
 #include "kma/kmaC_Plastic.h"
 #include "platform/model/ddr_Model.h"
 #include "platform/model/omu_ChangeHistory.h"
@@ -55,6 +57,18 @@ TEST(KmaArchitecture, StatedTypeIdsSitAtTheirRowsAndEveryClassAtItsOwn) {
       {kmaC_MaterialOptionShortcut::kClassName, kmaC_MaterialOptionShortcut::TypeId()},
       {kmaC_MaterialOptionInMaterialShortcut::kClassName, kmaC_MaterialOptionInMaterialShortcut::TypeId()},
       {kmaC_MaterialOptionInMaterialOptionShortcut::kClassName, kmaC_MaterialOptionInMaterialOptionShortcut::TypeId()},
+      {kmaC_MaterialOptionListIMPLSC::kClassName, kmaC_MaterialOptionListIMPLSC::TypeId()},
+      {kmaC_MaterialOptionListShortcut::kClassName, kmaC_MaterialOptionListShortcut::TypeId()},
+      {kmaC_MaterialOptionListInMullinsEffectShortcut::kClassName, kmaC_MaterialOptionListInMullinsEffectShortcut::TypeId()},
+      {kmaC_UniaxialTestsListInMaterialOptionShortcut::kClassName, kmaC_UniaxialTestsListInMaterialOptionShortcut::TypeId()},
+      {kmaC_BiaxialTestsListInMaterialOptionShortcut::kClassName, kmaC_BiaxialTestsListInMaterialOptionShortcut::TypeId()},
+      {kmaC_PlanarTestsListInMaterialOptionShortcut::kClassName, kmaC_PlanarTestsListInMaterialOptionShortcut::TypeId()},
+      {kmaC_DamageEvolutionListInMaterialOptionShortcut::kClassName,
+       kmaC_DamageEvolutionListInMaterialOptionShortcut::TypeId()},
+      {kmaC_ElectrodeParticleListInMaterialOptionShortcut::kClassName,
+       kmaC_ElectrodeParticleListInMaterialOptionShortcut::TypeId()},
+      {kmaC_ElectrodeParticleLayerListInMaterialOptionShortcut::kClassName,
+       kmaC_ElectrodeParticleLayerListInMaterialOptionShortcut::TypeId()},
       {"kmaC_DamageInitiation", kmaC_OptionTypeId(kmaC_OptionClass::DamageInitiation)},
       {"kmaC_TensileFailure", kmaC_OptionTypeId(kmaC_OptionClass::TensileFailure)},
   };

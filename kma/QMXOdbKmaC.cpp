@@ -169,6 +169,7 @@ void QMXOdbKmaC_initialize(int& tally) {
     ddr_Model::RegisterExtension(prototype);
     bas_StartJournal::Register("kmaC_MCWrapper");
   }
+  // Every class of this module, the container and its wrapper included, goes with group 7.
   auto& metadata = omi_Singleton<cls_MetadataRegistrar>::Instance();
   metadata.initClassMetadata(&kmaC_MaterialOption::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MaterialTable::InitializeMetadata, 7);
@@ -177,8 +178,8 @@ void QMXOdbKmaC_initialize(int& tally) {
   metadata.initClassMetadata(&kmaC_Elastic::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Plastic::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Material::InitializeMetadata, 7);
-  metadata.initClassMetadata(&kmaC_MaterialContainer::InitializeMetadata, 3);
-  metadata.initClassMetadata(&kmaC_MCWrapper::InitializeMetadata, 4);
+  metadata.initClassMetadata(&kmaC_MaterialContainer::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_MCWrapper::InitializeMetadata, 7);
 
   auto& old = omi_Singleton<dbc_OldClassRegistrar>::Instance();
   RegisterOld<kmaC_Material_203>(old);

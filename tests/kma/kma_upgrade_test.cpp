@@ -183,3 +183,33 @@ TEST(KmaVersions, TheExportedPlasticConvertersFillTheNewRow) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(KmaUpgrade, AFileWithAnOptionInTheWrongSlotOrAnUnknownLiteralIsRefusedWhole) {
+  struct Case {
+    const char* what;
+    std::string sql;
+    std::string expected;  // a part of the refusal
+  };
+  const std::string elasticId = std::to_string(kmaC_Elastic::TypeId());
+  const std::string plasticId = std::to_string(kmaC_Plastic::TypeId());
+  const Case cases[] = {
+      {"swapped slots",
+       "UPDATE kmaC_Material SET \"elastic#ClassID\" = " + plasticId + ", \"elastic#OID\" = (SELECT OID FROM kmaC_Plastic),"
+       " \"plastic#ClassID\" = " + elasticId + ", \"plastic#OID\" = (SELECT OID FROM kmaC_Elastic)",
+       "The option slot \"elastic\" holds a kmaC_Elastic, not a kmaC_Plastic"},
+      {"lower-case literal", "UPDATE kmaC_Elastic SET moduli = 'long_term'", "str not allowed: long_term  Permissible: "},
+      {"unknown hardening", "UPDATE kmaC_Plastic SET hardening = 'SOFTENING'", "str not allowed: SOFTENING"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    const std::string file = dir_ + "/damaged.odb";
+    dbf_Save(SteelDatabase(), file);
+    kmaT_Edit(file, c.sql);
+    auto e = qmx_Catch<nex_CmdError>([&] { dbf_Open(file); });
+    EXPECT_NE(e.Message().find(c.expected), std::string::npos) << e.Message();
+  }
+}
+
+}  // namespace

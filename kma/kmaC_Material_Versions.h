@@ -17,27 +17,27 @@ void* kmaC_Material_AddHosfordCoulombInitiation(const dbc_Row& oldRow, dbc_Row& 
 void* kmaC_Material_AddElectrochemistry(const dbc_Row& oldRow, dbc_Row& newRow, int arg);           // 2305 -> 2503
 
 // Steps that only raise the version: an option class changed, the material's own rows did not.
-class kmaC_Material_203 : public kmaC_OldClassStep<kmaC_Material, 203, 212, nullptr> {};
-class kmaC_Material_212 : public kmaC_OldClassStep<kmaC_Material, 212, 301, nullptr> {};
-class kmaC_Material_301 : public kmaC_OldClassStep<kmaC_Material, 301, 849, nullptr> {};
-class kmaC_Material_849 : public kmaC_OldClassStep<kmaC_Material, 849, 850, nullptr> {};
-class kmaC_Material_850 : public kmaC_OldClassStep<kmaC_Material, 850, 869, nullptr> {};
-class kmaC_Material_869 : public kmaC_OldClassStep<kmaC_Material, 869, 1053, nullptr> {};
-class kmaC_Material_1053 : public kmaC_OldClassStep<kmaC_Material, 1053, 1106, nullptr> {};
-class kmaC_Material_1106 : public kmaC_OldClassStep<kmaC_Material, 1106, 1352, nullptr> {};
-class kmaC_Material_1352 : public kmaC_OldClassStep<kmaC_Material, 1352, 1400, nullptr> {};
-class kmaC_Material_1400 : public kmaC_OldClassStep<kmaC_Material, 1400, 1411, nullptr> {};
-class kmaC_Material_1411 : public kmaC_OldClassStep<kmaC_Material, 1411, 1436, nullptr> {};
-class kmaC_Material_1436 : public kmaC_OldClassStep<kmaC_Material, 1436, 1449, &kmaC_Material_AddDescription> {};
-class kmaC_Material_1449 : public kmaC_OldClassStep<kmaC_Material, 1449, 1628, &kmaC_Material_AddMaterialIdentifier> {};
-class kmaC_Material_1628 : public kmaC_OldClassStep<kmaC_Material, 1628, 1853, &kmaC_Material_AddSoftRockPlasticity> {};
-class kmaC_Material_1853 : public kmaC_OldClassStep<kmaC_Material, 1853, 1857, &kmaC_Material_AddSuperElasticity> {};
+class kmaC_Material_203 : public kmaC_OldClassStep<kmaC_Material, 203, 212> {};
+class kmaC_Material_212 : public kmaC_OldClassStep<kmaC_Material, 212, 301> {};
+class kmaC_Material_301 : public kmaC_OldClassStep<kmaC_Material, 301, 849> {};
+class kmaC_Material_849 : public kmaC_OldClassStep<kmaC_Material, 849, 850> {};
+class kmaC_Material_850 : public kmaC_OldClassStep<kmaC_Material, 850, 869> {};
+class kmaC_Material_869 : public kmaC_OldClassStep<kmaC_Material, 869, 1053> {};
+class kmaC_Material_1053 : public kmaC_OldClassStep<kmaC_Material, 1053, 1106> {};
+class kmaC_Material_1106 : public kmaC_OldClassStep<kmaC_Material, 1106, 1352> {};
+class kmaC_Material_1352 : public kmaC_OldClassStep<kmaC_Material, 1352, 1400> {};
+class kmaC_Material_1400 : public kmaC_OldClassStep<kmaC_Material, 1400, 1411> {};
+class kmaC_Material_1411 : public kmaC_OldClassStep<kmaC_Material, 1411, 1436> {};
+class kmaC_Material_1436 : public kmaC_OldClassConversion<kmaC_Material, 1436, 1449, &kmaC_Material_AddDescription> {};
+class kmaC_Material_1449 : public kmaC_OldClassConversion<kmaC_Material, 1449, 1628, &kmaC_Material_AddMaterialIdentifier> {};
+class kmaC_Material_1628 : public kmaC_OldClassConversion<kmaC_Material, 1628, 1853, &kmaC_Material_AddSoftRockPlasticity> {};
+class kmaC_Material_1853 : public kmaC_OldClassConversion<kmaC_Material, 1853, 1857, &kmaC_Material_AddSuperElasticity> {};
 class kmaC_Material_1857
-    : public kmaC_OldClassStep<kmaC_Material, 1857, 1901, &kmaC_Material_AddMeanFieldHomogenization> {};
-class kmaC_Material_1901 : public kmaC_OldClassStep<kmaC_Material, 1901, 2102, nullptr> {};
-class kmaC_Material_2102 : public kmaC_OldClassStep<kmaC_Material, 2102, 2210, &kmaC_Material_AddCrushStress> {};
-class kmaC_Material_2210 : public kmaC_OldClassStep<kmaC_Material, 2210, 2218, &kmaC_Material_AddPlasticityCorrection> {};
-class kmaC_Material_2218 : public kmaC_OldClassStep<kmaC_Material, 2218, 2300, &kmaC_Material_AddLaRC05DamageInitiation> {};
+    : public kmaC_OldClassConversion<kmaC_Material, 1857, 1901, &kmaC_Material_AddMeanFieldHomogenization> {};
+class kmaC_Material_1901 : public kmaC_OldClassStep<kmaC_Material, 1901, 2102> {};
+class kmaC_Material_2102 : public kmaC_OldClassConversion<kmaC_Material, 2102, 2210, &kmaC_Material_AddCrushStress> {};
+class kmaC_Material_2210 : public kmaC_OldClassConversion<kmaC_Material, 2210, 2218, &kmaC_Material_AddPlasticityCorrection> {};
+class kmaC_Material_2218 : public kmaC_OldClassConversion<kmaC_Material, 2218, 2300, &kmaC_Material_AddLaRC05DamageInitiation> {};
 class kmaC_Material_2300
-    : public kmaC_OldClassStep<kmaC_Material, 2300, 2305, &kmaC_Material_AddHosfordCoulombInitiation> {};
-class kmaC_Material_2305 : public kmaC_OldClassStep<kmaC_Material, 2305, 2503, &kmaC_Material_AddElectrochemistry> {};
+    : public kmaC_OldClassConversion<kmaC_Material, 2300, 2305, &kmaC_Material_AddHosfordCoulombInitiation> {};
+class kmaC_Material_2305 : public kmaC_OldClassConversion<kmaC_Material, 2305, 2503, &kmaC_Material_AddElectrochemistry> {};

@@ -2,18 +2,153 @@
 
 #include <iterator>
 
+#include "kma/kmaC_Elastic.h"
+#include "kma/kmaC_FailStrain.h"
+#include "kma/kmaC_FailStress.h"
+#include "kma/kmaC_MCWrapper.h"
+#include "kma/kmaC_Material.h"
+#include "kma/kmaC_MaterialContainer.h"
+#include "kma/kmaC_MaterialOption.h"
+#include "kma/kmaC_MaterialTable.h"
+#include "kma/kmaC_Material_Versions.h"
+#include "kma/kmaC_Plastic.h"
+#include "kma/kmaC_Plastic_Versions.h"
 #include "platform/base/bas_StartCount.h"
 #include "platform/base/bas_StartJournal.h"
+#include "platform/base/omi_Singleton.h"
+#include "platform/model/ddr_Model.h"
+#include "platform/persist/cls_ClassRegistrar.h"
 
 namespace {
 int count = 0;
-constexpr std::uint16_t kArchKey = 568;
 
-// Row i names the class whose type id is (568 << 16) | i. The class rows are added with the
-// module's classes; until then the table holds its leading empty row only.
+// Row i names the class whose type id is (568 << 16) | i: the material, the option root, the
+// option and sub-option classes (rows 3 to 92, kmaC_OptionClass), the material table at 61, then
+// the container, its shortcuts, the wrapper and the shortcuts to list members of options. Rows
+// name option classes that later join the library too, so that each class's type id is fixed
+// before the class exists.
 constexpr typ_ArchCompRecord kArchRows[] = {
     {0, 0, 0, nullptr},
+    {7, 1, 0, "kmaC_Material"},
+    {7, 1, 0, "kmaC_MaterialOption"},
+    {7, 1, 0, "kmaC_AcousticMedium"},
+    {7, 1, 0, "kmaC_AnnealTemperature"},
+    {7, 1, 0, "kmaC_BiaxialTestData"},
+    {7, 1, 0, "kmaC_BrittleCracking"},
+    {7, 1, 0, "kmaC_CapCreep"},
+    {7, 1, 0, "kmaC_CapCreepCohesion"},
+    {7, 1, 0, "kmaC_CapCreepConsolidation"},
+    {7, 1, 0, "kmaC_CapPlasticity"},
+    {7, 1, 0, "kmaC_CastIronPlasticity"},
+    {7, 1, 0, "kmaC_ClayPlasticity"},
+    {7, 1, 0, "kmaC_Concrete"},
+    {7, 1, 0, "kmaC_ConcreteDamagedPlasticity"},
+    {7, 1, 0, "kmaC_Conductivity"},
+    {7, 1, 0, "kmaC_Creep"},
+    {7, 1, 0, "kmaC_CrushStress"},
+    {7, 1, 0, "kmaC_CycledPlastic"},
+    {7, 1, 0, "kmaC_CyclicHardening"},
+    {7, 1, 0, "kmaC_DamageEvolution"},
+    {7, 1, 0, "kmaC_DamageInitiation"},
+    {7, 1, 0, "kmaC_Damping"},
+    {7, 1, 0, "kmaC_DeformationPlasticity"},
+    {7, 1, 0, "kmaC_Density"},
+    {7, 1, 0, "kmaC_Depvar"},
+    {7, 1, 0, "kmaC_Dielectric"},
+    {7, 1, 0, "kmaC_Diffusivity"},
+    {7, 1, 0, "kmaC_DruckerPrager"},
+    {7, 1, 0, "kmaC_DruckerPragerCreep"},
+    {7, 1, 0, "kmaC_Elastic"},
+    {7, 1, 0, "kmaC_ElectricalConductivity"},
+    {7, 1, 0, "kmaC_Electrode"},
+    {7, 1, 0, "kmaC_Electrolyte"},
+    {7, 1, 0, "kmaC_FailStrain"},
+    {7, 1, 0, "kmaC_FailStress"},
+    {7, 1, 0, "kmaC_Eos"},
+    {7, 1, 0, "kmaC_EosShear"},
+    {7, 1, 0, "kmaC_Expansion"},
+    {7, 1, 0, "kmaC_FluidLeakoff"},
+    {7, 1, 0, "kmaC_Foam"},
+    {7, 1, 0, "kmaC_GapConductance"},
+    {7, 1, 0, "kmaC_GapConvection"},
+    {7, 1, 0, "kmaC_GapFlow"},
+    {7, 1, 0, "kmaC_GapRadiation"},
+    {7, 1, 0, "kmaC_Gel"},
+    {7, 1, 0, "kmaC_HeatGeneration"},
+    {7, 1, 0, "kmaC_Hyperelastic"},
+    {7, 1, 0, "kmaC_Hyperfoam"},
+    {7, 1, 0, "kmaC_Hypoelastic"},
+    {7, 1, 0, "kmaC_InelasticHeatFraction"},
+    {7, 1, 0, "kmaC_JouleHeatFraction"},
+    {7, 1, 0, "kmaC_LatentHeat"},
+    {7, 1, 0, "kmaC_LowDensityFoam"},
+    {7, 1, 0, "kmaC_MagneticPermeability"},
+    {7, 1, 0, "kmaC_MeanFieldHomogenization"},
+    {7, 1, 0, "kmaC_MembraneElastic"},
+    {7, 1, 0, "kmaC_MohrCoulomb"},
+    {7, 1, 0, "kmaC_MoistureSwelling"},
+    {7, 1, 0, "kmaC_MullinsEffect"},
+    {7, 1, 0, "kmaC_Plastic"},
+    {7, 1, 0, "kmaC_MaterialTable"},
+    {7, 1, 0, "kmaC_Ornl"},
+    {7, 1, 0, "kmaC_Permeability"},
+    {7, 1, 0, "kmaC_Piezoelectric"},
+    {7, 1, 0, "kmaC_PlanarTestData"},
+    {7, 1, 0, "kmaC_PlasticityCorrection"},
+    {7, 1, 0, "kmaC_PoreFluidExpansion"},
+    {7, 1, 0, "kmaC_PorousBulkModuli"},
+    {7, 1, 0, "kmaC_PorousElastic"},
+    {7, 1, 0, "kmaC_PorousMetalPlasticity"},
+    {7, 1, 0, "kmaC_Potential"},
+    {7, 1, 0, "kmaC_RateDependent"},
+    {7, 1, 0, "kmaC_Regularization"},
+    {7, 1, 0, "kmaC_Shear"},
+    {7, 1, 0, "kmaC_ShearRetention"},
+    {7, 1, 0, "kmaC_SoftRockPlasticity"},
+    {7, 1, 0, "kmaC_Solubility"},
+    {7, 1, 0, "kmaC_Sorption"},
+    {7, 1, 0, "kmaC_SpecificHeat"},
+    {7, 1, 0, "kmaC_SuperElasticity"},
+    {7, 1, 0, "kmaC_Swelling"},
+    {7, 1, 0, "kmaC_TensileFailure"},
+    {7, 1, 0, "kmaC_ThicknessBehavior"},
+    {7, 1, 0, "kmaC_TransShearElastic"},
+    {7, 1, 0, "kmaC_UniaxialTestData"},
+    {7, 1, 0, "kmaC_UserDefinedField"},
+    {7, 1, 0, "kmaC_UserMaterial"},
+    {7, 1, 0, "kmaC_UserOutputVariables"},
+    {7, 1, 0, "kmaC_Viscoelastic"},
+    {7, 1, 0, "kmaC_Viscosity"},
+    {7, 1, 0, "kmaC_Viscous"},
+    {7, 1, 0, "kmaC_VolumetricTestData"},
+    {7, 1, 0, "kmaC_MaterialContainer"},
+    {7, 1, 0, "kmaC_MaterialIMPLSC"},
+    {7, 1, 0, "kmaC_MaterialShortcut"},
+    {7, 1, 0, "kmaC_MaterialInMaterialContainerShortcut"},
+    {7, 1, 0, "kmaC_MaterialContainerIMPLSC"},
+    {7, 1, 0, "kmaC_MaterialContainerShortcut"},
+    {7, 1, 0, "kmaC_MaterialContainerInModelShortcut"},
+    {7, 1, 0, "kmaC_MaterialOptionIMPLSC"},
+    {7, 1, 0, "kmaC_MaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_MaterialOptionInMaterialShortcut"},
+    {7, 1, 0, "kmaC_MaterialOptionInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_MCWrapper"},
+    {7, 1, 0, "kmaC_MaterialOptionListIMPLSC"},
+    {7, 1, 0, "kmaC_MaterialOptionListShortcut"},
+    {7, 1, 0, "kmaC_MaterialOptionListInMullinsEffectShortcut"},
+    {7, 1, 0, "kmaC_UniaxialTestsListInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_BiaxialTestsListInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_PlanarTestsListInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_DamageEvolutionListInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_ElectrodeParticleListInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_ElectrodeParticleLayerListInMaterialOptionShortcut"},
 };
+static_assert(std::size(kArchRows) == 114);
+
+template <class Step>
+void RegisterOld(dbc_OldClassRegistrar& old) {
+  old.Register(cow_CountedHld<dbc_OldClassVersion>(new Step), 5);
+}
 }  // namespace
 
 typ_ArchCompEntry kmaC_ArchEntry() {
@@ -27,10 +162,57 @@ int QMXOdbKmaC_count() { return count; }
 void QMXOdbKmaC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
   bas_StartJournal::Start("QMXOdbKmaC");
-  typ_ArchCompTable::InsertEntry(kArchKey, kmaC_ArchEntry());
+  typ_ArchCompTable::InsertEntry(kmaC_kArchKey, kmaC_ArchEntry());
+  {
+    kmaC_MaterialContainer materials;
+    kmaC_MCWrapper prototype(materials);
+    ddr_Model::RegisterExtension(prototype);
+    bas_StartJournal::Register("kmaC_MCWrapper");
+  }
+  // Every class of this module, the container and its wrapper included, goes with group 7.
+  auto& metadata = omi_Singleton<cls_MetadataRegistrar>::Instance();
+  metadata.initClassMetadata(&kmaC_MaterialOption::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_MaterialTable::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_FailStrain::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_FailStress::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Elastic::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Plastic::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Material::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_MaterialContainer::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_MCWrapper::InitializeMetadata, 7);
+
+  auto& old = omi_Singleton<dbc_OldClassRegistrar>::Instance();
+  RegisterOld<kmaC_Material_203>(old);
+  RegisterOld<kmaC_Material_212>(old);
+  RegisterOld<kmaC_Material_301>(old);
+  RegisterOld<kmaC_Material_849>(old);
+  RegisterOld<kmaC_Material_850>(old);
+  RegisterOld<kmaC_Material_869>(old);
+  RegisterOld<kmaC_Material_1053>(old);
+  RegisterOld<kmaC_Material_1106>(old);
+  RegisterOld<kmaC_Material_1352>(old);
+  RegisterOld<kmaC_Material_1400>(old);
+  RegisterOld<kmaC_Material_1411>(old);
+  RegisterOld<kmaC_Material_1436>(old);
+  RegisterOld<kmaC_Material_1449>(old);
+  RegisterOld<kmaC_Material_1628>(old);
+  RegisterOld<kmaC_Material_1853>(old);
+  RegisterOld<kmaC_Material_1857>(old);
+  RegisterOld<kmaC_Material_1901>(old);
+  RegisterOld<kmaC_Material_2102>(old);
+  RegisterOld<kmaC_Material_2210>(old);
+  RegisterOld<kmaC_Material_2218>(old);
+  RegisterOld<kmaC_Material_2300>(old);
+  RegisterOld<kmaC_Material_2305>(old);
+  RegisterOld<kmaC_Plastic_203>(old);
+  RegisterOld<kmaC_Plastic_419>(old);
+  RegisterOld<kmaC_Plastic_1107>(old);
+  RegisterOld<kmaC_Plastic_2002>(old);
+  RegisterOld<kmaC_Plastic_2008>(old);
 }
 
 void QMXOdbKmaC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
   bas_StartJournal::Stop("QMXOdbKmaC");
+  ddr_Model::UnRegisterExtension(kmaC_MaterialContainer::Names::kRepositoryName);
 }

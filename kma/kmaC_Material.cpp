@@ -1,0 +1,109 @@
+#include "kma/kmaC_Material.h"
+
+#include "kma/kmaC_Elastic.h"
+#include "kma/kmaC_OptionSlotTraits.h"
+#include "kma/kmaC_Plastic.h"
+#include "platform/base/nex_Exception.h"
+
+namespace {
+template <class M>
+struct IsSlot : std::false_type {};
+template <kmaC_OptionClass Class>
+struct IsSlot<kmaC_OptionSlot<Class>> : std::true_type {};
+
+static_assert(std::tuple_size_v<decltype(kmaC_Material::Fields())> == kmaC_Material::kSlotCount + 2);
+
+[[noreturn]] void RefuseSlot() { nex_ThrowCmd("Unknown material option"); }
+}  // namespace
+
+kmaC_Material::kmaC_Material(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
+void kmaC_Material::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
+kmaC_Material* kmaC_Material::Copy() const { return mem_New<kmaC_Material>(*this); }
+bool kmaC_Material::operator==(const kmaC_Material& o) const { return fw_EqualFields(*this, o); }
+void kmaC_Material::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_Material>(r); }
+void kmaC_Material::CowDtor(void* p) { fw_CowDtor<kmaC_Material>(p); }
+
+// Calls fn(slot, name) for the slot of that scripting name; false when there is none.
+template <class Fn>
+bool kmaC_Material::VisitSlot(std::string_view slot, Fn&& fn) {
+  bool found = false;
+  std::apply(
+      [&](const auto&... f) {
+        auto one = [&](const auto& field) {
+          using M = typename fw_MemberType<std::remove_cvref_t<decltype(field)>>::type;
+          if constexpr (IsSlot<M>::value)
+            if (!found && slot == field.scriptName) found = true, fn(this->*(field.member), field.scriptName);
+        };
+        (one(f), ...);
+      },
+      Fields());
+  return found;
+}
+
+template <class Fn>
+bool kmaC_Material::VisitSlot(std::string_view slot, Fn&& fn) const {
+  return const_cast<kmaC_Material*>(this)->VisitSlot(slot, [&](const auto& s, const char* name) { fn(s, name); });
+}
+
+bool kmaC_Material::IsSlotName(std::string_view slot) {
+  kmaC_Material probe;
+  return probe.VisitSlot(slot, [](auto&, const char*) {});
+}
+
+const kmaC_MaterialOption* kmaC_Material::GetOption(std::string_view slot) const {
+  const kmaC_MaterialOption* out = nullptr;
+  if (!VisitSlot(slot, [&](const auto& s, const char*) { out = s.ConstGet(); })) RefuseSlot();
+  return out;
+}
+
+kmaC_MaterialOption* kmaC_Material::ModifyOption(std::string_view slot) {
+  kmaC_MaterialOption* out = nullptr;
+  if (!VisitSlot(slot, [&](auto& s, const char*) { out = s.Get(); })) RefuseSlot();
+  return out;
+}
+
+void kmaC_Material::SetOption(std::string_view slot, const kmaC_MaterialOption& option) {
+  if (!VisitSlot(slot, [&](auto& s, const char* name) { s.Set(option, name); })) RefuseSlot();
+}
+
+void kmaC_Material::ClearOption(std::string_view slot) {
+  if (!VisitSlot(slot, [](auto& s, const char*) { s.Clear(); })) RefuseSlot();
+}
+
+const kmaC_Elastic& kmaC_Material::GetElastic() const {
+  if (elastic.IsNull()) nex_ThrowCmd("The material has no elastic option");
+  return static_cast<const kmaC_Elastic&>(*elastic.ConstGet());
+}
+
+kmaC_Elastic& kmaC_Material::ModifyElastic() {
+  if (elastic.IsNull()) nex_ThrowCmd("The material has no elastic option");
+  return static_cast<kmaC_Elastic&>(*elastic.Get());
+}
+
+void kmaC_Material::SetElastic(const kmaC_Elastic& v) { elastic.Set(v, "elastic"); }
+
+const kmaC_Plastic& kmaC_Material::GetPlastic() const {
+  if (plastic.IsNull()) nex_ThrowCmd("The material has no plastic option");
+  return static_cast<const kmaC_Plastic&>(*plastic.ConstGet());
+}
+
+kmaC_Plastic& kmaC_Material::ModifyPlastic() {
+  if (plastic.IsNull()) nex_ThrowCmd("The material has no plastic option");
+  return static_cast<kmaC_Plastic&>(*plastic.Get());
+}
+
+void kmaC_Material::SetPlastic(const kmaC_Plastic& v) { plastic.Set(v, "plastic"); }
+
+// The slots in persistent order; the first failing option decides the message.
+void kmaC_Material::AssertValid() const {
+  std::apply(
+      [&](const auto&... f) {
+        auto one = [&](const auto& field) {
+          using M = typename fw_MemberType<std::remove_cvref_t<decltype(field)>>::type;
+          if constexpr (IsSlot<M>::value)
+            if (const kmaC_MaterialOption* o = (this->*(field.member)).ConstGet()) o->AssertValid();
+        };
+        (one(f), ...);
+      },
+      Fields());
+}

@@ -1,0 +1,49 @@
+#pragma once
+// Shared by the material tests: a started library, validation expectations and file editing.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "kma/kmaC_assert.h"
+#include "platform/base/nex_Exception.h"
+#include "tests/support/qmx_test.h"
+
+inline void kmaT_Start() { qmx_StartLibrary(); }
+
+// Runs fn, which must fail validation through kmaC_Assert with exactly this message.
+void kmaT_ExpectFailure(const std::function<void()>& fn, const std::string& message);
+
+// Runs statements on a model database file through its checksumming file layer.
+void kmaT_Edit(const std::string& path, const std::string& sql);
+// The first column of every row of a query on the file.
+std::vector<std::string> kmaT_Query(const std::string& path, const std::string& sql);
+
+// Rewrites a saved file so that the rows of `className` have the layout of `version`: the named
+// fields are gone from its table and its field table, and the catalog says `version`.
+void kmaT_MakeOldLayout(const std::string& path, const char* className, int version,
+                        const std::vector<std::string>& absentFields);
+
+#include "kma/kmaC_MaterialOption.h"
+
+// An in-memory stand-in for an option class this library does not offer yet: it has the type id
+// of its slot's class and fails validation with `code` when one is given.
+template <kmaC_OptionClass Class>
+class kmaT_StandIn : public kmaC_MaterialOption {
+ public:
+  explicit kmaT_StandIn(int failWith = -1) : code_(failWith) {}
+  kmaT_StandIn* Copy() const override { return mem_New<kmaT_StandIn>(*this); }
+  void AssertValid() const override {
+    if (code_ >= 0) kmaC_Assert(false, static_cast<kmaC_ErrorEnm>(code_));
+  }
+  unsigned DynTypeId() const override { return kmaC_OptionTypeId(Class); }
+
+ protected:
+  bool SameAs(const kmaC_MaterialOption& o) const override {
+    return GetUid() == o.GetUid() && code_ == static_cast<const kmaT_StandIn&>(o).code_;
+  }
+
+ private:
+  int code_;
+};

@@ -178,7 +178,8 @@ py::object GetMember(const Object& o, const std::string& name) {
       }
       if (f.type == cls_AttrObjectList) {
         py::list out;
-        for (const auto& rec : std::get<std::vector<cls_RecordPtr>>(f.get(at.obj))) {
+        const cls_Value list = f.get(at.obj);
+        for (const auto& rec : std::get<std::vector<cls_RecordPtr>>(list)) {
           if (!rec) {
             out.append(py::none());
             continue;

@@ -139,7 +139,16 @@ const cls_ClassMetadata& BoundClass(const Object& o) {
   return *md;
 }
 
+// An Object made without a constructor holds nothing to work on.
+const Object& Live(const Object& o) {
+  if (!o.root && !o.session)
+    Raise("CmdException", "An object is made by the constructor of its class, such as CircularProfile(r=1.0)",
+          "py_Module.cpp", __LINE__);
+  return o;
+}
+
 const cls_ClassMetadata& ClassOf(const Object& o) {
+  Live(o);
   return Guarded([&]() -> const cls_ClassMetadata& { return o.root ? *Resolve(o, false).md : BoundClass(o); });
 }
 
@@ -265,18 +274,19 @@ void SetMember(const Object& o, const std::string& name, py::handle value) {
 }
 
 py::object Validate(const Object& o) {
-  if (o.root) {
+  if (Live(o).root) {
     Guarded([&] {
       Found at = Resolve(o, false);
       at.md->AssertValid(at.obj);
     });
     return py::none();
   }
-  return FromJson(Run(*o.session, Command("validate", o.path)));
+  Run(*o.session, Command("validate", o.path));
+  return py::none();
 }
 
 cmd_Json ObjectToJson(const Object& o) {
-  if (o.root) {
+  if (Live(o).root) {
     return Guarded([&] {
       Found at = Resolve(o, false);
       return cmd_ObjectToJson(at.obj, *at.md);
@@ -422,7 +432,7 @@ PYBIND11_MODULE(_core, m) {
       .def("__setitem__",
            [](const Object& self, const std::string& name, py::handle value) { SetMember(self, name, value); })
       .def("__dir__", [](py::handle self) { return Dir(self, Members(ClassOf(self.cast<const Object&>()))); })
-      .def("__repr__", [](const Object& self) { return Repr(self); })
+      .def("__repr__", [](const Object& self) { return self.root || self.session ? Repr(self) : std::string("Object()"); })
       .def("__eq__",
            [](const Object& self, py::handle other) -> py::object {
              if (!IsObject(other)) return py::reinterpret_borrow<py::object>(Py_NotImplemented);

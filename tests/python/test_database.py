@@ -112,9 +112,12 @@ def test_nested_objects_in_the_model(model):
         model.amplitudes["A"].validate()
     assert e.value.message == ("Invalid baseline correction values, expected non-negative\n"
                                "monotonically increasing numbers.")
+    with pytest.raises(qa.CommandError):
+        a.baselineCorrection = qa.CircularProfile(r=1.0)
+    assert model.amplitudes["A"].baselineCorrection.intervals == [0.0, 0.0]
     a.baselineCorrection = None
     assert a.baselineCorrection is None
-    a.validate()
+    assert a.validate() is None
 
 
 def test_inserted_objects_are_copies(model):

@@ -304,9 +304,13 @@ py::list Members(const cls_ClassMetadata& md) {
 // The description of a class for its docstring: its members with their types and literals.
 std::string ClassDoc(const cls_ClassMetadata& md) {
   std::string doc = std::string(md.ScriptName()) + "(**members): a " + md.Name().str() +
-                    " of the attribute library.\n\nMembers, by scripting name:\n";
+                    " of the attribute library.\n\nMembers, by scripting name, with their defaults:\n";
+  // The defaults, from an object the class makes itself.
+  cmd_OwnedObject def(md.CanConstruct() ? Guarded([&] { return md.NewDefault(); }) : nullptr, cmd_ObjectDeleter{&md});
   for (const auto& f : md.ScriptFields()) {
     doc += "    " + std::string(f.scriptName) + ": " + cls_AttrTypeName(f.type);
+    if (def && f.type != cls_AttrObject && f.type != cls_AttrObjectList)
+      doc += " = " + Guarded([&] { return cmd_MemberToJson(def.get(), f).dump(); });
     if (f.literals) {
       doc += f.type == cls_AttrEnum ? ", one of" : ", or one of";
       for (int i = 0; i < omu_LiteralCount(f.literals); ++i) doc += std::string(i ? ", " : " ") + '"' + f.literals[i].text + '"';

@@ -201,9 +201,11 @@ def test_dir_and_docstrings_list_members_types_and_literals():
         assert member in names
     doc = qa.AdaptiveMeshControl.__doc__
     assert doc.startswith("AdaptiveMeshControl(")
-    assert '    remapping: enumeration, one of "FIRST_ORDER_ADVECTION", "SECOND_ORDER_ADVECTION"\n' in doc
+    assert ('    remapping: enumeration = "SECOND_ORDER_ADVECTION", one of "FIRST_ORDER_ADVECTION", '
+            '"SECOND_ORDER_ADVECTION"\n') in doc
     assert '"STANDARD", "GEOMETRY_ENHANCED", "ANALYSIS_PRODUCT_DEFAULT"' in doc
-    assert "initialFeatureAngle: double" in doc
+    assert "    initialFeatureAngle: double = 30.0\n" in doc
+    assert "    meshConstraintAngle: double = 60.0\n" in doc
     doc = qa.TabularAmplitude.__doc__
     assert '"STEP", "TOTAL"' in doc
     assert "baselineCorrection: " in doc and "BaselineCorrection" in doc

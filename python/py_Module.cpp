@@ -122,7 +122,7 @@ Found Resolve(const Object& o, bool modify) {
   for (const auto& step : o.path) {
     const cls_ScriptField* field = f.md->FindScriptField(step.view());
     void* child = nullptr;
-    if (field && field->type == cls_AttrObject)
+    if (field && field->type == cls_AttrObject && field->declared)
       child = modify ? field->mutableChild(f.obj) : const_cast<void*>(field->child(f.obj));
     if (!child) cmd_Refuse("The member \"" + step.str() + "\" of " + cmd_ClassLabel(*f.md) + " holds no object");
     f = Found{child, &field->declared->ClassOf(child)};
@@ -180,8 +180,8 @@ py::object GetMember(const Object& o, const std::string& name) {
       if (f.type == cls_AttrObject) {
         const void* child = f.child(at.obj);
         if (!child) return py::none();
-        if (at.md && f.declared->ClassOf(child).AsRepository(child))
-          return FromJson(cmd_MemberToJson(at.obj, f));  // a container inside a detached object: its value
+        // A container inside a detached object (or a member of an unregistered class): its value.
+        if (!f.declared || f.declared->ClassOf(child).AsRepository(child)) return FromJson(cmd_MemberToJson(at.obj, f));
         Object c{nullptr, o.root, Append(o.path, name)};
         return Wrap(f.declared->ClassOf(child), std::move(c));
       }

@@ -1,0 +1,134 @@
+// Python values and the command layer's JSON, and the module's exceptions.
+#include <cstdint>
+#include <string>
+
+#include <nlohmann/json.hpp>
+#include <pybind11/eval.h>
+
+#include "python/py_Core.h"
+
+namespace qmxpy {
+
+namespace {
+
+// The exception classes by name.
+py::dict& Errors() {
+  static py::dict* classes = new py::dict();  // never destroyed: outlives the interpreter's teardown
+  return *classes;
+}
+
+}  // namespace
+
+void CreateErrors(py::module_& m) {
+  // Plain Python classes: the message is str(e), the system's kind, file, line and path are
+  // attributes. The lookup errors also derive from AttributeError and KeyError so that getattr()
+  // with a default, hasattr() and Mapping.get() behave as Python code expects.
+  py::dict scope;
+  scope["__builtins__"] = py::module_::import("builtins");
+  scope["__name__"] = m.attr("__name__");
+  py::exec(R"(
+class Error(Exception):
+    """An error of the attribute library: the system's exact message, its kind ("PrimException",
+    "CmdException", ...), the source file and line that reported it, and for a failed validation
+    of a repository or model the path of the first failing object."""
+    def __init__(self, message, kind="", file="", line=0, path=None):
+        super().__init__(message)
+        self.message = message
+        self.kind = kind
+        self.file = file
+        self.line = line
+        self.path = path
+    def __str__(self):
+        return self.message
+
+class ValidationError(Error):
+    """A rule of an object's validation failed (the module's fixed message)."""
+
+class CommandError(Error):
+    """The command layer or an enumeration refused a request; nothing was changed."""
+
+class MemberError(CommandError, AttributeError):
+    """An object has no member of that scripting name."""
+
+class NotFoundError(CommandError, KeyError):
+    """A repository or database holds nothing under that key."""
+)", scope);
+  for (const char* name : {"Error", "ValidationError", "CommandError", "MemberError", "NotFoundError"}) {
+    scope[name].attr("__module__") = m.attr("__name__");
+    m.attr(name) = scope[name];
+    Errors()[name] = scope[name];
+  }
+}
+
+void Raise(const std::string& kind, const std::string& message, const std::string& file, int line,
+           const cmd_Json& path, const char* flavour) {
+  const char* name = kind == "PrimException" ? "ValidationError" : kind == "CmdException" ? "CommandError" : "Error";
+  if (flavour && kind == "CmdException") name = flavour;
+  py::object cls = Errors()[name];
+  py::object err = cls(message, kind, file, line, path.is_null() ? py::object(py::none()) : FromJson(path));
+  PyErr_SetObject(cls.ptr(), err.ptr());
+  throw py::error_already_set();
+}
+
+void RaiseError(const cmd_Json& error, const char* flavour) {
+  const cmd_Json path = error.contains("path") ? error["path"] : cmd_Json();
+  Raise(error.value("kind", std::string()), error.value("message", std::string()), error.value("file", std::string()),
+        error.value("line", 0), path, flavour);
+}
+
+cmd_Json ToJson(py::handle value) {
+  if (value.is_none()) return nullptr;
+  if (py::isinstance<py::bool_>(value)) return value.cast<bool>();
+  if (py::isinstance<py::int_>(value)) {
+    try {
+      return value.cast<std::int64_t>();
+    } catch (const py::cast_error&) {
+      throw py::value_error("The integer " + py::str(value).cast<std::string>() + " is too large");
+    }
+  }
+  if (py::isinstance<py::float_>(value)) return value.cast<double>();
+  if (py::isinstance<py::str>(value)) return value.cast<std::string>();
+  if (IsObject(value)) return ObjectJson(value);
+  if (py::isinstance<py::dict>(value)) {
+    cmd_Json out = cmd_Json::object();
+    for (auto item : value.cast<py::dict>()) {
+      if (!py::isinstance<py::str>(item.first)) throw py::type_error("The keys of a mapping of values are names");
+      out[item.first.cast<std::string>()] = ToJson(item.second);
+    }
+    return out;
+  }
+  if (py::isinstance<py::sequence>(value) && !py::isinstance<py::bytes>(value)) {
+    cmd_Json out = cmd_Json::array();
+    for (auto item : value.cast<py::sequence>()) out.push_back(ToJson(item));
+    return out;
+  }
+  // Numbers of other kinds (numpy scalars, decimals) through their index or float form.
+  if (py::hasattr(value, "__index__")) return ToJson(py::reinterpret_steal<py::object>(PyNumber_Index(value.ptr())));
+  if (py::hasattr(value, "__float__")) return py::float_(py::reinterpret_borrow<py::object>(value)).cast<double>();
+  throw py::type_error("A value of type " + py::str(py::type::of(value).attr("__name__")).cast<std::string>() +
+                       " cannot be given to the attribute library");
+}
+
+py::object FromJson(const cmd_Json& value) {
+  switch (value.type()) {
+    case cmd_Json::value_t::null: return py::none();
+    case cmd_Json::value_t::boolean: return py::bool_(value.get<bool>());
+    case cmd_Json::value_t::number_integer: return py::int_(value.get<std::int64_t>());
+    case cmd_Json::value_t::number_unsigned: return py::int_(value.get<std::uint64_t>());
+    case cmd_Json::value_t::number_float: return py::float_(value.get<double>());
+    case cmd_Json::value_t::string: return py::str(value.get<std::string>());
+    case cmd_Json::value_t::array: {
+      py::list out;
+      for (const auto& e : value) out.append(FromJson(e));
+      return out;
+    }
+    case cmd_Json::value_t::object: {
+      py::dict out;
+      for (const auto& item : value.items()) out[py::str(item.key())] = FromJson(item.value());
+      return out;
+    }
+    default: return py::none();
+  }
+}
+
+}  // namespace qmxpy

@@ -1,0 +1,44 @@
+#pragma once
+// Shared parts of the Python module: conversions between Python values and the command layer's
+// JSON, and the module's exceptions. Only the module's own sources include this header, so that
+// pybind11 stays out of every library header.
+#include <string>
+
+#include <pybind11/pybind11.h>
+
+#include "command/cmd_Json.h"
+#include "platform/base/QMXBasException.h"
+
+namespace qmxpy {
+
+namespace py = pybind11;
+
+// Python values to JSON: None, bool, int, float, str, sequences, mappings, and objects of the
+// module (as their JSON form with their constructor name).
+cmd_Json ToJson(py::handle value);
+py::object FromJson(const cmd_Json& value);
+
+// The JSON form of an object of the module (bound or detached); null when `value` is none.
+bool IsObject(py::handle value);
+cmd_Json ObjectJson(py::handle value);
+
+// The module's exceptions, created at import.
+void CreateErrors(py::module_& m);
+// Raises the Python exception for an error of the command layer: a validation error for a
+// "PrimException", a command error for a "CmdException"; `flavour` picks a subclass that also is
+// an AttributeError ("member") or a KeyError ("key").
+[[noreturn]] void Raise(const std::string& kind, const std::string& message, const std::string& file, int line,
+                        const cmd_Json& path = nullptr, const char* flavour = nullptr);
+[[noreturn]] void RaiseError(const cmd_Json& error, const char* flavour = nullptr);
+
+// Runs fn, turning the library's exceptions into the module's.
+template <class F>
+auto Guarded(F&& fn, const char* flavour = nullptr) -> decltype(fn()) {
+  try {
+    return fn();
+  } catch (const QMXBasException& e) {
+    Raise(e.Kind(), e.Message(), e.File(), e.Line(), nullptr, flavour);
+  }
+}
+
+}  // namespace qmxpy

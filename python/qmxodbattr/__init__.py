@@ -1,0 +1,41 @@
+"""The attribute object model for model-building scripts.
+
+    from qmxodbattr import *
+    db = Database()
+    m = db.create_model("Model-1")
+    m.profiles["Rod-10"] = CircularProfile(r=10.0)
+    m.profiles["Rod-10"].validate()
+    db.save("model.db")
+
+Every class that scripts construct is a Python class of this module under its scripting
+constructor name, made at import from the class metadata of the library; its docstring and dir()
+list its members with their types and literals.
+"""
+from . import _core
+from ._core import (Database, Model, Repository, Object, Error, ValidationError, CommandError,
+                    MemberError, NotFoundError, constructors)
+
+__all__ = ["Database", "Model", "Repository", "Object", "Error", "ValidationError", "CommandError",
+           "MemberError", "NotFoundError", "constructors"]
+
+
+def _make_class(ctor):
+    members = tuple(_core.class_members(ctor))
+
+    def __init__(self, **values):
+        Object.__init__(self)
+        self._init_new(ctor, values)
+
+    __init__.__doc__ = _core.class_doc(ctor)
+    cls = type(ctor, (Object,), {"__init__": __init__, "__doc__": _core.class_doc(ctor),
+                                 "__module__": __name__, "__slots__": (), "scripting_members": members})
+    _core._register_class(ctor, cls)
+    return cls
+
+
+for _ctor in _core.constructors():
+    if _ctor in globals():
+        continue  # a constructor named like one of the module's own classes keeps the module's
+    globals()[_ctor] = _make_class(_ctor)
+    __all__.append(_ctor)
+del _ctor

@@ -13,7 +13,7 @@ void kopC_OrimTask::CowDtor(void* p) { cow_Destroy(static_cast<kopC_OrimTask*>(s
 // An abstract part of the family: its metadata lets readers and repositories treat the family
 // as one, and lists the attributes this part adds to the rows of every kind.
 void kopC_OrimTask::InitializeMetadata(cls_ClassRegistrar& registrar) {
-  auto* md = new cls_TypedMetadata<kopC_OrimTask>();
+  auto* md = new fw_ClassMetadata<kopC_OrimTask>();
   registrar.AddClassMD(md);
   md->AddDtor(&CowDtor);
   md->AddAttribute(cls_FieldHandle(8, "algorithm"), fw_Traits<kopC_AlgorithmEnm>::kType, 1, fw_Traits<kopC_AlgorithmEnm>::kCollection);

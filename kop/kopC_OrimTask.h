@@ -23,6 +23,8 @@ class kopC_OrimTask : public kopC_Task {
     });
   }
 
+  // Every member of the part and of its bases, for the scripting access of the metadata.
+  static constexpr auto Fields() { return OrimTaskFields(); }
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
   static void CowDtor(void* p);
   // A copy of the task as its own kind; a kind this module does not know is refused with code 1.

@@ -23,7 +23,7 @@ void kopC_Task::CowDtor(void* p) { cow_Destroy(static_cast<kopC_Task*>(static_ca
 // An abstract part of the family: its metadata lets readers and repositories treat the family
 // as one, and lists the attributes this part adds to the rows of every kind.
 void kopC_Task::InitializeMetadata(cls_ClassRegistrar& registrar) {
-  auto* md = new cls_TypedMetadata<kopC_Task>();
+  auto* md = new fw_ClassMetadata<kopC_Task>();
   registrar.AddClassMD(md);
   md->AddDtor(&CowDtor);
   md->AddAttribute(cls_FieldHandle(0, "suppressed"), fw_Traits<bool>::kType, 1, fw_Traits<bool>::kCollection);

@@ -34,6 +34,8 @@ class kopC_Task : public kopC_BaseOptimization {
     };
   }
 
+  // Every member of the part and of its bases, for the scripting access of the metadata.
+  static constexpr auto Fields() { return TaskFields(); }
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
   static void CowDtor(void* p);
   // Validates the items of the six containers against each other and against the task (its kind

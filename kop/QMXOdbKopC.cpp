@@ -3,22 +3,36 @@
 #include <iterator>
 
 #include "kop/kopC_BaseOptimization.h"
+#include "kop/kopC_BeadCyclicSymmetry.h"
+#include "kop/kopC_BeadFixedRegion.h"
+#include "kop/kopC_BeadFrozenArea.h"
+#include "kop/kopC_BeadGrowth.h"
+#include "kop/kopC_BeadPenetrationCheck.h"
+#include "kop/kopC_BeadPlanarSymmetry.h"
+#include "kop/kopC_BeadPointSymmetry.h"
+#include "kop/kopC_BeadRotationalSymmetry.h"
 #include "kop/kopC_BeadTask.h"
+#include "kop/kopC_BeadTranslationalSymmetry.h"
 #include "kop/kopC_CombinedTermDesignResponse.h"
 #include "kop/kopC_CombinedTermRequest.h"
 #include "kop/kopC_CombinedVariable.h"
 #include "kop/kopC_Constraint.h"
 #include "kop/kopC_ConstraintContainer.h"
+#include "kop/kopC_CyclicSymmetry.h"
 #include "kop/kopC_DemoldControl.h"
 #include "kop/kopC_DesignResponse.h"
 #include "kop/kopC_DesignResponseContainer.h"
+#include "kop/kopC_DistanceControl.h"
+#include "kop/kopC_DrillControl.h"
 #include "kop/kopC_FixedRegion.h"
 #include "kop/kopC_FrozenArea.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_GeometricRestrictionContainer.h"
+#include "kop/kopC_GrowthRestriction.h"
 #include "kop/kopC_Labels.h"
 #include "kop/kopC_LocalStopCondition.h"
 #include "kop/kopC_MemberSize.h"
+#include "kop/kopC_MemberSizeRange.h"
 #include "kop/kopC_Objective.h"
 #include "kop/kopC_ObjectiveFunction.h"
 #include "kop/kopC_ObjectiveFunctionContainer.h"
@@ -32,24 +46,43 @@
 #include "kop/kopC_OrimTask_1629.h"
 #include "kop/kopC_OrimTask_1859.h"
 #include "kop/kopC_OverhangControl.h"
+#include "kop/kopC_PenetrationCheck.h"
 #include "kop/kopC_PlanarSymmetry.h"
+#include "kop/kopC_PointSymmetry.h"
 #include "kop/kopC_Request.h"
 #include "kop/kopC_RibControl.h"
 #include "kop/kopC_RotationalSymmetry.h"
+#include "kop/kopC_ShapeCyclicSymmetry.h"
+#include "kop/kopC_ShapeDemoldControl.h"
+#include "kop/kopC_ShapeMemberSize.h"
+#include "kop/kopC_ShapePlanarSymmetry.h"
+#include "kop/kopC_ShapePointSymmetry.h"
+#include "kop/kopC_ShapeRotationalSymmetry.h"
 #include "kop/kopC_ShapeTask.h"
+#include "kop/kopC_ShapeTranslationalSymmetry.h"
 #include "kop/kopC_SingleTermDesignResponse.h"
 #include "kop/kopC_SingleTermRequest.h"
 #include "kop/kopC_SingleVariable.h"
+#include "kop/kopC_SizingClusterAreas.h"
+#include "kop/kopC_SizingCyclicSymmetry.h"
+#include "kop/kopC_SizingFrozenArea.h"
+#include "kop/kopC_SizingPlanarSymmetry.h"
+#include "kop/kopC_SizingPointSymmetry.h"
+#include "kop/kopC_SizingRotationalSymmetry.h"
 #include "kop/kopC_SizingTask.h"
 #include "kop/kopC_SlideRegion.h"
+#include "kop/kopC_StampControl.h"
 #include "kop/kopC_StepOption.h"
 #include "kop/kopC_StopCondition.h"
 #include "kop/kopC_StopConditionContainer.h"
 #include "kop/kopC_TCWrapper.h"
 #include "kop/kopC_Task.h"
 #include "kop/kopC_TaskContainer.h"
+#include "kop/kopC_ThicknessControl.h"
 #include "kop/kopC_TopologyTask.h"
 #include "kop/kopC_TopologyTask_1554.h"
+#include "kop/kopC_TranslationalSymmetry.h"
+#include "kop/kopC_TurnControl.h"
 #include "kop/kopC_Variable.h"
 #include "kop/kopC_VariableContainer.h"
 #include "platform/base/bas_StartCount.h"
@@ -136,7 +169,7 @@ constexpr typ_ArchCompRecord kArchRows[] = {
     {7, 1, 0, "kopC_VariableContainerIMPLSC"},
     {7, 1, 0, "kopC_VariableContainerShortcut"},
     {7, 67, 932, "kopC_VariableContainerInModelShortcut"},
-    {7, 1, 0, "kopC_BaseVariableIMPLSC"},
+    {7, 1, 0, "kopC_MemberSizeRange"},
     {7, 1, 0, "kopC_BaseVariableShortcut"},
     {7, 1, 0, "kopC_GeometricRestriction"},
     {7, 1, 10, "kopC_GeometricRestrictionContainer"},
@@ -188,10 +221,10 @@ constexpr typ_ArchCompRecord kArchRows[] = {
     {7, 1, 0, "kopC_ShortenedTaskTypeLabelMap"},
     {7, 1, 0, "kopC_BeadTask"},
     {7, 1, 0, "kopC_VariableSpecLabelMap"},
-    {7, 1, 0, "kopC_SingleTermDesignResponseIMPLSC"},
-    {7, 1, 0, "kopC_CombinedTermDesignResponseIMPLSC"},
-    {7, 1, 0, "kopC_LocalStopConditionIMPLSC"},
-    {7, 1, 0, "kopC_ShapeTaskIMPLSC"},
+    {7, 1, 0, "kopC_TranslationalSymmetry"},
+    {7, 1, 0, "kopC_ShapeTranslationalSymmetry"},
+    {7, 1, 0, "kopC_BeadTranslationalSymmetry"},
+    {7, 1, 0, "kopC_DistanceControl"},
 };
 static_assert(std::size(kArchRows) == 126);
 }  // namespace
@@ -251,6 +284,39 @@ void QMXOdbKopC_initialize(int& tally) {
   metadata.initClassMetadata(&kopC_RotationalSymmetry::InitializeMetadata, 7);
   metadata.initClassMetadata(&kopC_OverhangControl::InitializeMetadata, 7);
   metadata.initClassMetadata(&kopC_RibControl::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_PointSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_CyclicSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_StampControl::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_TurnControl::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_DrillControl::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_ShapeDemoldControl::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_ShapeMemberSize::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_ShapePlanarSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_ShapePointSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_ShapeRotationalSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_ShapeCyclicSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_GrowthRestriction::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_PenetrationCheck::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_ThicknessControl::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_SizingFrozenArea::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_SizingPlanarSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_SizingPointSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_SizingRotationalSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_SizingCyclicSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_BeadFixedRegion::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_BeadFrozenArea::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_BeadGrowth::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_BeadPlanarSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_BeadPointSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_BeadRotationalSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_BeadCyclicSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_SizingClusterAreas::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_BeadPenetrationCheck::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_TranslationalSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_ShapeTranslationalSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_BeadTranslationalSymmetry::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_DistanceControl::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kopC_MemberSizeRange::InitializeMetadata, 7);
   metadata.initClassMetadata(&kopC_ConstraintContainer::InitializeMetadata, 3);
   metadata.initClassMetadata(&kopC_DesignResponseContainer::InitializeMetadata, 3);
   metadata.initClassMetadata(&kopC_GeometricRestrictionContainer::InitializeMetadata, 3);

@@ -1,20 +1,56 @@
 #include "kop/kopC_Task.h"
 
 #include "framework/fw_FieldTable.h"
+#include "kop/kopC_BeadCyclicSymmetry.h"
+#include "kop/kopC_BeadFixedRegion.h"
+#include "kop/kopC_BeadFrozenArea.h"
+#include "kop/kopC_BeadGrowth.h"
+#include "kop/kopC_BeadPenetrationCheck.h"
+#include "kop/kopC_BeadPlanarSymmetry.h"
+#include "kop/kopC_BeadPointSymmetry.h"
+#include "kop/kopC_BeadRotationalSymmetry.h"
 #include "kop/kopC_BeadTask.h"
+#include "kop/kopC_BeadTranslationalSymmetry.h"
 #include "kop/kopC_CombinedTermDesignResponse.h"
+#include "kop/kopC_CyclicSymmetry.h"
 #include "kop/kopC_DemoldControl.h"
+#include "kop/kopC_DistanceControl.h"
+#include "kop/kopC_DrillControl.h"
 #include "kop/kopC_FixedRegion.h"
+#include "kop/kopC_GrowthRestriction.h"
 #include "kop/kopC_LocalStopCondition.h"
 #include "kop/kopC_MemberSize.h"
+#include "kop/kopC_MemberSizeRange.h"
 #include "kop/kopC_OrimConstraint.h"
 #include "kop/kopC_OrimObjectiveFunction.h"
 #include "kop/kopC_OverhangControl.h"
+#include "kop/kopC_PenetrationCheck.h"
+#include "kop/kopC_PlanarSymmetry.h"
+#include "kop/kopC_PointSymmetry.h"
 #include "kop/kopC_RibControl.h"
+#include "kop/kopC_RotationalSymmetry.h"
+#include "kop/kopC_ShapeCyclicSymmetry.h"
+#include "kop/kopC_ShapeDemoldControl.h"
+#include "kop/kopC_ShapeMemberSize.h"
+#include "kop/kopC_ShapePlanarSymmetry.h"
+#include "kop/kopC_ShapePointSymmetry.h"
+#include "kop/kopC_ShapeRotationalSymmetry.h"
 #include "kop/kopC_ShapeTask.h"
+#include "kop/kopC_ShapeTranslationalSymmetry.h"
 #include "kop/kopC_SingleTermDesignResponse.h"
+#include "kop/kopC_SizingClusterAreas.h"
+#include "kop/kopC_SizingCyclicSymmetry.h"
+#include "kop/kopC_SizingFrozenArea.h"
+#include "kop/kopC_SizingPlanarSymmetry.h"
+#include "kop/kopC_SizingPointSymmetry.h"
+#include "kop/kopC_SizingRotationalSymmetry.h"
+#include "kop/kopC_SizingTask.h"
 #include "kop/kopC_SlideRegion.h"
+#include "kop/kopC_StampControl.h"
+#include "kop/kopC_ThicknessControl.h"
 #include "kop/kopC_TopologyTask.h"
+#include "kop/kopC_TranslationalSymmetry.h"
+#include "kop/kopC_TurnControl.h"
 #include "kop/kopC_assert.h"
 
 kopC_Task::kopC_Task(const cls_ReadVisitor& r) : kopC_BaseOptimization(r) {}
@@ -39,24 +75,59 @@ void kopC_Task::InitializeMetadata(cls_ClassRegistrar& registrar) {
 namespace {
 bool IsTopology(unsigned kind) { return kind == kopC_TopologyTask::TypeId(); }
 
-// The kinds of task a geometric restriction may serve.
+// The kind of task each geometric restriction serves; a frozen area serves every kind.
+struct Fit {
+  unsigned restriction;
+  unsigned kind;
+};
+constexpr Fit kFits[] = {
+    {kopC_MemberSize::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_MemberSizeRange::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_DemoldControl::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_OverhangControl::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_PlanarSymmetry::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_PointSymmetry::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_RotationalSymmetry::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_CyclicSymmetry::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_TranslationalSymmetry::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_StampControl::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_TurnControl::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_DrillControl::TypeId(), kopC_TopologyTask::TypeId()},
+    {kopC_FixedRegion::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_SlideRegion::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_ShapeDemoldControl::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_ShapeMemberSize::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_ShapePlanarSymmetry::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_ShapePointSymmetry::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_ShapeRotationalSymmetry::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_ShapeCyclicSymmetry::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_ShapeTranslationalSymmetry::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_GrowthRestriction::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_PenetrationCheck::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_DistanceControl::TypeId(), kopC_ShapeTask::TypeId()},
+    {kopC_ThicknessControl::TypeId(), kopC_SizingTask::TypeId()},
+    {kopC_SizingFrozenArea::TypeId(), kopC_SizingTask::TypeId()},
+    {kopC_SizingPlanarSymmetry::TypeId(), kopC_SizingTask::TypeId()},
+    {kopC_SizingPointSymmetry::TypeId(), kopC_SizingTask::TypeId()},
+    {kopC_SizingRotationalSymmetry::TypeId(), kopC_SizingTask::TypeId()},
+    {kopC_SizingCyclicSymmetry::TypeId(), kopC_SizingTask::TypeId()},
+    {kopC_SizingClusterAreas::TypeId(), kopC_SizingTask::TypeId()},
+    {kopC_BeadFixedRegion::TypeId(), kopC_BeadTask::TypeId()},
+    {kopC_BeadFrozenArea::TypeId(), kopC_BeadTask::TypeId()},
+    {kopC_BeadGrowth::TypeId(), kopC_BeadTask::TypeId()},
+    {kopC_BeadPlanarSymmetry::TypeId(), kopC_BeadTask::TypeId()},
+    {kopC_BeadPointSymmetry::TypeId(), kopC_BeadTask::TypeId()},
+    {kopC_BeadRotationalSymmetry::TypeId(), kopC_BeadTask::TypeId()},
+    {kopC_BeadCyclicSymmetry::TypeId(), kopC_BeadTask::TypeId()},
+    {kopC_BeadTranslationalSymmetry::TypeId(), kopC_BeadTask::TypeId()},
+    {kopC_BeadPenetrationCheck::TypeId(), kopC_BeadTask::TypeId()},
+    {kopC_RibControl::TypeId(), kopC_BeadTask::TypeId()},
+};
+
 bool RestrictionFits(unsigned restriction, unsigned kind) {
-  const unsigned topology = kopC_TopologyTask::TypeId(), shape = kopC_ShapeTask::TypeId(),
-                 bead = kopC_BeadTask::TypeId();
-  switch (restriction) {
-    case kopC_MemberSize::TypeId():
-    case kopC_DemoldControl::TypeId():
-    case kopC_OverhangControl::TypeId():
-      return kind == topology;
-    case kopC_FixedRegion::TypeId():
-      return kind == shape || kind == bead;
-    case kopC_SlideRegion::TypeId():
-      return kind == shape;
-    case kopC_RibControl::TypeId():
-      return kind == bead;
-    default:
-      return true;
-  }
+  for (const Fit& f : kFits)
+    if (f.restriction == restriction) return f.kind == kind;
+  return true;
 }
 
 // The identifier a constraint's design response reads, or empty for a combined term.

@@ -1,6 +1,16 @@
 // Validation of the items a task holds, alone and as parts of their task.
 #include "kop/kopC_CombinedTermDesignResponse.h"
+#include "kop/kopC_BeadPlanarSymmetry.h"
+#include "kop/kopC_CyclicSymmetry.h"
 #include "kop/kopC_DemoldControl.h"
+#include "kop/kopC_DrillControl.h"
+#include "kop/kopC_GrowthRestriction.h"
+#include "kop/kopC_PlanarSymmetry.h"
+#include "kop/kopC_ShapeDemoldControl.h"
+#include "kop/kopC_ShapeMemberSize.h"
+#include "kop/kopC_SizingPlanarSymmetry.h"
+#include "kop/kopC_ThicknessControl.h"
+#include "kop/kopC_TranslationalSymmetry.h"
 #include "kop/kopC_FixedRegion.h"
 #include "kop/kopC_FrozenArea.h"
 #include "kop/kopC_LocalStopCondition.h"
@@ -287,6 +297,64 @@ TEST(KopTaskContents, LocalStopConditionsBelongToShapeTasks) {
   kopC_RibControl rib;
   shape.GetGeometricRestrictionContainer().Insert("Rib", rib);
   EXPECT_EQ(kop_Failure([&] { shape.AssertValid(); }),
+            "The specified geometric restriction cannot be used with this type of Task");
+}
+
+}  // namespace
+
+namespace {
+
+TEST(KopRestrictions, KindsOfEveryTaskAndTheirRules) {
+  kop_Start();
+  kopC_GrowthRestriction growth;
+  EXPECT_EQ(kop_Failure([&] { growth.AssertValid(); }), "Either growth or shrink value must be specified.");
+  growth.SetShrink(-1);
+  EXPECT_EQ(kop_Failure([&] { growth.AssertValid(); }), "Shrink value size must be greater than or equal to zero.");
+  growth.SetShrink(0), growth.SetGrowth(-1);
+  EXPECT_EQ(kop_Failure([&] { growth.AssertValid(); }), "Growth value must be greater than or equal to zero.");
+  kopC_ThicknessControl thickness;
+  EXPECT_EQ(kop_Failure([&] { thickness.AssertValid(); }),
+            "At least one of the thickness restriction values need to be specified to create thickness control restriction.");
+  thickness.SetMaxThickness(0);
+  EXPECT_EQ(kop_Failure([&] { thickness.AssertValid(); }), "Maximum thickness must be greater than zero.");
+  kopC_ShapeDemoldControl demold;
+  demold.SetDrawAngle(45);
+  EXPECT_EQ(kop_Failure([&] { demold.AssertValid(); }),
+            "The draw angle must be greater than or equal to zero degrees and less than 45 degrees.");
+  kopC_ShapeMemberSize size;
+  size.SetSizeRestriction(kopC_ShapeMemberSize::SizeRestrictionEnm::NONE);
+  EXPECT_EQ(kop_Failure([&] { size.AssertValid(); }), "The size restriction must be either minimum or maximum.");
+  kopC_CyclicSymmetry cyclic;
+  cyclic.SetAngle(360);
+  EXPECT_EQ(kop_Failure([&] { cyclic.AssertValid(); }),
+            "The angle must be greater than or equal to zero and less than 360 degrees.");
+  kopC_TranslationalSymmetry translation;
+  translation.SetTranslation(0);
+  EXPECT_EQ(kop_Failure([&] { translation.AssertValid(); }), "The translation cannot be zero.");
+  kopC_DrillControl drill;
+  drill.SetTechnique(kopC_DrillControl::TechniqueEnm::POINT);
+  EXPECT_EQ(kop_Failure([&] { drill.AssertValid(); }),
+            "When using the point technique you must specify a region that contains a vertex.");
+
+  // Each kind serves its own task; a frozen area serves all.
+  kopC_SizingTask sizing;
+  sizing.GetGeometricRestrictionContainer().Insert("Thickness", kopC_ThicknessControl());
+  EXPECT_EQ(kop_Failure([&] { sizing.AssertValid(); }),
+            "At least one of the thickness restriction values need to be specified to create thickness control restriction.");
+  kopC_ThicknessControl bounded;
+  bounded.SetMinThickness(1);
+  sizing.GetGeometricRestrictionContainer().Insert("Thickness", bounded);
+  sizing.GetGeometricRestrictionContainer().Insert("Frozen", kopC_FrozenArea());
+  sizing.GetGeometricRestrictionContainer().Insert("Symmetry", kopC_SizingPlanarSymmetry());
+  EXPECT_EQ(kop_Failure([&] { sizing.AssertValid(); }), "");
+  sizing.GetGeometricRestrictionContainer().Insert("Topology-Symmetry", kopC_PlanarSymmetry());
+  EXPECT_EQ(kop_Failure([&] { sizing.AssertValid(); }),
+            "The specified geometric restriction cannot be used with this type of Task");
+  kopC_TopologyTask topology;
+  topology.GetGeometricRestrictionContainer().Insert("Symmetry", kopC_PlanarSymmetry());
+  EXPECT_EQ(kop_Failure([&] { topology.AssertValid(); }), "");
+  topology.GetGeometricRestrictionContainer().Insert("Bead-Symmetry", kopC_BeadPlanarSymmetry());
+  EXPECT_EQ(kop_Failure([&] { topology.AssertValid(); }),
             "The specified geometric restriction cannot be used with this type of Task");
 }
 

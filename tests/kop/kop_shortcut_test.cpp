@@ -19,6 +19,7 @@
 #include "platform/base/typ_ArchCompTable.h"
 #include "platform/model/ddr_Model.h"
 #include "platform/model/omu_ChangeHistory.h"
+#include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/persist/cls_Record.h"
 #include "tests/kop/kop_test.h"
 
@@ -127,6 +128,31 @@ TEST_F(KopShortcut, WritesItsPathAndIsRebuiltFromTheRecord) {
   EXPECT_EQ(kopC_BaseVariableShortcut::Ctor(cls_RecordReader(cls_ToRecord(variable))).Path(), variable.Path());
   // A response shortcut record is not a constraint shortcut.
   EXPECT_THROW(kopC_ConstraintShortcut::Ctor(cls_RecordReader(rec)), nex_CmdError);
+}
+
+}  // namespace
+
+namespace {
+
+// Every registered class of the module has the type id of its row, and the task kinds keep the
+// ids their stored records have always had.
+TEST(KopArchitecture, RegisteredClassesSitAtTheirRows) {
+  kop_Start();
+  const typ_ArchCompEntry entry = kopC_ArchEntry();
+  int registered = 0;
+  for (int row = 1; row < entry.Count(); ++row) {
+    const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByName(entry.Row(row).name);
+    if (!md) continue;
+    ++registered;
+    EXPECT_EQ(md->TypeId(), (932u << 16) | static_cast<unsigned>(row)) << entry.Row(row).name;
+  }
+  EXPECT_EQ(registered, 77);  // 69 attribute classes, 7 containers and the wrapper
+  EXPECT_EQ(entry.RowOf("kopC_Task"), 4);
+  EXPECT_EQ(entry.RowOf("kopC_OrimTask"), 7);
+  EXPECT_EQ(entry.RowOf("kopC_TopologyTask"), 8);
+  EXPECT_EQ(entry.RowOf("kopC_ShapeTask"), 9);
+  EXPECT_EQ(entry.RowOf("kopC_SizingTask"), 0x69);
+  EXPECT_EQ(entry.RowOf("kopC_BeadTask"), 0x78);
 }
 
 }  // namespace

@@ -209,3 +209,55 @@ TEST(KopUpgrade, EachConversionFunction) {
 }
 
 }  // namespace
+
+namespace {
+
+std::vector<std::string> order;
+void* Mark(const dbc_Row&, dbc_Row&, int arg) {
+  order.push_back(std::to_string(arg));
+  return nullptr;
+}
+
+// The driver runs the steps of a base class over the rows of its derived classes: each part from
+// the last of its layouts not above the stored version, in database-version order, the base's
+// step first where both reach the same version.
+TEST(KopUpgrade, BaseStepsRunOverDerivedRowsInVersionOrder) {
+  kop_Start();
+  dbc_DatabaseConverter steps;
+  steps.GetConverter(1562).Upgrade("kopC_OrimTask", kopC_OrimTask::TypeId(), 1554).BindConversionFunction(&Mark, 1562);
+  steps.GetConverter(1629).Upgrade("kopC_OrimTask", kopC_OrimTask::TypeId(), 1562).BindConversionFunction(&Mark, 1629);
+  steps.GetConverter(1629).Upgrade("kopC_TopologyTask", kopC_TopologyTask::TypeId(), 1554).BindConversionFunction(&Mark, -1629);
+  steps.GetConverter(1859).Upgrade("kopC_OrimTask", kopC_OrimTask::TypeId(), 1629).BindConversionFunction(&Mark, 1859);
+  steps.GetConverter(2204).Upgrade("kopC_OrimTask", kopC_OrimTask::TypeId(), 1859).BindConversionFunction(&Mark, 2204);
+  const dbc_UpgradeDriver driver(steps);
+  struct Case {
+    const char* cls;
+    int stored;
+    std::vector<std::string> ran;
+  };
+  for (const Case& c : {Case{"kopC_TopologyTask", 1554, {"1562", "1629", "-1629", "1859", "2204"}},
+                        Case{"kopC_TopologyTask", 1562, {"1629", "-1629", "1859", "2204"}},
+                        Case{"kopC_TopologyTask", 1600, {"1629", "-1629", "1859", "2204"}},
+                        Case{"kopC_TopologyTask", 1629, {"1859", "2204"}},
+                        Case{"kopC_TopologyTask", 2204, {}},
+                        Case{"kopC_ShapeTask", 1555, {"1562", "1629", "1859", "2204"}},
+                        Case{"kopC_ShapeTask", 1859, {"2204"}}}) {
+    SCOPED_TRACE(std::string(c.cls) + " " + std::to_string(c.stored));
+    order.clear();
+    EXPECT_TRUE(driver.HasPath(c.cls, c.stored, 2204));
+    cls_Record row;
+    driver.Upgrade(c.cls, c.stored, 2204, row);
+    EXPECT_EQ(order, c.ran);
+  }
+  EXPECT_FALSE(driver.HasPath("kopC_TopologyTask", 1553, 2204));
+  // A chain with a missing step of the base leaves the derived rows without a path.
+  dbc_DatabaseConverter gap;
+  gap.GetConverter(1562).Upgrade("kopC_OrimTask", kopC_OrimTask::TypeId(), 1554).BindConversionFunction(&Mark, 1562);
+  gap.GetConverter(2204).Upgrade("kopC_OrimTask", kopC_OrimTask::TypeId(), 1859).BindConversionFunction(&Mark, 2204);
+  const dbc_UpgradeDriver broken(gap);
+  EXPECT_FALSE(broken.HasPath("kopC_TopologyTask", 1554, 2204));
+  EXPECT_FALSE(broken.HasPath("kopC_TopologyTask", 1700, 2204));
+  EXPECT_TRUE(broken.HasPath("kopC_TopologyTask", 1859, 2204));
+}
+
+}  // namespace

@@ -92,3 +92,86 @@ TEST_F(KopCommand, ScriptingNamesOfTheTopologyTask) {
 }
 
 }  // namespace
+
+namespace {
+
+// Every geometric restriction is built by its scripting name in a task of its own kind, where it
+// validates once its required values are given, and is refused in a task of another kind.
+TEST(KopCommandRestrictions, EachKindByItsScriptingNameInItsOwnTask) {
+  kop_Start();
+  struct Case {
+    const char* type;
+    const char* task;
+    const char* values;
+  };
+  const Case cases[] = {
+      {"FrozenArea", "TopologyTask", "{}"},
+      {"TopologyMemberSize", "TopologyTask", "{}"},
+      {"TopologyMemberSizeRange", "TopologyTask", R"({"minWidth":1})"},
+      {"TopologyDemoldControl", "TopologyTask", "{}"},
+      {"TopologyOverhangControl", "TopologyTask", "{}"},
+      {"PlanarSymmetry", "TopologyTask", R"({"axis":"AXIS_2"})"},
+      {"PointSymmetry", "TopologyTask", "{}"},
+      {"RotationalSymmetry", "TopologyTask", "{}"},
+      {"CyclicSymmetry", "TopologyTask", "{}"},
+      {"TranslationalSymmetry", "TopologyTask", "{}"},
+      {"StampControl", "TopologyTask", "{}"},
+      {"TurnControl", "TopologyTask", "{}"},
+      {"DrillControl", "TopologyTask", "{}"},
+      {"ShapeFixedRegion", "ShapeTask", R"({"u3":true})"},
+      {"SlideRegion", "ShapeTask", "{}"},
+      {"ShapeDemoldControl", "ShapeTask", "{}"},
+      {"ShapeMemberSize", "ShapeTask", "{}"},
+      {"ShapePlanarSymmetry", "ShapeTask", "{}"},
+      {"ShapePointSymmetry", "ShapeTask", "{}"},
+      {"ShapeRotationalSymmetry", "ShapeTask", "{}"},
+      {"ShapeCyclicSymmetry", "ShapeTask", "{}"},
+      {"ShapeTranslationalSymmetry", "ShapeTask", "{}"},
+      {"GrowthRestriction", "ShapeTask", R"({"growth":1})"},
+      {"PenetrationCheck", "ShapeTask", "{}"},
+      {"DistanceControl", "ShapeTask", "{}"},
+      {"ThicknessControl", "SizingTask", R"({"maxThickness":3})"},
+      {"SizingFrozenArea", "SizingTask", "{}"},
+      {"SizingPlanarSymmetry", "SizingTask", "{}"},
+      {"SizingPointSymmetry", "SizingTask", "{}"},
+      {"SizingRotationalSymmetry", "SizingTask", "{}"},
+      {"SizingCyclicSymmetry", "SizingTask", "{}"},
+      {"SizingClusterAreas", "SizingTask", "{}"},
+      {"BeadFixedRegion", "BeadTask", R"({"u1":true})"},
+      {"BeadFrozenArea", "BeadTask", "{}"},
+      {"BeadGrowth", "BeadTask", R"({"shrink":0.5})"},
+      {"BeadPlanarSymmetry", "BeadTask", "{}"},
+      {"BeadPointSymmetry", "BeadTask", "{}"},
+      {"BeadRotationalSymmetry", "BeadTask", "{}"},
+      {"BeadCyclicSymmetry", "BeadTask", "{}"},
+      {"BeadTranslationalSymmetry", "BeadTask", "{}"},
+      {"BeadPenetrationCheck", "BeadTask", "{}"},
+      {"BeadRibControl", "BeadTask", "{}"},
+  };
+  cmd_Session s;
+  auto run = [&](const std::string& line) { return s.ExecuteLine(line); };
+  ASSERT_TRUE(run(R"({"op":"create","path":["M"]})")["ok"].get<bool>());
+  for (const char* kind : {"TopologyTask", "ShapeTask", "SizingTask", "BeadTask"})
+    ASSERT_TRUE(run(std::string(R"({"op":"create","path":["M","optimizationTasks",")") + kind + R"("],"type":")" + kind +
+                    "\"}")["ok"]
+                    .get<bool>());
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.type);
+    const std::string own = std::string(R"(["M","optimizationTasks",")") + c.task + R"(","geometricRestrictions","R"])";
+    cmd_Json r = run(R"({"op":"create","path":)" + own + R"(,"type":")" + c.type + R"(","values":)" + c.values + "}");
+    ASSERT_TRUE(r["ok"].get<bool>()) << r.dump();
+    r = run(std::string(R"({"op":"validate","path":["M","optimizationTasks",")") + c.task + "\"]}");
+    EXPECT_TRUE(r["ok"].get<bool>()) << r.dump();
+    ASSERT_TRUE(run(R"({"op":"delete","path":)" + own + "}")["ok"].get<bool>());
+    // In a task of another kind (every kind but a frozen area's fits one kind only).
+    const char* other = std::string(c.task) == "BeadTask" ? "SizingTask" : "BeadTask";
+    const std::string foreign = std::string(R"(["M","optimizationTasks",")") + other + R"(","geometricRestrictions","R"])";
+    ASSERT_TRUE(run(R"({"op":"create","path":)" + foreign + R"(,"type":")" + c.type + R"(","values":)" + c.values + "}")["ok"].get<bool>());
+    r = run(std::string(R"({"op":"validate","path":["M","optimizationTasks",")") + other + "\"]}");
+    if (std::string(c.type) == "FrozenArea") EXPECT_TRUE(r["ok"].get<bool>()) << r.dump();
+    else EXPECT_EQ(r["error"]["message"], "The specified geometric restriction cannot be used with this type of Task");
+    ASSERT_TRUE(run(R"({"op":"delete","path":)" + foreign + "}")["ok"].get<bool>());
+  }
+}
+
+}  // namespace

@@ -1,6 +1,10 @@
 #include "platform/persist/dbc_Converter.h"
 
+#include <algorithm>
+
 #include "platform/base/nex_Exception.h"
+#include "platform/persist/cls_ClassMetadata.h"
+#include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/base/omi_Singleton.h"
 
 // --- rows -------------------------------------------------------------------------------------
@@ -97,28 +101,87 @@ const dbc_ClassRename* dbc_UpgradeDriver::RenameOf(const std::string& oldName, i
   return it == renames_.end() ? nullptr : it->second;
 }
 
-bool dbc_UpgradeDriver::HasPath(const std::string& className, int v, int current) const {
-  auto cls = steps_.find(className);
-  while (v < current) {
-    if (cls == steps_.end()) return false;
-    auto it = cls->second.find(v);
-    if (it == cls->second.end() || it->second->Target() <= v) return false;
-    v = it->second->Target();
+// The classes with steps that the class derives from, bases first (a class derives from more of
+// the others the deeper it sits).
+namespace {
+std::vector<std::string> BasesWithSteps(const std::string& className,
+                                        const std::map<std::string, std::map<int, const dbc_ClassConverter*>>& steps) {
+  const cls_ClassRegistrar& registrar = cls_ClassRegistrar::Instance();
+  const cls_ClassMetadata* cls = registrar.ByName(className);
+  std::vector<std::pair<int, std::string>> bases;
+  if (!cls) return {};
+  for (const auto& [name, byFrom] : steps) {
+    if (name == className) continue;
+    const cls_ClassMetadata* base = registrar.ByName(name);
+    if (!base || !cls->IsA(*base)) continue;
+    int depth = 0;
+    for (const auto& [other, unused] : steps)
+      if (const cls_ClassMetadata* o = registrar.ByName(other); o && other != name && base->IsA(*o)) ++depth;
+    bases.emplace_back(depth, name);
   }
-  return v == current;
+  std::sort(bases.begin(), bases.end());
+  std::vector<std::string> out;
+  for (auto& b : bases) out.push_back(std::move(b.second));
+  return out;
+}
+}  // namespace
+
+bool dbc_UpgradeDriver::Plan(const std::string& className, int stored, int current,
+                             std::vector<const dbc_ClassConverter*>& out) const {
+  out.clear();
+  std::vector<std::string> parts = BasesWithSteps(className, steps_);
+  auto own = steps_.find(className);
+  if (parts.empty()) {
+    // One part: the chain starts exactly at the stored version.
+    int v = stored;
+    while (v < current) {
+      if (own == steps_.end()) return false;
+      auto it = own->second.find(v);
+      if (it == own->second.end() || it->second->Target() <= v) return false;
+      out.push_back(it->second);
+      v = it->second->Target();
+    }
+    return v == current;
+  }
+  if (own != steps_.end()) parts.push_back(className);
+  // rank of the part (bases first) for steps that share a target
+  std::vector<std::pair<std::pair<int, std::size_t>, const dbc_ClassConverter*>> planned;
+  for (std::size_t rank = 0; rank < parts.size(); ++rank) {
+    const auto& byFrom = steps_.at(parts[rank]);
+    // the part's layout at the stored version: the last of its versions not above it
+    auto it = byFrom.upper_bound(stored);
+    int lastTarget = byFrom.rbegin()->second->Target();
+    if (stored >= lastTarget) continue;  // the part is at its current layout already
+    if (it == byFrom.begin()) return false;  // older than every layout of the part
+    --it;
+    if (it->second->Target() <= stored) return false;  // between two layouts without a step
+    int v = it->first;
+    while (v < lastTarget) {
+      auto step = byFrom.find(v);
+      if (step == byFrom.end() || step->second->Target() <= v || step->second->Target() > current) return false;
+      planned.push_back({{step->second->Target(), rank}, step->second});
+      v = step->second->Target();
+    }
+  }
+  std::stable_sort(planned.begin(), planned.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  for (const auto& p : planned) out.push_back(p.second);
+  return stored <= current;
+}
+
+bool dbc_UpgradeDriver::HasPath(const std::string& className, int v, int current) const {
+  std::vector<const dbc_ClassConverter*> plan;
+  return Plan(className, v, current, plan);
 }
 
 void dbc_UpgradeDriver::Upgrade(const std::string& className, int stored, int current, cls_Record& row) const {
   if (stored > current)
     nex_ThrowCmd("Class " + className + " is stored at version " + std::to_string(stored) +
                  ", newer than this library's version " + std::to_string(current));
-  if (!HasPath(className, stored, current))
+  std::vector<const dbc_ClassConverter*> plan;
+  if (!Plan(className, stored, current, plan))
     nex_ThrowCmd("Class " + className + " is stored at version " + std::to_string(stored) +
                  ", from which no chain of upgrade steps reaches its current version " + std::to_string(current));
-  const auto& byFrom = steps_.at(className);
-  int v = stored;
-  while (v != current) {
-    const dbc_ClassConverter* step = byFrom.at(v);
+  for (const dbc_ClassConverter* step : plan) {
     if (dbc_ConversionFn fn = step->Function()) {
       cls_Record next = row;  // the new row starts as the old one; the function changes it
       const cls_Record& old = row;
@@ -127,6 +190,5 @@ void dbc_UpgradeDriver::Upgrade(const std::string& className, int stored, int cu
       fn(oldRow, newRow, step->Arg());
       row = std::move(next);
     }
-    v = step->Target();
   }
 }

@@ -131,6 +131,10 @@ class dbc_DatabaseConverter {
 
 // Runs the registered steps over rows. Rows of a class stored at version v pass through every
 // step from v upward in database-version order until they reach the class's current version.
+// A class whose bases have steps of their own holds their parts in its rows: its stored version
+// is then a database version, each part (the class itself and every base with steps) is at the
+// last of its own layouts not above it, and the steps of all parts that lie above it run in
+// database-version order, a base's step before its derived class's step at the same version.
 class dbc_UpgradeDriver {
  public:
   // Collects the steps of every registered old class version.
@@ -148,6 +152,8 @@ class dbc_UpgradeDriver {
 
  private:
   void Load(const dbc_DatabaseConverter& steps);
+  // The steps to run, in order, or false when some part has no chain from its stored layout.
+  bool Plan(const std::string& className, int stored, int current, std::vector<const dbc_ClassConverter*>& out) const;
   // per class: steps by from-version
   std::map<std::string, std::map<int, const dbc_ClassConverter*>> steps_;
   std::map<std::pair<std::string, int>, const dbc_ClassRename*> renames_;

@@ -1,0 +1,49 @@
+#pragma once
+// Keeps the nodes of a bead design from moving through a surface.
+#include <cstdint>
+#include <tuple>
+
+#include "kop/kopC_GeometricRestriction.h"
+#include "kop/kopC_Enums.h"
+#include "platform/model/rgnC_Region.h"
+
+class kopC_BeadPenetrationCheck : public kopC_GeometricRestriction {
+ public:
+  using BaseClass = kopC_GeometricRestriction;
+  using RootClass = kopC_GeometricRestriction;
+  static constexpr const char* kClassName = "kopC_BeadPenetrationCheck";
+  static constexpr const char* kScriptName = "BeadPenetrationCheck";
+  static constexpr int kVersion = 1554;
+  static constexpr unsigned TypeId() { return fw_TypeId(932, 117); }
+  // Persistent fields in write order.
+  static constexpr auto Fields() {
+    using C = kopC_BeadPenetrationCheck;
+    return std::tuple{
+        fw_Field{"region", 0, "region", &C::region},
+        fw_Field{"penetrationCheckRegion", 1, "penetrationCheckRegion", &C::penetrationCheckRegion},
+    };
+  }
+
+  kopC_BeadPenetrationCheck() = default;
+  explicit kopC_BeadPenetrationCheck(const cls_ReadVisitor& reader);
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  kopC_BeadPenetrationCheck* Copy() const override;
+  void AssertValid() const override;
+  unsigned ClassTypeId() const override { return TypeId(); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+  bool operator==(const kopC_BeadPenetrationCheck& o) const;
+  bool operator!=(const kopC_BeadPenetrationCheck& o) const { return !(*this == o); }
+
+  const rgnC_Region& GetRegion() const { return region; }
+  void SetRegion(const rgnC_Region& v) { region = v; }
+  const rgnC_Region& GetPenetrationCheckRegion() const { return penetrationCheckRegion; }
+  void SetPenetrationCheckRegion(const rgnC_Region& v) { penetrationCheckRegion = v; }
+
+ protected:
+  bool SameAs(const kopC_GeometricRestriction& o) const override;
+
+ private:
+  rgnC_Region region;
+  rgnC_Region penetrationCheckRegion;
+};

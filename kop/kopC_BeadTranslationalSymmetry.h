@@ -1,0 +1,53 @@
+#pragma once
+// Keeps a bead design repeating itself along a direction.
+#include <cstdint>
+#include <tuple>
+
+#include "kop/kopC_GeometricRestriction.h"
+#include "kop/kopC_Enums.h"
+#include "platform/model/rgnC_Region.h"
+
+class kopC_BeadTranslationalSymmetry : public kopC_GeometricRestriction {
+ public:
+  using BaseClass = kopC_GeometricRestriction;
+  using RootClass = kopC_GeometricRestriction;
+  static constexpr const char* kClassName = "kopC_BeadTranslationalSymmetry";
+  static constexpr const char* kScriptName = "BeadTranslationalSymmetry";
+  static constexpr int kVersion = 1554;
+  static constexpr unsigned TypeId() { return fw_TypeId(932, 124); }
+  // Persistent fields in write order.
+  static constexpr auto Fields() {
+    using C = kopC_BeadTranslationalSymmetry;
+    return std::tuple{
+        fw_Field{"region", 0, "region", &C::region},
+        fw_Field{"csys", 1, "csys", &C::csys},
+        fw_Field{"translation", 2, "translation", &C::translation},
+    };
+  }
+
+  kopC_BeadTranslationalSymmetry() = default;
+  explicit kopC_BeadTranslationalSymmetry(const cls_ReadVisitor& reader);
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  kopC_BeadTranslationalSymmetry* Copy() const override;
+  void AssertValid() const override;
+  unsigned ClassTypeId() const override { return TypeId(); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+  bool operator==(const kopC_BeadTranslationalSymmetry& o) const;
+  bool operator!=(const kopC_BeadTranslationalSymmetry& o) const { return !(*this == o); }
+
+  const rgnC_Region& GetRegion() const { return region; }
+  void SetRegion(const rgnC_Region& v) { region = v; }
+  std::int32_t GetCsys() const { return csys; }
+  void SetCsys(std::int32_t v) { csys = v; }
+  double GetTranslation() const { return translation; }
+  void SetTranslation(double v) { translation = v; }
+
+ protected:
+  bool SameAs(const kopC_GeometricRestriction& o) const override;
+
+ private:
+  rgnC_Region region;
+  std::int32_t csys = 0;
+  double translation = 1.0;
+};

@@ -1,0 +1,44 @@
+#pragma once
+// An objective function: what the optimizer minimizes or maximizes, kept by name in a task.
+#include <cstdint>
+#include <tuple>
+
+#include "framework/fw_Field.h"
+#include "platform/base/bas_Alloc.h"
+#include "platform/persist/cls_Uid.h"
+
+class cls_ReadVisitor;
+class cls_WriteVisitor;
+class cls_ClassRegistrar;
+
+class kopC_ObjectiveFunction : public mem_Allocated {
+ public:
+  using RootClass = kopC_ObjectiveFunction;
+  static constexpr const char* kClassName = "kopC_ObjectiveFunction";
+  static constexpr int kVersion = 1554;
+  static constexpr unsigned TypeId() { return fw_TypeId(932, 31); }
+
+  virtual ~kopC_ObjectiveFunction() = default;
+  virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
+  virtual kopC_ObjectiveFunction* Copy() const = 0;
+  virtual void AssertValid() const = 0;
+  // The type id of the object's own class.
+  virtual unsigned ClassTypeId() const = 0;
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+  // Same class, then same uid and fields.
+  bool operator==(const kopC_ObjectiveFunction& o) const { return ClassTypeId() == o.ClassTypeId() && SameAs(o); }
+  bool operator!=(const kopC_ObjectiveFunction& o) const { return !(*this == o); }
+  const cls_Uid& GetUid() const { return uid; }
+
+ protected:
+  kopC_ObjectiveFunction() = default;
+  kopC_ObjectiveFunction(const kopC_ObjectiveFunction&) = default;
+  kopC_ObjectiveFunction& operator=(const kopC_ObjectiveFunction&) = default;
+  explicit kopC_ObjectiveFunction(const cls_ReadVisitor& r);
+  // Called only with an object of the same class.
+  virtual bool SameAs(const kopC_ObjectiveFunction& o) const = 0;
+
+ protected:
+  cls_Uid uid;
+};

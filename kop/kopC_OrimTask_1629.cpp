@@ -1,0 +1,14 @@
+#include "kop/kopC_OrimTask_1629.h"
+
+#include "kop/kopC_OrimTask.h"
+
+void kopC_OrimTask_1629::SchemaChanges(dbc_DatabaseConverter& converter) {
+  converter.GetConverter(kRetiredBy)
+      .Upgrade("kopC_OrimTask", kopC_OrimTask::TypeId(), kVersion)
+      .BindConversionFunction(&Upgrade_kopC_OrimTask_1629);
+}
+
+void* Upgrade_kopC_OrimTask_1629(const dbc_Row&, dbc_Row& newRow, int) {
+  newRow.SetBool(rfm_FieldHandle("tessarSensitivities", -1), false);
+  return nullptr;
+}

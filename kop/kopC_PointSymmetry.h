@@ -1,0 +1,49 @@
+#pragma once
+// Keeps a topology design symmetric about a point.
+#include <cstdint>
+#include <tuple>
+
+#include "kop/kopC_GeometricRestriction.h"
+#include "kop/kopC_Enums.h"
+#include "platform/model/rgnC_Region.h"
+
+class kopC_PointSymmetry : public kopC_GeometricRestriction {
+ public:
+  using BaseClass = kopC_GeometricRestriction;
+  using RootClass = kopC_GeometricRestriction;
+  static constexpr const char* kClassName = "kopC_PointSymmetry";
+  static constexpr const char* kScriptName = "PointSymmetry";
+  static constexpr int kVersion = 1554;
+  static constexpr unsigned TypeId() { return fw_TypeId(932, 86); }
+  // Persistent fields in write order.
+  static constexpr auto Fields() {
+    using C = kopC_PointSymmetry;
+    return std::tuple{
+        fw_Field{"region", 0, "region", &C::region},
+        fw_Field{"csys", 1, "csys", &C::csys},
+    };
+  }
+
+  kopC_PointSymmetry() = default;
+  explicit kopC_PointSymmetry(const cls_ReadVisitor& reader);
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  kopC_PointSymmetry* Copy() const override;
+  void AssertValid() const override;
+  unsigned ClassTypeId() const override { return TypeId(); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+  bool operator==(const kopC_PointSymmetry& o) const;
+  bool operator!=(const kopC_PointSymmetry& o) const { return !(*this == o); }
+
+  const rgnC_Region& GetRegion() const { return region; }
+  void SetRegion(const rgnC_Region& v) { region = v; }
+  std::int32_t GetCsys() const { return csys; }
+  void SetCsys(std::int32_t v) { csys = v; }
+
+ protected:
+  bool SameAs(const kopC_GeometricRestriction& o) const override;
+
+ private:
+  rgnC_Region region;
+  std::int32_t csys = 0;
+};

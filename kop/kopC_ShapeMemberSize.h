@@ -1,0 +1,61 @@
+#pragma once
+// A bound on the size of the members of a shape design.
+#include <cstdint>
+#include <tuple>
+
+#include "kop/kopC_GeometricRestriction.h"
+#include "kop/kopC_Enums.h"
+#include "platform/model/rgnC_Region.h"
+#include "platform/base/omu_PrimEnum.h"
+
+class kopC_ShapeMemberSize : public kopC_GeometricRestriction {
+ public:
+  enum class SizeRestrictionEnm : std::int32_t { MINIMUM = 0, MAXIMUM = 1, NONE = 2 };
+  static constexpr omu_EnumLiteral kSizeRestrictionLiterals[] = {{"MINIMUM", 0}, {"MAXIMUM", 1}, {"NONE", 2}, {nullptr, 0}};
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(SizeRestrictionEnm) { return kSizeRestrictionLiterals; }
+  using BaseClass = kopC_GeometricRestriction;
+  using RootClass = kopC_GeometricRestriction;
+  static constexpr const char* kClassName = "kopC_ShapeMemberSize";
+  static constexpr const char* kScriptName = "ShapeMemberSize";
+  static constexpr int kVersion = 1554;
+  static constexpr unsigned TypeId() { return fw_TypeId(932, 93); }
+  // Persistent fields in write order.
+  static constexpr auto Fields() {
+    using C = kopC_ShapeMemberSize;
+    return std::tuple{
+        fw_Field{"region", 0, "region", &C::region},
+        fw_Field{"sizeRestriction", 1, "sizeRestriction", &C::sizeRestriction},
+        fw_Field{"minThickness", 2, "minThickness", &C::minThickness},
+        fw_Field{"maxThickness", 3, "maxThickness", &C::maxThickness},
+    };
+  }
+
+  kopC_ShapeMemberSize() = default;
+  explicit kopC_ShapeMemberSize(const cls_ReadVisitor& reader);
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  kopC_ShapeMemberSize* Copy() const override;
+  void AssertValid() const override;
+  unsigned ClassTypeId() const override { return TypeId(); }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+  bool operator==(const kopC_ShapeMemberSize& o) const;
+  bool operator!=(const kopC_ShapeMemberSize& o) const { return !(*this == o); }
+
+  const rgnC_Region& GetRegion() const { return region; }
+  void SetRegion(const rgnC_Region& v) { region = v; }
+  SizeRestrictionEnm GetSizeRestriction() const { return sizeRestriction; }
+  void SetSizeRestriction(SizeRestrictionEnm v) { sizeRestriction = v; }
+  double GetMinThickness() const { return minThickness; }
+  void SetMinThickness(double v) { minThickness = v; }
+  double GetMaxThickness() const { return maxThickness; }
+  void SetMaxThickness(double v) { maxThickness = v; }
+
+ protected:
+  bool SameAs(const kopC_GeometricRestriction& o) const override;
+
+ private:
+  rgnC_Region region;
+  SizeRestrictionEnm sizeRestriction = SizeRestrictionEnm::MINIMUM;
+  double minThickness = kopC_kUnset;
+  double maxThickness = kopC_kUnset;
+};

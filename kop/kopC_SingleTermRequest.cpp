@@ -1,0 +1,29 @@
+#include "kop/kopC_SingleTermRequest.h"
+
+#include "framework/fw_FieldTable.h"
+#include "kop/kopC_assert.h"
+#include "kop/kopC_Labels.h"
+
+kopC_SingleTermRequest::kopC_SingleTermRequest(const cls_ReadVisitor& reader) : kopC_Request(reader) { fw_ReadFields(*this, reader); }
+void kopC_SingleTermRequest::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
+kopC_SingleTermRequest* kopC_SingleTermRequest::Copy() const { return new kopC_SingleTermRequest(*this); }
+bool kopC_SingleTermRequest::operator==(const kopC_SingleTermRequest& o) const { return fw_EqualFields(*this, o); }
+bool kopC_SingleTermRequest::SameAs(const kopC_Request& o) const { return *this == static_cast<const kopC_SingleTermRequest&>(o); }
+void kopC_SingleTermRequest::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kopC_SingleTermRequest>(r); }
+void kopC_SingleTermRequest::CowDtor(void* p) { fw_CowDtor<kopC_SingleTermRequest>(p); }
+
+// Identifier first, then its operation, deviation, shell layer and steps.
+void kopC_SingleTermRequest::AssertValid() const {
+  kopC_Assert(!identifier.empty(), kopC_IdentifierMissing);
+  kopC_Assert(operation != kopC_VariableOperationEnm::AVERAGE, kopC_OperationAverage);
+  const bool global = kopC_IsGlobalIdentifier(identifier);
+  kopC_Assert(global || operation != kopC_VariableOperationEnm::NOT_APPLICABLE, kopC_OperationValueMissing);
+  kopC_Assert(!global || operation != kopC_VariableOperationEnm::MINIMUM, kopC_MinimumNotAllowed);
+  kopC_Assert(!global || operation != kopC_VariableOperationEnm::MAXIMUM, kopC_MaximumNotAllowed);
+  kopC_Assert(deviationReference != kopC_DeviationReferenceEnm::DEVIATION_FROM_VARIABLE, kopC_DeviationFromVariable);
+  kopC_Assert(deviationReferenceValue == kopC_kUnset || deviationReferenceValue > 0, kopC_DeviationReferenceNotPositive);
+  kopC_Assert(shellLayer == kopC_ShellLayerEnm::NONE || kopC_IsLayeredIdentifier(identifier), kopC_ShellLayerInvalid);
+  kopC_Assert(!kopC_IsStepFreeIdentifier(identifier) || stepOptions.empty(), kopC_IdentifierWithSteps);
+  for (const StepOptionHandle& option : stepOptions)
+    if (!option.IsNull()) option->AssertValid();
+}

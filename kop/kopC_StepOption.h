@@ -1,0 +1,76 @@
+#pragma once
+// The steps, load cases and modes a single-term request reads.
+#include <cstdint>
+#include <tuple>
+
+#include "platform/base/cow_String.h"
+#include "platform/base/cow_List.h"
+#include "framework/fw_Field.h"
+#include "platform/base/bas_Alloc.h"
+#include "platform/persist/cls_Uid.h"
+
+class cls_ReadVisitor;
+class cls_WriteVisitor;
+class cls_ClassRegistrar;
+
+class kopC_StepOption : public mem_Allocated {
+ public:
+  static constexpr const char* kClassName = "kopC_StepOption";
+  static constexpr const char* kScriptName = "StepOption";
+  static constexpr int kVersion = 1554;
+  static constexpr unsigned TypeId() { return fw_TypeId(932, 23); }
+  // Persistent fields in write order.
+  static constexpr auto Fields() {
+    using C = kopC_StepOption;
+    return std::tuple{
+        fw_Field{"model", 0, "model", &C::model},
+        fw_Field{"multipleStep", 1, "multipleStep", &C::multipleStep},
+        fw_Field{"loadCase", 2, "loadCase", &C::loadCase},
+        fw_Field{"procedureCategory", 3, "procedureCategory", &C::procedureCategory},
+        fw_Field{"useAllModes", 4, "useAllModes", &C::useAllModes},
+        fw_Field{"lowerMode", 5, "lowerMode", &C::lowerMode},
+        fw_Field{"upperMode", 6, "upperMode", &C::upperMode},
+        fw_Field{"modes", 7, "modes", &C::modes},
+    };
+  }
+
+  kopC_StepOption() = default;
+  explicit kopC_StepOption(const cls_ReadVisitor& reader);
+  void DBWrite(const cls_WriteVisitor& w) const;
+  virtual ~kopC_StepOption() = default;
+  virtual kopC_StepOption* Copy() const;
+  virtual void AssertValid() const;
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+  bool operator==(const kopC_StepOption& o) const;
+  bool operator!=(const kopC_StepOption& o) const { return !(*this == o); }
+  const cls_Uid& GetUid() const { return uid; }
+
+  const cow_String& GetModel() const { return model; }
+  void SetModel(const cow_String& v) { model = v; }
+  const cow_String& GetMultipleStep() const { return multipleStep; }
+  void SetMultipleStep(const cow_String& v) { multipleStep = v; }
+  const cow_String& GetLoadCase() const { return loadCase; }
+  void SetLoadCase(const cow_String& v) { loadCase = v; }
+  const cow_String& GetProcedureCategory() const { return procedureCategory; }
+  void SetProcedureCategory(const cow_String& v) { procedureCategory = v; }
+  bool GetUseAllModes() const { return useAllModes; }
+  void SetUseAllModes(bool v) { useAllModes = v; }
+  std::int32_t GetLowerMode() const { return lowerMode; }
+  void SetLowerMode(std::int32_t v) { lowerMode = v; }
+  std::int32_t GetUpperMode() const { return upperMode; }
+  void SetUpperMode(std::int32_t v) { upperMode = v; }
+  const cow_List<std::int32_t>& GetModes() const { return modes; }
+  void SetModes(const cow_List<std::int32_t>& v) { modes = v; }
+
+ private:
+  cow_String model;
+  cow_String multipleStep;
+  cow_String loadCase;
+  cow_String procedureCategory;
+  bool useAllModes = true;
+  std::int32_t lowerMode = 1;
+  std::int32_t upperMode = 1;
+  cow_List<std::int32_t> modes;
+  cls_Uid uid;
+};

@@ -1,0 +1,270 @@
+// Registration, round trips through records and the database file, copy-on-write separation
+// and the task container's copying of task kinds.
+#include <algorithm>
+
+#include "dbfile/dbf_File.h"
+#include "kop/kopC_BeadTask.h"
+#include "kop/kopC_CombinedTermDesignResponse.h"
+#include "kop/kopC_LocalStopCondition.h"
+#include "kop/kopC_MemberSize.h"
+#include "kop/kopC_OrimConstraint.h"
+#include "kop/kopC_OrimObjectiveFunction.h"
+#include "kop/kopC_OrimStopCondition.h"
+#include "kop/kopC_ShapeTask.h"
+#include "kop/kopC_SingleTermDesignResponse.h"
+#include "kop/kopC_SizingTask.h"
+#include "kop/kopC_TCWrapper.h"
+#include "kop/kopC_TaskContainer.h"
+#include "kop/kopC_TopologyTask.h"
+#include "platform/model/ddr_Database.h"
+#include "platform/model/omu_ChangeHistory.h"
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "platform/persist/cls_Record.h"
+#include "tests/kop/kop_test.h"
+
+namespace {
+
+std::vector<std::string> AttributeNames(const char* className) {
+  std::vector<std::string> names;
+  const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByName(className);
+  EXPECT_NE(md, nullptr) << className;
+  if (md)
+    for (const cls_Attribute& a : md->Attributes()) names.push_back(a.handle.Name().str());
+  return names;
+}
+
+TEST(KopRegistration, IdentitiesParentsAndAttributes) {
+  kop_Start();
+  const auto& reg = cls_ClassRegistrar::Instance();
+  struct Case {
+    const char* name;
+    unsigned id;
+    const char* parent;
+  };
+  for (const Case& c : {Case{"kopC_OrimTask", 0x03A40007, "kopC_Task"}, Case{"kopC_TopologyTask", 0x03A40008, "kopC_OrimTask"},
+                        Case{"kopC_ShapeTask", 0x03A40009, "kopC_OrimTask"}, Case{"kopC_SizingTask", 0x03A40069, "kopC_OrimTask"},
+                        Case{"kopC_BeadTask", 0x03A40078, "kopC_OrimTask"}}) {
+    SCOPED_TRACE(c.name);
+    const cls_ClassMetadata* md = reg.ByName(c.name);
+    ASSERT_NE(md, nullptr);
+    EXPECT_EQ(md->TypeId(), c.id);
+    EXPECT_EQ(reg.ByTypeId(c.id), md);
+    EXPECT_TRUE(md->IsA(*reg.ByName(c.parent)));
+    EXPECT_TRUE(md->IsA(*reg.ByName("kopC_BaseOptimization")));
+  }
+  EXPECT_EQ(reg.ByName("kopC_Task")->TypeId(), 0x03A40004u);
+  EXPECT_EQ(reg.ByName("kopC_OrimTask")->Version(), 2204);
+  EXPECT_FALSE(reg.ByName("kopC_OrimTask")->CanConstruct());
+  EXPECT_EQ(AttributeNames("kopC_OrimTask"), (std::vector<std::string>{"algorithm", "tessarSensitivities", "groupOperator"}));
+
+  // A topology row: the task's part, the optimization module's part, then its own fields in
+  // their registration order (the 1629 soft-deletion fields last).
+  const std::vector<std::string> topology = AttributeNames("kopC_TopologyTask");
+  const std::vector<std::string> own(topology.begin() + 11, topology.end());
+  EXPECT_EQ(std::vector<std::string>(topology.begin(), topology.begin() + 11),
+            (std::vector<std::string>{"suppressed", "region", "constraintContainer", "designResponseContainer",
+                                      "geometricRestrictionContainer", "objectiveFunctionContainer",
+                                      "stopConditionContainer", "variableContainer", "algorithm", "tessarSensitivities",
+                                      "groupOperator"}));
+  EXPECT_EQ(own, (std::vector<std::string>{
+                     "freezeLoadRegions", "freezeBoundaryConditionRegions", "multipleProcessors", "numIterations",
+                     "numFulfilledStopCriteria", "stopCriteriaIteration", "numTrackedModes", "firstCycleDeletedVolume",
+                     "initialDensity", "minDensity", "maxDensity", "densityMoveLimit", "filterRadius",
+                     "materialInterpolationPenalty", "objectiveFunctionDeltaStopCriteria",
+                     "elementDensityDeltaStopCriteria", "softDeletionAverageEdgeLength", "structuralMassDamping",
+                     "stiffnessMassDamping", "viscousMassDamping", "viscousStiffnessDamping", "frequencySpectrumWeight",
+                     "softDeletionRegion", "modeTrackingRegion", "stepSize", "firstCycleDeletedVolumeTechnique",
+                     "densityUpdateStrategy", "materialInterpolationTechnique", "softDeletionMethod",
+                     "softDeletionThreshold"}));
+
+  // Scripting names that differ from the persistent ones.
+  const cls_ClassMetadata* md = reg.ByName("kopC_TopologyTask");
+  struct Name {
+    const char* script;
+    const char* persistent;
+  };
+  for (const Name& n : {Name{"numDesignCycles", "numIterations"}, Name{"softDeletionRadius", "softDeletionAverageEdgeLength"},
+                        Name{"stopCriteriaDesignCycle", "stopCriteriaIteration"},
+                        Name{"designResponses", "designResponseContainer"},
+                        Name{"optimizationConstraints", "constraintContainer"},
+                        Name{"softDeletionMethod", "softDeletionMethod"}}) {
+    const cls_ScriptField* f = md->FindScriptField(n.script);
+    ASSERT_NE(f, nullptr) << n.script;
+    EXPECT_STREQ(f->persistentName, n.persistent);
+  }
+  EXPECT_EQ(md->FindScriptField("numIterations"), nullptr);
+  EXPECT_EQ(md->FindAttribute("numDesignCycles"), nullptr);
+  EXPECT_EQ(reg.ByName("kopC_BeadTask")->FindScriptField("minStress")->persistentName, std::string("beadMinStress"));
+  EXPECT_STREQ(reg.ByName("kopC_TopologyTask")->ScriptName(), "TopologyTask");
+  EXPECT_STREQ(reg.ByName("kopC_OrimConstraint")->ScriptName(), "OptimizationConstraint");
+}
+
+// Every kind, filled away from its defaults, with items in every container.
+kopC_TopologyTask FilledTopology() {
+  kopC_TopologyTask t;
+  t.SetRegion(rgnC_Region("Design"));
+  t.SetNumIterations(40);
+  t.SetInitialDensity(0.5);
+  t.SetStepSize(kopC_TopologyTask::StepSizeEnm::MODERATE);
+  t.SetFirstCycleDeletedVolumeTechnique(kopC_TopologyTask::DeletedVolumeTechniqueEnm::PERCENTAGE);
+  t.SetSoftDeletionMethod(kopC_TopologyTask::SoftDeletionMethodEnm::VOLUMETRIC_STRAIN_COMPRESSION);
+  t.SetSoftDeletionThreshold(-0.1);
+  t.SetModeTrackingRegion(rgnC_Region("Modes"));
+  t.SetTessarSensitivities(true);
+  t.SetGroupOperator(true);
+  kopC_SingleTermDesignResponse energy;
+  kopC_SingleTermRequest r;
+  r.SetIdentifier("STRAIN_ENERGY");
+  kopC_StepOption step;
+  step.SetMultipleStep("Step-1");
+  step.SetModes(cow_List<std::int32_t>(std::vector<std::int32_t>{1, 3}));
+  r.SetStepOptions(cow_List<kopC_SingleTermRequest::StepOptionHandle>(
+      std::vector<kopC_SingleTermRequest::StepOptionHandle>{kopC_SingleTermRequest::StepOptionHandle(step)}));
+  energy.SetRequest(r);
+  t.GetDesignResponseContainer().Insert("Energy", energy);
+  kopC_CombinedTermDesignResponse combined;
+  kopC_CombinedTermRequest c;
+  c.SetTerms(cow_List<cow_String>(std::vector<cow_String>{"Energy", "Volume"}));
+  c.SetWeights(cow_List<double>(std::vector<double>{1.0, 0.25}));
+  c.SetMethod(kopC_CombinedTermRequestMethodEnm::WEIGHTED_ADD);
+  combined.SetRequest(c);
+  t.GetDesignResponseContainer().Insert("Combined", combined);
+  kopC_Objective o;
+  o.SetDesignResponse("Energy");
+  o.SetWeight(2.0);
+  kopC_OrimObjectiveFunction f;
+  f.SetTarget(kopC_TargetEnm::MINIMIZE_MAXIMUM);
+  f.SetObjectives(cow_List<kopC_OrimObjectiveFunction::ObjectiveHandle>(
+      std::vector<kopC_OrimObjectiveFunction::ObjectiveHandle>{kopC_OrimObjectiveFunction::ObjectiveHandle(o)}));
+  t.GetObjectiveFunctionContainer().Insert("Objective", f);
+  kopC_OrimConstraint con;
+  con.SetDesignResponse("Volume");
+  con.SetRestrictionMethod(kopC_RestrictionMethodEnm::RELATIVE_LESS_THAN_EQUAL);
+  con.SetRestrictionValue(0.3);
+  t.GetConstraintContainer().Insert("Volume-30", con);
+  kopC_MemberSize size;
+  size.SetMinThickness(2.5);
+  t.GetGeometricRestrictionContainer().Insert("Size", size);
+  kopC_OrimStopCondition stop;
+  stop.SetDesignResponse("Energy");
+  t.GetStopConditionContainer().Insert("Stop", stop);
+  return t;
+}
+
+ddr_Database Database() {
+  ddr_Database db;
+  auto& tasks = dynamic_cast<kopC_TaskContainer&>(*db.CreateModel("Model-1").ModifyRepository("optimizationTasks"));
+  tasks.Insert("Topology", FilledTopology());
+  kopC_ShapeTask shape;
+  shape.SetTriMinAngle(10);
+  shape.SetAdditionalDurabilityFiles(cow_List<cow_String>(std::vector<cow_String>{"a.inp", "b.inp"}));
+  kopC_LocalStopCondition local;
+  local.SetIdentifier("SIG_MISES");
+  local.SetReferenceFactor(0.8);
+  shape.GetStopConditionContainer().Insert("Local", local);
+  tasks.Insert("Shape", shape);
+  kopC_SizingTask sizing;
+  sizing.SetThicknessMoveLimit(0.5);
+  tasks.Insert("Sizing", sizing);
+  kopC_BeadTask bead;
+  bead.SetBeadWidth(3);
+  tasks.Insert("Bead", bead);
+  tasks.Insert("Default", kopC_TopologyTask());
+  return db;
+}
+
+const kopC_TaskContainer& Tasks(const ddr_Database& db) {
+  return dynamic_cast<const kopC_TaskContainer&>(*db.FindModel("Model-1")->FindRepository("optimizationTasks"));
+}
+
+TEST(KopPersistence, TasksOfEveryKindRoundTripThroughRecordAndFile) {
+  kop_Start();
+  const ddr_Database db = Database();
+  const kopC_TaskContainer& tasks = Tasks(db);
+  kopC_TaskContainer back{cls_RecordReader(cls_ToRecord(tasks))};
+  EXPECT_EQ(back, tasks);
+  const std::string file = qmx_TempDir("kop-persistence") + "/tasks.odb";
+  dbf_Save(db, file);
+  const ddr_Database reopened = dbf_Open(file);
+  EXPECT_TRUE(reopened == db);
+  const kopC_TaskContainer& read = Tasks(reopened);
+  ASSERT_EQ(read.Size(), 5u);
+  auto* topology = dynamic_cast<const kopC_TopologyTask*>(read.ConstGet("Topology"));
+  ASSERT_NE(topology, nullptr);
+  EXPECT_EQ(topology->GetUid(), tasks.ConstGet("Topology")->GetUid());
+  EXPECT_EQ(topology->GetNumIterations(), 40);
+  EXPECT_EQ(topology->GetDesignResponseContainer().Size(), 2u);
+  auto* combined = dynamic_cast<const kopC_CombinedTermDesignResponse*>(topology->GetDesignResponseContainer().ConstGet("Combined"));
+  ASSERT_NE(combined, nullptr);
+  EXPECT_EQ(combined->GetRequest().GetWeights()[1], 0.25);
+  EXPECT_NE(dynamic_cast<const kopC_ShapeTask*>(read.ConstGet("Shape")), nullptr);
+  EXPECT_NE(dynamic_cast<const kopC_SizingTask*>(read.ConstGet("Sizing")), nullptr);
+  EXPECT_NE(dynamic_cast<const kopC_BeadTask*>(read.ConstGet("Bead")), nullptr);
+  // A change anywhere inside a task makes it differ.
+  ddr_Database changed = db;
+  auto& t = dynamic_cast<kopC_TopologyTask&>(
+      dynamic_cast<kopC_TaskContainer&>(*changed.ModifyModel("Model-1")->ModifyRepository("optimizationTasks")).Get("Topology"));
+  dynamic_cast<kopC_OrimConstraint&>(t.GetConstraintContainer().Get("Volume-30")).SetRestrictionValue(0.31);
+  EXPECT_FALSE(changed == db);
+}
+
+TEST(KopPersistence, AnUnknownStoredLiteralIsRefused) {
+  kop_Start();
+  cls_Record rec = cls_ToRecord(kopC_TopologyTask());
+  rec.Set("stepSize", cow_String("dynamic"));
+  auto e = qmx_Catch<nex_CmdError>([&] { kopC_TopologyTask{cls_RecordReader(rec)}; });
+  EXPECT_EQ(e.Message(), "omu_PrimEnum(const cow_String&) - str not allowed: dynamic  Permissible: "
+                         "DYNAMIC, VERY_SMALL, SMALL, MODERATE, MEDIUM, LARGE");
+}
+
+TEST(KopPersistence, CopiesShareItemsUntilOneIsModified) {
+  kop_Start();
+  kopC_TaskContainer a;
+  a.Insert("T", FilledTopology());
+  kopC_TaskContainer b = a;
+  omu_ChangeHistory::Instance().Clear();
+  auto& t = dynamic_cast<kopC_TopologyTask&>(b.Get("T"));
+  dynamic_cast<kopC_OrimObjectiveFunction&>(t.GetObjectiveFunctionContainer().Get("Objective"))
+      .SetTarget(kopC_TargetEnm::MAXIMIZE);
+  EXPECT_EQ(omu_ChangeHistory::Instance().Entries(),
+            (std::vector<omu_PrimTuple>{{"kopC_TaskContainer", "Modify", "T"},
+                                        {"kopC_ObjectiveFunctionContainer", "Modify", "Objective"}}));
+  auto& original = dynamic_cast<const kopC_TopologyTask&>(*a.ConstGet("T"));
+  EXPECT_EQ(dynamic_cast<const kopC_OrimObjectiveFunction&>(*original.GetObjectiveFunctionContainer().ConstGet("Objective"))
+                .GetTarget(),
+            kopC_TargetEnm::MINIMIZE_MAXIMUM);
+  EXPECT_FALSE(a == b);
+  EXPECT_EQ(original.GetUid(), b.ConstGet("T")->GetUid());
+}
+
+// A task kind the module does not know: the container cannot copy it.
+class UnknownTask : public kopC_OrimTask {
+ public:
+  void DBWrite(const cls_WriteVisitor&) const override {}
+  void AssertValid() const override {}
+  unsigned ClassTypeId() const override { return 0x03A4007F; }
+
+ protected:
+  bool SameAs(const kopC_BaseOptimization&) const override { return true; }
+};
+
+TEST(KopPersistence, CopyingAnUnknownKindIsRefusedWithCode1) {
+  kop_Start();
+  using Handle = cow_COW<kopC_BaseOptimization, cow_Virtual<kopC_BaseOptimization>>;
+  Handle a(new UnknownTask);
+  Handle b = a;
+  auto e = qmx_Catch<nex_PrimError>([&] { b.Get(); });
+  EXPECT_EQ(e.Message(), "Unable to copy unknown optimization task");
+  EXPECT_STREQ(e.File(), "QMXOdbKopC.m/src/kopC_assert");
+  EXPECT_EQ(e.Line(), 317);
+  EXPECT_TRUE(b.SharesBodyWith(a));  // nothing changed
+  // Known kinds are copied as themselves.
+  Handle c(new kopC_ShapeTask);
+  Handle d = c;
+  d.Get();
+  EXPECT_FALSE(d.SharesBodyWith(c));
+  EXPECT_NE(dynamic_cast<const kopC_ShapeTask*>(&d.ConstGet()), nullptr);
+  EXPECT_EQ(d.ConstGet(), c.ConstGet());
+}
+
+}  // namespace

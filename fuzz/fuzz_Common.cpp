@@ -16,15 +16,21 @@
 namespace fs = std::filesystem;
 
 const std::string& fuzz_Scratch() {
-  static const std::string dir = [] {
+  // On the heap and never destroyed: the removal at exit runs after the statics are gone.
+  static const std::string* const dir = [] {
     // Memory-backed when there is such a folder: every save syncs, which a disk makes slow.
     std::error_code ec;
     const fs::path base = fs::is_directory("/dev/shm", ec) ? fs::path("/dev/shm") : fs::temp_directory_path();
     fs::path p = base / ("qmx-fuzz-" + std::to_string(::getpid()));
     fs::create_directories(p);
-    return p.string();
+    auto* made = new std::string(p.string());
+    std::atexit([] {
+      std::error_code ignored;
+      fs::remove_all(*dir, ignored);
+    });
+    return made;
   }();
-  return dir;
+  return *dir;
 }
 
 std::string fuzz_ScratchFile(std::string_view name) {

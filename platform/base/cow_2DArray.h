@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <initializer_list>
 #include <stdexcept>
+#include <type_traits>
 #include <vector>
 
 #include "platform/base/cow_Box.h"
@@ -41,7 +42,17 @@ class cow_2DArray {
   friend bool operator==(const cow_2DArray& a, const cow_2DArray& b) {
     if (a.rows_ != b.rows_ || a.cols_ != b.cols_) return false;
     if (a.box_.IsNull() || b.box_.IsNull() || a.box_.SharesBodyWith(b.box_)) return true;
-    return a.box_.Get() == b.box_.Get();
+    if constexpr (std::is_floating_point_v<T>) {
+      // A table keeps a NaN cell (files store every bit): a table must equal its own copy, so a
+      // NaN equals a NaN here.
+      const std::vector<T>& x = a.box_.Get();
+      const std::vector<T>& y = b.box_.Get();
+      for (std::size_t i = 0; i < x.size(); ++i)
+        if (!(x[i] == y[i] || (x[i] != x[i] && y[i] != y[i]))) return false;
+      return true;
+    } else {
+      return a.box_.Get() == b.box_.Get();
+    }
   }
   friend bool operator!=(const cow_2DArray& a, const cow_2DArray& b) { return !(a == b); }
 

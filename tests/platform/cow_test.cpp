@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_COW.h"
 #include "platform/base/cow_List.h"
@@ -99,6 +101,19 @@ TEST(Cow2DArray, ShapeAccessAndSeparation) {
   // an empty table keeps its width
   EXPECT_NE(cow_2DArray<double>(), cow_2DArray<double>(0, 4));
   EXPECT_EQ(cow_2DArray<double>(0, 4), cow_2DArray<double>(0, 4));
+}
+
+// A table read back from a file is a separate body: a NaN cell must not make it unequal to the
+// table it was saved from, while a NaN still differs from any number.
+TEST(Cow2DArray, NaNCellsEqualThemselvesAcrossBodies) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const cow_2DArray<double> t{{1, nan}, {-0.0, 3}};
+  const cow_2DArray<double> separate{{1, nan}, {0.0, 3}};
+  ASSERT_FALSE(separate.SharesBodyWith(t));
+  EXPECT_EQ(t, separate);
+  EXPECT_NE(t, (cow_2DArray<double>{{1, 2}, {0.0, 3}}));
+  EXPECT_NE((cow_2DArray<double>{{1, 2}, {0.0, 3}}), t);
+  EXPECT_NE(t, (cow_2DArray<double>{{nan, nan}, {0.0, 3}}));
 }
 
 TEST(CowMap, InsertRemoveSeparate) {

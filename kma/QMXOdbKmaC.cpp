@@ -2,6 +2,14 @@
 
 #include <iterator>
 
+#include "kma/kmaC_RateDependent.h"
+#include "kma/kmaC_Potential.h"
+#include "kma/kmaC_CyclicHardening.h"
+#include "kma/kmaC_Ornl.h"
+#include "kma/kmaC_CycledPlastic.h"
+#include "kma/kmaC_AnnealTemperature.h"
+#include "kma/kmaC_TensileFailure.h"
+#include "kma/kmaC_AnnealTemperature_Versions.h"
 #include "kma/kmaC_Elastic.h"
 #include "kma/kmaC_FailStrain.h"
 #include "kma/kmaC_FailStress.h"
@@ -176,6 +184,13 @@ void QMXOdbKmaC_initialize(int& tally) {
   metadata.initClassMetadata(&kmaC_FailStrain::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_FailStress::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Elastic::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_RateDependent::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Potential::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_CyclicHardening::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Ornl::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_CycledPlastic::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_AnnealTemperature::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_TensileFailure::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Plastic::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Material::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MaterialContainer::InitializeMetadata, 7);
@@ -209,6 +224,9 @@ void QMXOdbKmaC_initialize(int& tally) {
   RegisterOld<kmaC_Plastic_1107>(old);
   RegisterOld<kmaC_Plastic_2002>(old);
   RegisterOld<kmaC_Plastic_2008>(old);
+  RegisterOld<kmaC_AnnealTemperature_203>(old);
+  RegisterOld<kmaC_AnnealTemperature_307>(old);
+  RegisterOld<kmaC_AnnealTemperature_452>(old);
 }
 
 void QMXOdbKmaC_finalize(int& tally) {

@@ -10,6 +10,52 @@
 #include "kma/kmaC_AnnealTemperature.h"
 #include "kma/kmaC_TensileFailure.h"
 #include "kma/kmaC_AnnealTemperature_Versions.h"
+#include "kma/kmaC_Density.h"
+#include "kma/kmaC_Density_Versions.h"
+#include "kma/kmaC_Expansion.h"
+#include "kma/kmaC_Expansion_Versions.h"
+#include "kma/kmaC_Conductivity.h"
+#include "kma/kmaC_SpecificHeat.h"
+#include "kma/kmaC_SpecificHeat_Versions.h"
+#include "kma/kmaC_Hyperelastic.h"
+#include "kma/kmaC_Hyperelastic_Versions.h"
+#include "kma/kmaC_Creep.h"
+#include "kma/kmaC_Creep_Versions.h"
+#include "kma/kmaC_Viscoelastic.h"
+#include "kma/kmaC_Viscoelastic_Versions.h"
+#include "kma/kmaC_ConcreteDamagedPlasticity.h"
+#include "kma/kmaC_Foam.h"
+#include "kma/kmaC_Eos.h"
+#include "kma/kmaC_Eos_Versions.h"
+#include "kma/kmaC_Damping.h"
+#include "kma/kmaC_Damping_Versions.h"
+#include "kma/kmaC_Depvar.h"
+#include "kma/kmaC_InelasticHeatFraction.h"
+#include "kma/kmaC_JouleHeatFraction.h"
+#include "kma/kmaC_LatentHeat.h"
+#include "kma/kmaC_UserMaterial.h"
+#include "kma/kmaC_UserMaterial_Versions.h"
+#include "kma/kmaC_UserOutputVariables.h"
+#include "kma/kmaC_HeatGeneration.h"
+#include "kma/kmaC_Gel.h"
+#include "kma/kmaC_Dielectric.h"
+#include "kma/kmaC_Dielectric_Versions.h"
+#include "kma/kmaC_ElectricalConductivity.h"
+#include "kma/kmaC_ElectricalConductivity_Versions.h"
+#include "kma/kmaC_Piezoelectric.h"
+#include "kma/kmaC_Piezoelectric_Versions.h"
+#include "kma/kmaC_Diffusivity.h"
+#include "kma/kmaC_Solubility.h"
+#include "kma/kmaC_Regularization.h"
+#include "kma/kmaC_Regularization_Versions.h"
+#include "kma/kmaC_Viscosity.h"
+#include "kma/kmaC_Viscosity_Versions.h"
+#include "kma/kmaC_Hypoelastic.h"
+#include "kma/kmaC_Shear.h"
+#include "kma/kmaC_PorousBulkModuli.h"
+#include "kma/kmaC_MembraneElastic.h"
+#include "kma/kmaC_TransShearElastic.h"
+#include "kma/kmaC_TransShearElastic_Versions.h"
 #include "kma/kmaC_Elastic.h"
 #include "kma/kmaC_FailStrain.h"
 #include "kma/kmaC_FailStress.h"
@@ -192,6 +238,37 @@ void QMXOdbKmaC_initialize(int& tally) {
   metadata.initClassMetadata(&kmaC_AnnealTemperature::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_TensileFailure::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Plastic::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Density::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Expansion::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Conductivity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_SpecificHeat::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Hyperelastic::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Creep::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Viscoelastic::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_ConcreteDamagedPlasticity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Foam::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Eos::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Damping::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Depvar::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_InelasticHeatFraction::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_JouleHeatFraction::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_LatentHeat::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_UserMaterial::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_UserOutputVariables::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_HeatGeneration::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Gel::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Dielectric::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_ElectricalConductivity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Piezoelectric::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Diffusivity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Solubility::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Regularization::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Viscosity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Hypoelastic::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Shear::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_PorousBulkModuli::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_MembraneElastic::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_TransShearElastic::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Material::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MaterialContainer::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MCWrapper::InitializeMetadata, 7);
@@ -227,6 +304,33 @@ void QMXOdbKmaC_initialize(int& tally) {
   RegisterOld<kmaC_AnnealTemperature_203>(old);
   RegisterOld<kmaC_AnnealTemperature_307>(old);
   RegisterOld<kmaC_AnnealTemperature_452>(old);
+  RegisterOld<kmaC_Density_203>(old);
+  RegisterOld<kmaC_Expansion_203>(old);
+  RegisterOld<kmaC_Expansion_419>(old);
+  RegisterOld<kmaC_SpecificHeat_203>(old);
+  RegisterOld<kmaC_Hyperelastic_203>(old);
+  RegisterOld<kmaC_Hyperelastic_324>(old);
+  RegisterOld<kmaC_Hyperelastic_328>(old);
+  RegisterOld<kmaC_Hyperelastic_850>(old);
+  RegisterOld<kmaC_Hyperelastic_864>(old);
+  RegisterOld<kmaC_Creep_203>(old);
+  RegisterOld<kmaC_Viscoelastic_203>(old);
+  RegisterOld<kmaC_Viscoelastic_855>(old);
+  RegisterOld<kmaC_Eos_203>(old);
+  RegisterOld<kmaC_Eos_850>(old);
+  RegisterOld<kmaC_Eos_1394>(old);
+  RegisterOld<kmaC_Eos_1447>(old);
+  RegisterOld<kmaC_Eos_1449>(old);
+  RegisterOld<kmaC_Damping_203>(old);
+  RegisterOld<kmaC_UserMaterial_203>(old);
+  RegisterOld<kmaC_UserMaterial_419>(old);
+  RegisterOld<kmaC_UserMaterial_451>(old);
+  RegisterOld<kmaC_Dielectric_203>(old);
+  RegisterOld<kmaC_ElectricalConductivity_203>(old);
+  RegisterOld<kmaC_Piezoelectric_203>(old);
+  RegisterOld<kmaC_Regularization_203>(old);
+  RegisterOld<kmaC_Viscosity_1411>(old);
+  RegisterOld<kmaC_TransShearElastic_203>(old);
 }
 
 void QMXOdbKmaC_finalize(int& tally) {

@@ -56,6 +56,48 @@
 #include "kma/kmaC_MembraneElastic.h"
 #include "kma/kmaC_TransShearElastic.h"
 #include "kma/kmaC_TransShearElastic_Versions.h"
+#include "kma/kmaC_AcousticMedium.h"
+#include "kma/kmaC_BrittleCracking.h"
+#include "kma/kmaC_BrittleCracking_Versions.h"
+#include "kma/kmaC_CapPlasticity.h"
+#include "kma/kmaC_CapPlasticity_Versions.h"
+#include "kma/kmaC_CastIronPlasticity.h"
+#include "kma/kmaC_ClayPlasticity.h"
+#include "kma/kmaC_ClayPlasticity_Versions.h"
+#include "kma/kmaC_Concrete.h"
+#include "kma/kmaC_DeformationPlasticity.h"
+#include "kma/kmaC_DruckerPrager.h"
+#include "kma/kmaC_FluidLeakoff.h"
+#include "kma/kmaC_GapFlow.h"
+#include "kma/kmaC_GapConductance.h"
+#include "kma/kmaC_GapConvection.h"
+#include "kma/kmaC_GapRadiation.h"
+#include "kma/kmaC_Hyperfoam.h"
+#include "kma/kmaC_Hyperfoam_Versions.h"
+#include "kma/kmaC_LowDensityFoam.h"
+#include "kma/kmaC_MagneticPermeability.h"
+#include "kma/kmaC_MagneticPermeability_Versions.h"
+#include "kma/kmaC_MohrCoulomb.h"
+#include "kma/kmaC_MohrCoulomb_Versions.h"
+#include "kma/kmaC_MoistureSwelling.h"
+#include "kma/kmaC_Permeability.h"
+#include "kma/kmaC_Permeability_Versions.h"
+#include "kma/kmaC_PoreFluidExpansion.h"
+#include "kma/kmaC_PorousElastic.h"
+#include "kma/kmaC_PorousElastic_Versions.h"
+#include "kma/kmaC_PorousMetalPlasticity.h"
+#include "kma/kmaC_Sorption.h"
+#include "kma/kmaC_Swelling.h"
+#include "kma/kmaC_UserDefinedField.h"
+#include "kma/kmaC_SoftRockPlasticity.h"
+#include "kma/kmaC_SuperElasticity.h"
+#include "kma/kmaC_SuperElasticity_Versions.h"
+#include "kma/kmaC_PlasticityCorrection.h"
+#include "kma/kmaC_ThicknessBehavior.h"
+#include "kma/kmaC_ThicknessBehavior_Versions.h"
+#include "kma/kmaC_Viscous.h"
+#include "kma/kmaC_Viscous_Versions.h"
+#include "kma/kmaC_Electrolyte.h"
 #include "kma/kmaC_Elastic.h"
 #include "kma/kmaC_FailStrain.h"
 #include "kma/kmaC_FailStress.h"
@@ -269,6 +311,37 @@ void QMXOdbKmaC_initialize(int& tally) {
   metadata.initClassMetadata(&kmaC_PorousBulkModuli::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MembraneElastic::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_TransShearElastic::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_AcousticMedium::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_BrittleCracking::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_CapPlasticity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_CastIronPlasticity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_ClayPlasticity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Concrete::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_DeformationPlasticity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_DruckerPrager::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_FluidLeakoff::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_GapFlow::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_GapConductance::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_GapConvection::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_GapRadiation::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Hyperfoam::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_LowDensityFoam::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_MagneticPermeability::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_MohrCoulomb::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_MoistureSwelling::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Permeability::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_PoreFluidExpansion::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_PorousElastic::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_PorousMetalPlasticity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Sorption::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Swelling::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_UserDefinedField::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_SoftRockPlasticity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_SuperElasticity::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_PlasticityCorrection::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_ThicknessBehavior::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Viscous::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Electrolyte::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Material::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MaterialContainer::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MCWrapper::InitializeMetadata, 7);
@@ -331,6 +404,24 @@ void QMXOdbKmaC_initialize(int& tally) {
   RegisterOld<kmaC_Regularization_203>(old);
   RegisterOld<kmaC_Viscosity_1411>(old);
   RegisterOld<kmaC_TransShearElastic_203>(old);
+  RegisterOld<kmaC_BrittleCracking_203>(old);
+  RegisterOld<kmaC_CapPlasticity_203>(old);
+  RegisterOld<kmaC_CapPlasticity_452>(old);
+  RegisterOld<kmaC_ClayPlasticity_203>(old);
+  RegisterOld<kmaC_Hyperfoam_203>(old);
+  RegisterOld<kmaC_Hyperfoam_850>(old);
+  RegisterOld<kmaC_MagneticPermeability_1628>(old);
+  RegisterOld<kmaC_MohrCoulomb_205>(old);
+  RegisterOld<kmaC_MohrCoulomb_404>(old);
+  RegisterOld<kmaC_MohrCoulomb_1422>(old);
+  RegisterOld<kmaC_Permeability_203>(old);
+  RegisterOld<kmaC_Permeability_404>(old);
+  RegisterOld<kmaC_Permeability_1502>(old);
+  RegisterOld<kmaC_PorousElastic_203>(old);
+  RegisterOld<kmaC_SuperElasticity_1857>(old);
+  RegisterOld<kmaC_ThicknessBehavior_203>(old);
+  RegisterOld<kmaC_Viscous_203>(old);
+  RegisterOld<kmaC_Viscous_438>(old);
 }
 
 void QMXOdbKmaC_finalize(int& tally) {

@@ -16,6 +16,13 @@
 #include "kma/kmaC_Damping.h"
 #include "kma/kmaC_Depvar.h"
 #include "kma/kmaC_Eos.h"
+#include "kma/kmaC_DruckerPrager.h"
+#include "kma/kmaC_Hyperfoam.h"
+#include "kma/kmaC_LowDensityFoam.h"
+#include "kma/kmaC_MagneticPermeability.h"
+#include "kma/kmaC_MohrCoulomb.h"
+#include "kma/kmaC_PorousMetalPlasticity.h"
+#include "kma/kmaC_ThicknessBehavior.h"
 #include "kma/kmaC_Hyperelastic.h"
 #include "kma/kmaC_InelasticHeatFraction.h"
 #include "kma/kmaC_JouleHeatFraction.h"
@@ -80,6 +87,37 @@ const ScriptCase kCases[] = {
     {{"porousBulkModuli"}, "PorousBulkModuli", R"({"table":{"table":[[3.6e10,2.2e9]]}})", "temperatureDependency", "false", "kmaC_PorousBulkModuli"},
     {{"membraneElastic"}, "MembraneElastic", R"({"table":{"table":[[1000,800,0.3]]}})", "dependencies", "0", "kmaC_MembraneElastic"},
     {{"transShearElastic"}, "TransShearElastic", R"({"table":{"table":[[500,500,400]]}})", "dependencies", "0", "kmaC_TransShearElastic"},
+    {{"acousticMedium"}, "AcousticMedium", R"({"volumetricDrag":true,"table":{"table":[[2.2e9]]}})", "volumetricDrag", "true", "kmaC_AcousticMedium"},
+    {{"brittleCracking"}, "BrittleCracking", R"({"type":"GFI","table":{"table":[[3,0.1]]}})", "type", R"("GFI")", "kmaC_BrittleCracking"},
+    {{"capPlasticity"}, "CapPlasticity", R"({"table":{"table":[[10,30,0.3,0,0.01,1]]}})", "dependencies", "0", "kmaC_CapPlasticity"},
+    {{"castIronPlasticity"}, "CastIronPlasticity", R"({"table":{"table":[[0.04]]}})", "temperatureDependency", "false", "kmaC_CastIronPlasticity"},
+    {{"clayPlasticity"}, "ClayPlasticity", R"({"hardening":"TABULAR","table":{"table":[[1,1,1]]}})", "hardening", R"("TABULAR")", "kmaC_ClayPlasticity"},
+    {{"concrete"}, "Concrete", R"({"table":{"table":[[20,0]]}})", "dependencies", "0", "kmaC_Concrete"},
+    {{"deformationPlasticity"}, "DeformationPlasticity", R"({"table":{"table":[[2e5,0.3,250,5,1]]}})", "dependencies", "0", "kmaC_DeformationPlasticity"},
+    {{"druckerPrager"}, "DruckerPrager", R"({"shearCriterion":"HYPERBOLIC","eccentricity":0.2,"table":{"table":[[30,1,10]]}})", "shearCriterion", R"("HYPERBOLIC")", "kmaC_DruckerPrager"},
+    {{"fluidLeakoff"}, "FluidLeakoff", R"({"type":"USER"})", "type", R"("USER")", "kmaC_FluidLeakoff"},
+    {{"gapFlow"}, "GapFlow", R"({"type":"POWER_LAW","kmax":1e3,"table":{"table":[[1,0.5]]}})", "kmax", "1000.0", "kmaC_GapFlow"},
+    {{"gapConductance"}, "GapConductance", R"({"pressureDependency":true,"table":{"table":[[100,1]]}})", "pressureDependency", "true", "kmaC_GapConductance"},
+    {{"gapConvection"}, "GapConvection", R"({"table":{"table":[[5]]}})", "dependencies", "0", "kmaC_GapConvection"},
+    {{"gapRadiation"}, "GapRadiation", R"({"table":{"table":[[0.8,0.9]]}})", "dependencies", "0", "kmaC_GapRadiation"},
+    {{"hyperfoam"}, "Hyperfoam", R"({"n":2,"poisson":0.1,"table":{"table":[[0.2,8,0.01,-2]]}})", "n", "2", "kmaC_Hyperfoam"},
+    {{"lowDensityFoam"}, "LowDensityFoam", R"({"elementRemoval":true,"maxAllowablePrincipalStress":2.5})", "maxAllowablePrincipalStress", "2.5", "kmaC_LowDensityFoam"},
+    {{"magneticPermeability"}, "MagneticPermeability", R"({"nonlinearBH":true,"table":{"table":[[0.5,100],[1.2,1000]]}})", "nonlinearBH", "true", "kmaC_MagneticPermeability"},
+    {{"mohrCoulomb"}, "MohrCoulomb", R"({"deviatoricEccentricity":0.8,"useTensionCutoff":true,"table":{"table":[[30,5]]}})", "deviatoricEccentricity", "0.8", "kmaC_MohrCoulomb"},
+    {{"moistureSwelling"}, "MoistureSwelling", R"({"table":{"table":[[0.01,0.5]]}})", "table", R"({"table":[[0.01,0.5]],"allowEmptyFirstRow":false})", "kmaC_MoistureSwelling"},
+    {{"permeability"}, "Permeability", R"({"specificWeight":9810,"table":{"table":[[1e-7,0.3]]}})", "specificWeight", "9810.0", "kmaC_Permeability"},
+    {{"poreFluidExpansion"}, "PoreFluidExpansion", R"({"zero":20,"table":{"table":[[2e-4]]}})", "zero", "20.0", "kmaC_PoreFluidExpansion"},
+    {{"porousElastic"}, "PorousElastic", R"({"shear":"G","table":{"table":[[0.02,100]]}})", "shear", R"("G")", "kmaC_PorousElastic"},
+    {{"porousMetalPlasticity"}, "PorousMetalPlasticity", R"({"relativeDensity":0.95,"table":{"table":[[1.5,1,2.25]]}})", "relativeDensity", "0.95", "kmaC_PorousMetalPlasticity"},
+    {{"sorption"}, "Sorption", R"({"lawAbsorption":"LOG","table":{"table":[[1,2,3]]}})", "lawAbsorption", R"("LOG")", "kmaC_Sorption"},
+    {{"swelling"}, "Swelling", R"({"table":{"table":[[1e-6]]}})", "dependencies", "0", "kmaC_Swelling"},
+    {{"userDefinedField"}, "UserDefinedField", R"({})", nullptr, nullptr, "kmaC_UserDefinedField"},
+    {{"softRockPlasticity"}, "SoftRockPlasticity", R"({"table":{"table":[[1,2,3]]}})", "dependencies", "0", "kmaC_SoftRockPlasticity"},
+    {{"superElasticity"}, "SuperElasticity", R"({"nonassociated":true,"table":{"table":[[3e4,0.33,0.05,0.1]]}})", "nonassociated", "true", "kmaC_SuperElasticity"},
+    {{"plasticityCorrection"}, "PlasticityCorrection", R"({"table":{"table":[[1,2]]}})", "dependencies", "0", "kmaC_PlasticityCorrection"},
+    {{"thicknessBehavior"}, "ThicknessBehavior", R"({"units":"FORCE","contactArea":12.5,"table":{"table":[[10,0.1]]}})", "contactArea", "12.5", "kmaC_ThicknessBehavior"},
+    {{"viscous"}, "Viscous", R"({"law":"TIME","table":{"table":[[1e-10,3,-0.5,0.5]]}})", "law", R"("TIME")", "kmaC_Viscous"},
+    {{"electrolyte"}, "Electrolyte", R"({"table":{"table":[[1,2]]}})", "dependencies", "0", "kmaC_Electrolyte"},
 };
 
 cmd_Json Ok(cmd_Session& s, const cmd_Json& command) {
@@ -222,6 +260,35 @@ TEST(KmaOptionClasses, RulesFailWithTheirMessages) {
       {"inelastic heat fraction above 1", Check<kmaC_InelasticHeatFraction>([](auto& o) { o.SetFraction(1.0001); }),
        "Fraction is greater than the maximum."},
       {"joule heat fraction 1", Check<kmaC_JouleHeatFraction>([](auto& o) { o.SetFraction(1.0); }), ""},
+      {"hyperfoam n 7", Check<kmaC_Hyperfoam>([](auto& o) { o.SetN(7); }), "Value for n is greater than the maximum."},
+      {"hyperfoam poisson 0.6", Check<kmaC_Hyperfoam>([](auto& o) { o.SetPoisson(0.6); }),
+       "The poisson's ratio given is greater than the maximum."},
+      {"element removal without a stress", Check<kmaC_LowDensityFoam>([](auto& o) { o.SetElementRemoval(true); }),
+       "The value of maximum allowable principal tensile stress should be greater than zero."},
+      {"stress without element removal", Check<kmaC_LowDensityFoam>([](auto& o) { o.SetMaxAllowablePrincipalStress(-1.0); }), ""},
+      {"anisotropic B-H curve", Check<kmaC_MagneticPermeability>([](auto& o) {
+         o.SetNonlinearBH(true);
+         o.SetType(kmaC_MagneticPermeability::TypeEnm::ANISOTROPIC);
+       }),
+       "Anisotropic material type is inappropriate for nonlinear BH material."},
+      {"frequency dependent B-H curve", Check<kmaC_MagneticPermeability>([](auto& o) {
+         o.SetNonlinearBH(true);
+         o.SetFrequencyDependency(true);
+       }),
+       "Frequency dependency is not applicable for nonlinear BH material."},
+      {"deviatoric eccentricity 0.5", Check<kmaC_MohrCoulomb>([](auto& o) { o.SetDeviatoricEccentricity(0.5); }),
+       "invalid flow potential eccentricity in the deviatoric plane."},
+      {"deviatoric eccentricity 0.51", Check<kmaC_MohrCoulomb>([](auto& o) { o.SetDeviatoricEccentricity(0.51); }), ""},
+      {"meridional eccentricity negative", Check<kmaC_MohrCoulomb>([](auto& o) { o.SetMeridionalEccentricity(-0.1); }),
+       "Eccentricity given is less than the minimum."},
+      {"drucker prager eccentricity negative", Check<kmaC_DruckerPrager>([](auto& o) { o.SetEccentricity(-0.01); }),
+       "Eccentricity given is less than the minimum."},
+      {"gasket area in stress units", Check<kmaC_ThicknessBehavior>([](auto& o) { o.SetContactArea(2.0); }),
+       "Gasket contact area may only be defined when gasket thickness behavior has units of force."},
+      {"gasket tensile stiffness 0", Check<kmaC_ThicknessBehavior>([](auto& o) { o.SetTensileStiffnessFactor(0.0); }),
+       "Tensile tiffness factor must be greater than zero."},
+      {"relative density above 1", Check<kmaC_PorousMetalPlasticity>([](auto& o) { o.SetRelativeDensity(1.01); }),
+       "Fraction is greater than the maximum."},
   };
   for (const RuleCase& c : cases) {
     SCOPED_TRACE(c.what);

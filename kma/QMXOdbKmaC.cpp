@@ -98,6 +98,8 @@
 #include "kma/kmaC_Viscous.h"
 #include "kma/kmaC_Viscous_Versions.h"
 #include "kma/kmaC_Electrolyte.h"
+#include "kma/kmaC_DamageInitiation.h"
+#include "kma/kmaC_DamageInitiation_Versions.h"
 #include "kma/kmaC_Elastic.h"
 #include "kma/kmaC_FailStrain.h"
 #include "kma/kmaC_FailStress.h"
@@ -342,6 +344,7 @@ void QMXOdbKmaC_initialize(int& tally) {
   metadata.initClassMetadata(&kmaC_ThicknessBehavior::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Viscous::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Electrolyte::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_DamageInitiation::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Material::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MaterialContainer::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MCWrapper::InitializeMetadata, 7);
@@ -422,6 +425,12 @@ void QMXOdbKmaC_initialize(int& tally) {
   RegisterOld<kmaC_ThicknessBehavior_203>(old);
   RegisterOld<kmaC_Viscous_203>(old);
   RegisterOld<kmaC_Viscous_438>(old);
+  RegisterOld<kmaC_DamageInitiation_869>(old);
+  RegisterOld<kmaC_DamageInitiation_883>(old);
+  RegisterOld<kmaC_DamageInitiation_1352>(old);
+  RegisterOld<kmaC_DamageInitiation_1390>(old);
+  RegisterOld<kmaC_DamageInitiation_1432>(old);
+  RegisterOld<kmaC_DamageInitiation_1801>(old);
 }
 
 void QMXOdbKmaC_finalize(int& tally) {

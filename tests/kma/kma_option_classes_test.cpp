@@ -117,6 +117,7 @@ const ScriptCase kCases[] = {
     {{"plasticityCorrection"}, "PlasticityCorrection", R"({"table":{"table":[[1,2]]}})", "dependencies", "0", "kmaC_PlasticityCorrection"},
     {{"thicknessBehavior"}, "ThicknessBehavior", R"({"units":"FORCE","contactArea":12.5,"table":{"table":[[10,0.1]]}})", "contactArea", "12.5", "kmaC_ThicknessBehavior"},
     {{"viscous"}, "Viscous", R"({"law":"TIME","table":{"table":[[1e-10,3,-0.5,0.5]]}})", "law", R"("TIME")", "kmaC_Viscous"},
+    {{"ductileDamageInitiation"}, "DamageInitiation", R"({"position":"NODES","direction":"TMORI","table":{"table":[[0.3,0.33,0]]}})", "position", R"("NODES")", "kmaC_DamageInitiation"},
     {{"electrolyte"}, "Electrolyte", R"({"table":{"table":[[1,2]]}})", "dependencies", "0", "kmaC_Electrolyte"},
 };
 

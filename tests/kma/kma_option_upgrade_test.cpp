@@ -9,6 +9,7 @@
 #include "dbfile/dbf_File.h"
 #include "kma/kmaC_AnnealTemperature.h"
 #include "kma/kmaC_Creep_Versions.h"
+#include "kma/kmaC_DamageInitiation_Versions.h"
 #include "kma/kmaC_Hyperelastic.h"
 #include "kma/kmaC_MaterialContainer.h"
 #include "kma/kmaC_MohrCoulomb.h"
@@ -142,6 +143,24 @@ TEST(KmaOptionUpgrade, OlderLayoutsReadBackWithTheFilledValues) {
       {"kmaC_MohrCoulomb", 1422, {"useTensionCutoff"}, "mohrCoulomb",
        [](kmaC_Material& m) { m.SetOption("mohrCoulomb", MohrCoulombWith(0.8, 0.3, true)); },
        MohrCoulombIs(0.8, 0.3, false)},
+      {"kmaC_DamageInitiation", 1390, {"direction", "position", "feq", "fnn", "fnt", "frequency"}, "ductileDamageInitiation",
+       [](kmaC_Material& m) {
+         kmaC_DamageInitiation d;
+         d.SetDirection(kmaC_DamageInitiation::DirectionEnm::TMORI);
+         d.SetPosition(kmaC_DamageInitiation::PositionEnm::NODES);
+         d.SetFeq(2.0);
+         d.SetFrequency(3);
+         d.SetOmega(0.5);
+         m.SetOption("ductileDamageInitiation", d);
+       },
+       [](const kmaC_Material& m) {
+         const auto& d = dynamic_cast<const kmaC_DamageInitiation&>(*m.GetOption("ductileDamageInitiation"));
+         EXPECT_EQ(d.GetDirection(), kmaC_DamageInitiation::DirectionEnm::NMORI);
+         EXPECT_EQ(d.GetPosition(), kmaC_DamageInitiation::PositionEnm::CENTROID);
+         EXPECT_EQ(d.GetFeq(), 10.0);
+         EXPECT_EQ(d.GetFrequency(), 1);
+         EXPECT_EQ(d.GetOmega(), 0.5);  // present at 1390, kept
+       }},
       {"kmaC_Hyperelastic", 203,
        {"testData", "n", "moduliTimeScale", "materialType", "poissonRatio", "behaviorType"}, "hyperelastic",
        [](kmaC_Material& m) { m.SetOption("hyperelastic", HyperelasticWith(true)); },
@@ -182,7 +201,10 @@ TEST(KmaOptionUpgrade, TheExportedCreepAndViscousConvertersFillTheNewRow) {
     const char* field;
     const char* value;
   };
-  const FnCase cases[] = {{&Upgrade_kmaC_Creep_203_2008, "time", "TOTAL"}, {&Upgrade_kmaC_Viscous_438_2008, "law", "STRAIN"}};
+  const FnCase cases[] = {{&Upgrade_kmaC_Creep_203_2008, "time", "TOTAL"},
+                          {&Upgrade_kmaC_Viscous_438_2008, "law", "STRAIN"},
+                          {&Upgrade_kmaC_DamageInitiation_1390_1432, "direction", "NMORI"},
+                          {&Upgrade_kmaC_DamageInitiation_1432_1801, "position", "CENTROID"}};
   for (const FnCase& c : cases) {
     SCOPED_TRACE(c.field);
     cls_Record old;

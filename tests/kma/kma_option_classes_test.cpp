@@ -24,6 +24,9 @@
 #include "kma/kmaC_PorousMetalPlasticity.h"
 #include "kma/kmaC_ThicknessBehavior.h"
 #include "kma/kmaC_Hyperelastic.h"
+#include "kma/kmaC_MaterialInMaterialContainerShortcut.h"
+#include "kma/kmaC_MaterialOptionInMaterialOptionShortcut.h"
+#include "kma/kmaC_MaterialOptionInMaterialShortcut.h"
 #include "kma/kmaC_InelasticHeatFraction.h"
 #include "kma/kmaC_JouleHeatFraction.h"
 #include "kma/kmaC_Ornl.h"
@@ -309,6 +312,53 @@ TEST(KmaOptionClasses, TheRealTensileFailureIsRefusedOnKinematicHardening) {
             " Error: Tensile Failure suboption can be used only for the Isotropic or Johnson-Cook Hardening type in Plastic. ");
   p.SetHardening(kmaC_Plastic::HardeningEnm::JOHNSON_COOK);
   EXPECT_NO_THROW(p.AssertValid());
+}
+
+TEST(KmaOptionClasses, AnUnknownSubOptionIsRefusedWithItsOwnersMessage) {
+  kmaT_Start();
+  struct Case {
+    const char* slot;
+    const char* type;
+    const char* message;
+  };
+  const Case cases[] = {
+      {"hyperelastic", "Hyperelastic", "Unknown material option name for hyperelastic"},
+      {"creep", "Creep", "Unknown material option name for creep"},
+      {"viscoelastic", "Viscoelastic", "Unknown material option name for viscoelastic"},
+      {"concreteDamagedPlasticity", "ConcreteDamagedPlasticity", "Unknown material option name for Concrete Damaged Plasticity"},
+      {"foam", "Foam", "Unknown material option name for foam"},
+      {"eos", "Eos", "Unknown material option name in eos"},
+      {"brittleCracking", "BrittleCracking", "Unknown material option name for brittle cracking"},
+      {"capPlasticity", "CapPlasticity", "Unknown material option name for cap plasticity"},
+      {"clayPlasticity", "ClayPlasticity", "Unknown material option name for clay plasticity"},
+      {"concrete", "Concrete", "Unknown material option name for concrete"},
+      {"castIronPlasticity", "CastIronPlasticity", "Unknown material option name for cast iron plasticity"},
+      {"druckerPrager", "DruckerPrager", "Unknown material option name for drucker prager"},
+      {"hyperfoam", "Hyperfoam", "Unknown material option name for hyperfoam"},
+      {"lowDensityFoam", "LowDensityFoam", "Unknown material option name for low-density foam"},
+      {"mohrCoulomb", "MohrCoulomb", "Unknown material option name for Mohr Coulomb plasticity"},
+      {"moistureSwelling", "MoistureSwelling", "Unknown material option name for moisture swelling"},
+      {"permeability", "Permeability", "Unknown material option name for permeability"},
+      {"porousMetalPlasticity", "PorousMetalPlasticity", "Unknown material option name for porous metal plasticity"},
+      {"swelling", "Swelling", "Unknown material option name for swelling"},
+      {"thicknessBehavior", "ThicknessBehavior", "Unknown material option name for thickness behavior"},
+      {"diffusivity", "Diffusivity", "Unknown material option name for diffusivity"},
+      {"density", "Density", "Material option has no suboptions"},
+      {"ductileDamageInitiation", "DamageInitiation", "Material option has no suboptions"},
+  };
+  cmd_Session s;
+  Ok(s, {{"op", "create"}, {"path", {"M"}}});
+  Ok(s, {{"op", "create"}, {"path", {"M", "materials", "A"}}, {"type", "Material"}});
+  for (const Case& c : cases) Ok(s, {{"op", "set"}, {"path", {"M", "materials", "A", c.slot}}, {"type", c.type}});
+  const ddr_Model& model = *s.Database().ModifyModel("M");
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.slot);
+    const kmaC_MaterialOptionShortcut owner =
+        kmaC_MaterialOptionInMaterialShortcut(kmaC_MaterialInMaterialContainerShortcut("A"), c.slot);
+    ASSERT_NE(owner.ConstGet(model), nullptr);
+    const kmaC_MaterialOptionShortcut sub = kmaC_MaterialOptionInMaterialOptionShortcut(owner, "notASubOption");
+    EXPECT_EQ(qmx_Catch<nex_CmdError>([&] { sub.ConstGet(model); }).Message(), c.message);
+  }
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "kma/kmaC_Elastic.h"
+#include "kma/kmaC_Potential.h"
 #include "kma/kmaC_Plastic.h"
 #include "platform/base/omu_PrimEnum.h"
 #include "tests/kma/kmaT_Support.h"
@@ -245,9 +246,13 @@ TEST(KmaPlastic, SubOptionsAreValidatedInTheirOrderAfterDependencies) {
 
 TEST(KmaPlastic, SubOptionSlotsRefuseAnotherClass) {
   kmaC_Plastic p;
-  auto e = qmx_Catch<nex_CmdError>([&] { p.SetOrnl(kmaT_StandIn<kmaC_OptionClass::Potential>()); });
+  auto e = qmx_Catch<nex_CmdError>([&] { p.SetOrnl(kmaC_Potential()); });
+  EXPECT_EQ(e.Message(), "The option slot \"ornl\" holds a kmaC_Ornl, not a kmaC_Potential");
+  EXPECT_EQ(p.GetOrnl(), nullptr);
+  // A class the library does not offer is named by its type id.
+  e = qmx_Catch<nex_CmdError>([&] { p.SetOrnl(kmaT_StandIn<kmaC_OptionClass::VolumetricTestData>()); });
   EXPECT_EQ(e.Message(), "The option slot \"ornl\" holds a kmaC_Ornl, not an object of type id " +
-                             std::to_string((568u << 16) | 71u));
+                             std::to_string((568u << 16) | 92u));
   EXPECT_EQ(p.GetOrnl(), nullptr);
 }
 

@@ -1,0 +1,58 @@
+#pragma once
+// Annealing of a plastic option: above the anneal temperature the plastic strain is set to zero.
+// The data may depend on field variables.
+#include "kma/kmaC_MaterialOption.h"
+#include "kma/kmaC_MaterialTable.h"
+
+class kmaC_AnnealTemperature : public kmaC_MaterialOption {
+ public:
+
+  using BaseClass = kmaC_MaterialOption;
+  using RootClass = kmaC_MaterialOption;
+  static constexpr const char* kClassName = "kmaC_AnnealTemperature";
+  static constexpr const char* kScriptName = "AnnealTemperature";
+  static constexpr int kVersion = 2002;
+  static constexpr unsigned TypeId() { return kmaC_OptionTypeId(kmaC_OptionClass::AnnealTemperature); }
+
+  static constexpr auto Fields() {
+    using C = kmaC_AnnealTemperature;
+    return std::tuple{
+        fw_Field{"temperatureDependency", 0, "temperatureDependency", &C::temperatureDependency},
+        fw_Field{"dependencies", 1, "dependencies", &C::dependencies},
+        fw_Field{"table", 2, "table", &C::table},
+    };
+  }
+
+  kmaC_AnnealTemperature() = default;
+  explicit kmaC_AnnealTemperature(const cls_ReadVisitor& r);
+  kmaC_AnnealTemperature* Copy() const override;
+  void AssertValid() const override;
+  unsigned DynTypeId() const override { return TypeId(); }
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+
+  bool operator==(const kmaC_AnnealTemperature& o) const;
+  bool operator!=(const kmaC_AnnealTemperature& o) const { return !(*this == o); }
+
+  static cow_String constructorCmd() { return kScriptName; }
+  static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
+  static cow_String dependenciesCmd() { return "dependencies"; }
+  static cow_String tableCmd() { return "table"; }
+  static cow_String setValuesCmd() { return "setValues"; }
+
+  bool GetTemperatureDependency() const { return temperatureDependency; }
+  void SetTemperatureDependency(bool v) { temperatureDependency = v; }
+  std::int32_t GetDependencies() const { return dependencies; }
+  void SetDependencies(std::int32_t v) { dependencies = v; }
+  const kmaC_MaterialTable& GetTable() const { return table; }
+  void SetTable(const kmaC_MaterialTable& v) { table = v; }
+
+ protected:
+  bool SameAs(const kmaC_MaterialOption& o) const override;
+
+ private:
+  bool temperatureDependency = false;
+  std::int32_t dependencies = 0;
+  kmaC_MaterialTable table;
+};

@@ -1,0 +1,1 @@
+#include "kma/kmaC_CapPlasticity_Versions.h"

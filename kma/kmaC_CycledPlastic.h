@@ -1,0 +1,53 @@
+#pragma once
+// Cycled yield data of a plastic option under the ORNL rules: the yield stress against plastic
+// strain after cycling, possibly temperature dependent.
+#include "kma/kmaC_MaterialOption.h"
+#include "kma/kmaC_MaterialTable.h"
+
+class kmaC_CycledPlastic : public kmaC_MaterialOption {
+ public:
+
+  using BaseClass = kmaC_MaterialOption;
+  using RootClass = kmaC_MaterialOption;
+  static constexpr const char* kClassName = "kmaC_CycledPlastic";
+  static constexpr const char* kScriptName = "CycledPlastic";
+  static constexpr int kVersion = 203;
+  static constexpr unsigned TypeId() { return kmaC_OptionTypeId(kmaC_OptionClass::CycledPlastic); }
+
+  static constexpr auto Fields() {
+    using C = kmaC_CycledPlastic;
+    return std::tuple{
+        fw_Field{"temperatureDependency", 0, "temperatureDependency", &C::temperatureDependency},
+        fw_Field{"table", 1, "table", &C::table},
+    };
+  }
+
+  kmaC_CycledPlastic() = default;
+  explicit kmaC_CycledPlastic(const cls_ReadVisitor& r);
+  kmaC_CycledPlastic* Copy() const override;
+  void AssertValid() const override;
+  unsigned DynTypeId() const override { return TypeId(); }
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+
+  bool operator==(const kmaC_CycledPlastic& o) const;
+  bool operator!=(const kmaC_CycledPlastic& o) const { return !(*this == o); }
+
+  static cow_String constructorCmd() { return kScriptName; }
+  static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
+  static cow_String tableCmd() { return "table"; }
+  static cow_String setValuesCmd() { return "setValues"; }
+
+  bool GetTemperatureDependency() const { return temperatureDependency; }
+  void SetTemperatureDependency(bool v) { temperatureDependency = v; }
+  const kmaC_MaterialTable& GetTable() const { return table; }
+  void SetTable(const kmaC_MaterialTable& v) { table = v; }
+
+ protected:
+  bool SameAs(const kmaC_MaterialOption& o) const override;
+
+ private:
+  bool temperatureDependency = false;
+  kmaC_MaterialTable table;
+};

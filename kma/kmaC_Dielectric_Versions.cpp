@@ -1,0 +1,6 @@
+#include "kma/kmaC_Dielectric_Versions.h"
+
+void* kmaC_Dielectric_Upgrade_203_2002(const dbc_Row&, dbc_Row& newRow, int) {
+  newRow.SetBool(rfm_FieldHandle("frequencyDependency", -1), false);
+  return nullptr;
+}

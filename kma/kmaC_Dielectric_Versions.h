@@ -1,0 +1,8 @@
+#pragma once
+// The retired layouts of kmaC_Dielectric: 203.
+#include "kma/kmaC_Dielectric.h"
+#include "kma/kmaC_OldClassStep.h"
+
+// 203 to 2002: adds frequencyDependency false.
+void* kmaC_Dielectric_Upgrade_203_2002(const dbc_Row& oldRow, dbc_Row& newRow, int arg);
+class kmaC_Dielectric_203 : public kmaC_OldClassConversion<kmaC_Dielectric, 203, 2002, &kmaC_Dielectric_Upgrade_203_2002> {};

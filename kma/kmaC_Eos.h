@@ -1,0 +1,82 @@
+#pragma once
+// Equation of state: the form, its data table and the detonation energy of explosives.
+#include "kma/kmaC_MaterialOption.h"
+#include "kma/kmaC_MaterialTable.h"
+#include "platform/base/omu_PrimEnum.h"
+
+class kmaC_Eos : public kmaC_MaterialOption {
+ public:
+  enum class TypeEnm : std::int32_t { MIE_GRUNEISEN = 0, US_UP = 1, IDEAL_GAS = 2, TABULAR = 3, JWL = 4, IGNITION_AND_GROWTH = 5, P_ALPHA = 6, USER = 7 };
+  static constexpr omu_EnumLiteral kTypeLiterals[] = {{"MIE_GRUNEISEN", 0}, {"US_UP", 1}, {"IDEAL_GAS", 2}, {"TABULAR", 3}, {"JWL", 4}, {"IGNITION_AND_GROWTH", 5}, {"P_ALPHA", 6}, {"USER", 7}, {nullptr, 0}};
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(TypeEnm) { return kTypeLiterals; }
+
+  using BaseClass = kmaC_MaterialOption;
+  using RootClass = kmaC_MaterialOption;
+  static constexpr const char* kClassName = "kmaC_Eos";
+  static constexpr const char* kScriptName = "Eos";
+  static constexpr int kVersion = 2002;
+  static constexpr unsigned TypeId() { return kmaC_OptionTypeId(kmaC_OptionClass::Eos); }
+
+  static constexpr auto Fields() {
+    using C = kmaC_Eos;
+    return std::tuple{
+        fw_Field{"type", 0, "type", &C::type},
+        fw_Field{"detonationEnergy", 1, "detonationEnergy", &C::detonationEnergy},
+        fw_Field{"solidTable", 2, "solidTable", &C::solidTable},
+        fw_Field{"gasTable", 3, "gasTable", &C::gasTable},
+        fw_Field{"temperatureDependency", 4, "temperatureDependency", &C::temperatureDependency},
+        fw_Field{"dependencies", 5, "dependencies", &C::dependencies},
+        fw_Field{"table", 6, "table", &C::table},
+    };
+  }
+
+  kmaC_Eos() = default;
+  explicit kmaC_Eos(const cls_ReadVisitor& r);
+  kmaC_Eos* Copy() const override;
+  void AssertValid() const override;
+  unsigned DynTypeId() const override { return TypeId(); }
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  const char* UnknownSubOptionMessage() const override { return "Unknown material option name in eos"; }
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+
+  bool operator==(const kmaC_Eos& o) const;
+  bool operator!=(const kmaC_Eos& o) const { return !(*this == o); }
+
+  static cow_String constructorCmd() { return kScriptName; }
+  static cow_String typeCmd() { return "type"; }
+  static cow_String detonationEnergyCmd() { return "detonationEnergy"; }
+  static cow_String solidTableCmd() { return "solidTable"; }
+  static cow_String gasTableCmd() { return "gasTable"; }
+  static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
+  static cow_String dependenciesCmd() { return "dependencies"; }
+  static cow_String tableCmd() { return "table"; }
+  static cow_String setValuesCmd() { return "setValues"; }
+
+  TypeEnm GetType() const { return type; }
+  void SetType(TypeEnm v) { type = omu_PrimEnum<TypeEnm, 1>(v).GetValue(); }
+  double GetDetonationEnergy() const { return detonationEnergy; }
+  void SetDetonationEnergy(double v) { detonationEnergy = v; }
+  const kmaC_MaterialTable& GetSolidTable() const { return solidTable; }
+  void SetSolidTable(const kmaC_MaterialTable& v) { solidTable = v; }
+  const kmaC_MaterialTable& GetGasTable() const { return gasTable; }
+  void SetGasTable(const kmaC_MaterialTable& v) { gasTable = v; }
+  bool GetTemperatureDependency() const { return temperatureDependency; }
+  void SetTemperatureDependency(bool v) { temperatureDependency = v; }
+  std::int32_t GetDependencies() const { return dependencies; }
+  void SetDependencies(std::int32_t v) { dependencies = v; }
+  const kmaC_MaterialTable& GetTable() const { return table; }
+  void SetTable(const kmaC_MaterialTable& v) { table = v; }
+
+ protected:
+  bool SameAs(const kmaC_MaterialOption& o) const override;
+
+ private:
+  TypeEnm type = TypeEnm::MIE_GRUNEISEN;
+  double detonationEnergy = 0.0;
+  kmaC_MaterialTable solidTable;
+  kmaC_MaterialTable gasTable;
+  bool temperatureDependency = false;
+  std::int32_t dependencies = 0;
+  kmaC_MaterialTable table;
+};

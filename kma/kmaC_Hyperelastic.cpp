@@ -1,0 +1,24 @@
+#include "kma/kmaC_Hyperelastic.h"
+
+#include "framework/fw_FieldTable.h"
+#include "kma/kmaC_assert.h"
+
+kmaC_Hyperelastic::kmaC_Hyperelastic(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
+kmaC_Hyperelastic* kmaC_Hyperelastic::Copy() const { return mem_New<kmaC_Hyperelastic>(*this); }
+void kmaC_Hyperelastic::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
+bool kmaC_Hyperelastic::operator==(const kmaC_Hyperelastic& o) const { return fw_EqualFields(*this, o); }
+bool kmaC_Hyperelastic::SameAs(const kmaC_MaterialOption& o) const { return *this == static_cast<const kmaC_Hyperelastic&>(o); }
+void kmaC_Hyperelastic::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_Hyperelastic>(r); }
+void kmaC_Hyperelastic::CowDtor(void* p) { fw_CowDtor<kmaC_Hyperelastic>(p); }
+
+void kmaC_Hyperelastic::AssertValid() const {
+  kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
+  // Without test data the potential must be named.
+  kmaC_Assert(testData || type != TypeEnm::UNKNOWN, kmaC_InvalidPotentialType);
+  kmaC_Assert(n >= 1, kmaC_NBelowMinimum);
+  kmaC_Assert(n <= 6, kmaC_NAboveMaximum);
+  kmaC_Assert(!(testData && type == TypeEnm::POLYNOMIAL && n > 2), kmaC_PolynomialOrderWithTestData);
+  kmaC_Assert(poissonRatio >= -1.0, kmaC_PoissonBelowMinimum);
+  kmaC_Assert(poissonRatio <= 0.5, kmaC_PoissonAboveMaximum);
+  table.AssertValid();
+}

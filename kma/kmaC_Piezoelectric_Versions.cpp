@@ -1,0 +1,1 @@
+#include "kma/kmaC_Piezoelectric_Versions.h"

@@ -1,0 +1,62 @@
+#pragma once
+// Thermal expansion of the pore fluid.
+#include "kma/kmaC_MaterialOption.h"
+#include "kma/kmaC_MaterialTable.h"
+
+class kmaC_PoreFluidExpansion : public kmaC_MaterialOption {
+ public:
+
+  using BaseClass = kmaC_MaterialOption;
+  using RootClass = kmaC_MaterialOption;
+  static constexpr const char* kClassName = "kmaC_PoreFluidExpansion";
+  static constexpr const char* kScriptName = "PoreFluidExpansion";
+  static constexpr int kVersion = 203;
+  static constexpr unsigned TypeId() { return kmaC_OptionTypeId(kmaC_OptionClass::PoreFluidExpansion); }
+
+  static constexpr auto Fields() {
+    using C = kmaC_PoreFluidExpansion;
+    return std::tuple{
+        fw_Field{"zero", 0, "zero", &C::zero},
+        fw_Field{"temperatureDependency", 1, "temperatureDependency", &C::temperatureDependency},
+        fw_Field{"dependencies", 2, "dependencies", &C::dependencies},
+        fw_Field{"table", 3, "table", &C::table},
+    };
+  }
+
+  kmaC_PoreFluidExpansion() = default;
+  explicit kmaC_PoreFluidExpansion(const cls_ReadVisitor& r);
+  kmaC_PoreFluidExpansion* Copy() const override;
+  void AssertValid() const override;
+  unsigned DynTypeId() const override { return TypeId(); }
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+
+  bool operator==(const kmaC_PoreFluidExpansion& o) const;
+  bool operator!=(const kmaC_PoreFluidExpansion& o) const { return !(*this == o); }
+
+  static cow_String constructorCmd() { return kScriptName; }
+  static cow_String zeroCmd() { return "zero"; }
+  static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
+  static cow_String dependenciesCmd() { return "dependencies"; }
+  static cow_String tableCmd() { return "table"; }
+  static cow_String setValuesCmd() { return "setValues"; }
+
+  double GetZero() const { return zero; }
+  void SetZero(double v) { zero = v; }
+  bool GetTemperatureDependency() const { return temperatureDependency; }
+  void SetTemperatureDependency(bool v) { temperatureDependency = v; }
+  std::int32_t GetDependencies() const { return dependencies; }
+  void SetDependencies(std::int32_t v) { dependencies = v; }
+  const kmaC_MaterialTable& GetTable() const { return table; }
+  void SetTable(const kmaC_MaterialTable& v) { table = v; }
+
+ protected:
+  bool SameAs(const kmaC_MaterialOption& o) const override;
+
+ private:
+  double zero = 0.0;
+  bool temperatureDependency = false;
+  std::int32_t dependencies = 0;
+  kmaC_MaterialTable table;
+};

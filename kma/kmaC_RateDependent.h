@@ -1,0 +1,67 @@
+#pragma once
+// Rate dependence of the yield stress of a plastic option: the law of the overstress and its
+// data table (multiplier and exponent, Johnson-Cook constants or yield ratios against rate).
+#include "kma/kmaC_MaterialOption.h"
+#include "kma/kmaC_MaterialTable.h"
+#include "platform/base/omu_PrimEnum.h"
+
+class kmaC_RateDependent : public kmaC_MaterialOption {
+ public:
+  enum class TypeEnm : std::int32_t { POWER_LAW = 0, JOHNSON_COOK = 1, YIELD_RATIO = 2 };
+  static constexpr omu_EnumLiteral kTypeLiterals[] = {{"POWER_LAW", 0}, {"JOHNSON_COOK", 1}, {"YIELD_RATIO", 2}, {nullptr, 0}};
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(TypeEnm) { return kTypeLiterals; }
+
+  using BaseClass = kmaC_MaterialOption;
+  using RootClass = kmaC_MaterialOption;
+  static constexpr const char* kClassName = "kmaC_RateDependent";
+  static constexpr const char* kScriptName = "RateDependent";
+  static constexpr int kVersion = 203;
+  static constexpr unsigned TypeId() { return kmaC_OptionTypeId(kmaC_OptionClass::RateDependent); }
+
+  static constexpr auto Fields() {
+    using C = kmaC_RateDependent;
+    return std::tuple{
+        fw_Field{"type", 0, "type", &C::type},
+        fw_Field{"temperatureDependency", 1, "temperatureDependency", &C::temperatureDependency},
+        fw_Field{"dependencies", 2, "dependencies", &C::dependencies},
+        fw_Field{"table", 3, "table", &C::table},
+    };
+  }
+
+  kmaC_RateDependent() = default;
+  explicit kmaC_RateDependent(const cls_ReadVisitor& r);
+  kmaC_RateDependent* Copy() const override;
+  void AssertValid() const override;
+  unsigned DynTypeId() const override { return TypeId(); }
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+
+  bool operator==(const kmaC_RateDependent& o) const;
+  bool operator!=(const kmaC_RateDependent& o) const { return !(*this == o); }
+
+  static cow_String constructorCmd() { return kScriptName; }
+  static cow_String typeCmd() { return "type"; }
+  static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
+  static cow_String dependenciesCmd() { return "dependencies"; }
+  static cow_String tableCmd() { return "table"; }
+  static cow_String setValuesCmd() { return "setValues"; }
+
+  TypeEnm GetType() const { return type; }
+  void SetType(TypeEnm v) { type = omu_PrimEnum<TypeEnm, 1>(v).GetValue(); }
+  bool GetTemperatureDependency() const { return temperatureDependency; }
+  void SetTemperatureDependency(bool v) { temperatureDependency = v; }
+  std::int32_t GetDependencies() const { return dependencies; }
+  void SetDependencies(std::int32_t v) { dependencies = v; }
+  const kmaC_MaterialTable& GetTable() const { return table; }
+  void SetTable(const kmaC_MaterialTable& v) { table = v; }
+
+ protected:
+  bool SameAs(const kmaC_MaterialOption& o) const override;
+
+ private:
+  TypeEnm type = TypeEnm::POWER_LAW;
+  bool temperatureDependency = false;
+  std::int32_t dependencies = 0;
+  kmaC_MaterialTable table;
+};

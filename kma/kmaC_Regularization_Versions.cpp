@@ -1,0 +1,1 @@
+#include "kma/kmaC_Regularization_Versions.h"

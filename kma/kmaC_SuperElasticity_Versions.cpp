@@ -1,0 +1,1 @@
+#include "kma/kmaC_SuperElasticity_Versions.h"

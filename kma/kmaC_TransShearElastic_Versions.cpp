@@ -1,0 +1,1 @@
+#include "kma/kmaC_TransShearElastic_Versions.h"

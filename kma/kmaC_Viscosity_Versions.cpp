@@ -1,0 +1,1 @@
+#include "kma/kmaC_Viscosity_Versions.h"

@@ -34,6 +34,9 @@ class mdl_1DArrayList : public mem_Allocated, public mdl_RepositoryFace<mdl_1DAr
   mdl_1DArrayList() = default;
   mdl_1DArrayList(const mdl_1DArrayList&) = default;
   mdl_1DArrayList& operator=(const mdl_1DArrayList&) = default;
+  // Declared, because the virtual destructor would otherwise leave only the copy.
+  mdl_1DArrayList(mdl_1DArrayList&&) = default;
+  mdl_1DArrayList& operator=(mdl_1DArrayList&&) = default;
   explicit mdl_1DArrayList(const cls_ReadVisitor& r) : uid_(r.GetUid()) {
     r.ReadObjectList("values", [&](std::size_t, const cls_ReadVisitor* e) {
       if (!e) nex_ThrowCmd(std::string("The stored list ") + kClassName + " holds a null element");

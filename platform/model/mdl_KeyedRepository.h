@@ -78,6 +78,10 @@ class mdl_KeyedRepository : public mem_Allocated,
   mdl_KeyedRepository() = default;
   mdl_KeyedRepository(const mdl_KeyedRepository&) = default;
   mdl_KeyedRepository& operator=(const mdl_KeyedRepository&) = default;
+  // Declared, because the virtual destructor would otherwise leave only the copy: a repository
+  // read from a file is moved into its wrapper, not copied element by element.
+  mdl_KeyedRepository(mdl_KeyedRepository&&) = default;
+  mdl_KeyedRepository& operator=(mdl_KeyedRepository&&) = default;
   explicit mdl_KeyedRepository(const cls_ReadVisitor& r) : uid_(r.GetUid()) {
     std::vector<Key> keys = KeyPolicy::Read(r);
     std::vector<Handle> values;

@@ -101,6 +101,12 @@ class mdl_1DArrayList : public mem_Allocated, public mdl_RepositoryFace<mdl_1DAr
     for (std::size_t i = 0; i < items_.size(); ++i) keys.emplace_back(std::to_string(i));
     return keys;
   }
+  void ForEachElement(mdl_Repository::ElementVisitor visit, void* context) const override {
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+      const T& obj = items_[i].Get();
+      visit(context, cow_String(std::to_string(i)), static_cast<const cls_Root<T>*>(&obj), cls_ClassOf(obj));
+    }
+  }
   static std::optional<Key> ParseKey(const cow_String& text) { return mdl_ParseIntegerKey(text.view()); }
   static Key KeyOf(const cow_String& key) {
     auto i = mdl_ParseIntegerKey(key.view());

@@ -169,6 +169,12 @@ class mdl_KeyedRepository : public mem_Allocated,
     for (const auto& kv : items_) keys.push_back(KeyPolicy::Text(kv.first));
     return keys;
   }
+  void ForEachElement(mdl_Repository::ElementVisitor visit, void* context) const override {
+    for (const auto& [k, h] : items_) {
+      const T& obj = h.Get();
+      visit(context, KeyPolicy::Text(k), static_cast<const cls_Root<T>*>(&obj), cls_ClassOf(obj));
+    }
+  }
   static std::optional<Key> ParseKey(const cow_String& text) { return KeyPolicy::Parse(text); }
   static Key KeyOf(const cow_String& text) {
     auto k = KeyPolicy::Parse(text);

@@ -4,6 +4,14 @@
 //   objects_per_s      this library (dbf_Save / dbf_Open)
 //   raw_objects_per_s  the raw baseline
 //   ratio_to_raw       this library's time over the baseline's (the target is at most 1.5)
+// BM_Validate checks every object of the model through the model's walk (what "validate" does)
+// against a bare loop calling the same checks straight on the typed elements (counter "ratio").
+// BM_UpgradeOpen opens a file whose control rows are one class version old (upgraded through the
+// converter as they are read) against an open of the same file at today's version ("ratio").
+// BM_FirstChangeAfterCopy copies the database (shared, O(1)) and changes one control: the first
+// change separates the model and the control repository, a copy of the repository's key map that
+// shares every element (O(N) handle copies); the counter "ratio" is its cost over a second change.
+// The program ends with one table of the medians of every ratio.
 // BM_OpenRowsOnly loads the same rows without building objects, to tell the file's share of an
 // open from the classes'. BM_SaveJournal compares the journal modes and page sizes of a whole
 // save into a new file.
@@ -13,7 +21,9 @@
 #include <sqlite3.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <map>
@@ -22,7 +32,12 @@
 #include <vector>
 
 #include "bench/bnhT_Table.h"
+#include "command/cmd_Check.h"
+#include "dbfile/dbf_Format.h"
+#include "dbfile/dbf_Vfs.h"
 #include "kad/kadC_ACWrapper.h"
+#include "platform/model/ddr_Model.h"
+#include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/persist/dbc_Converter.h"
 #include "dbfile/dbf_File.h"
 #include "dbfile/dbf_Reader.h"
@@ -371,6 +386,113 @@ void BM_OpenRowsOnly(benchmark::State& state) {
   Report(state, n, ours, base);
 }
 
+void BM_Validate(benchmark::State& state) {
+  const std::int64_t n = state.range(0);
+  const ddr_Database& db = Database(n);
+  const ddr_Model& m = *db.FindModel("Model-1");
+  const auto& controls = dynamic_cast<const kadC_AdptMeshCtrlCont&>(*m.FindRepository("adaptiveMeshControls"));
+  const auto& tables = dynamic_cast<const bnhT_TableCont&>(*m.FindRepository("benchTables"));
+  const cls_ClassMetadata& tableClass = cls_MetadataOf(bnhT_Table::kClassName);
+  double ours = 0, base = 0;
+  for (auto _ : state) {
+    auto t0 = Clock::now();
+    cmd_Checker checker;
+    checker.CheckDatabase(db);
+    auto t1 = Clock::now();
+    std::size_t bare = 0;
+    for (const auto& kv : controls.Items()) {
+      kv.second.Get().AssertValid();
+      ++bare;
+    }
+    for (const auto& kv : tables.Items()) {
+      tableClass.AssertValid(static_cast<const cls_Root<bnhT_Table>*>(&kv.second.Get()));
+      ++bare;
+    }
+    auto t2 = Clock::now();
+    if (checker.Checked() != bare || !checker.Failures().empty()) {
+      std::fprintf(stderr, "validation: %zu checked, %zu failures, %zu in the bare loop\n", checker.Checked(),
+                   checker.Failures().size(), bare);
+      std::abort();
+    }
+    ours += Seconds(t0, t1);
+    base += Seconds(t1, t2);
+    state.SetIterationTime(Seconds(t0, t1));
+  }
+  state.counters["ratio"] = ours / base;
+}
+
+// Rewrites a file's control rows into the layout of the control's previous version (without the
+// two weights its current version added), as that version of the library wrote them.
+void MakeOneVersionOld(const std::string& path) {
+  const std::vector<std::string> dropped = {"standardVolumetricSmoothingWeight", "originalConfigurationProjectionWeight"};
+  std::vector<cls_Attribute> attrs;
+  for (const cls_Attribute& a : cls_ClassRegistrar::Instance().ByName("kadC_AdptMeshCtrl")->Attributes())
+    if (std::find(dropped.begin(), dropped.end(), a.handle.Name().str()) == dropped.end()) attrs.push_back(a);
+  sqlite3* s = nullptr;
+  Check(sqlite3_open_v2(path.c_str(), &s, SQLITE_OPEN_READWRITE, dbf_ChecksumVfs()), s);
+  Exec(s,
+       "BEGIN;"
+       "ALTER TABLE kadC_AdptMeshCtrl DROP COLUMN standardVolumetricSmoothingWeight;"
+       "ALTER TABLE kadC_AdptMeshCtrl DROP COLUMN originalConfigurationProjectionWeight;"
+       "DELETE FROM dbf_Fields WHERE class = 'kadC_AdptMeshCtrl' AND name IN"
+       " ('standardVolumetricSmoothingWeight', 'originalConfigurationProjectionWeight');"
+       "UPDATE dbf_Catalog SET version = 829, fieldHash = '" + dbf_FieldTableHash(attrs) +
+           "' WHERE name = 'kadC_AdptMeshCtrl';"
+       "COMMIT;");
+  sqlite3_close(s);
+}
+
+void BM_UpgradeOpen(benchmark::State& state) {
+  const std::int64_t n = state.range(0);
+  const std::string current = Dir() + "/current-" + std::to_string(n) + ".odb";
+  const std::string old = Dir() + "/old-" + std::to_string(n) + ".odb";
+  dbf_Save(Database(n), current);
+  dbf_Save(Database(n), old);
+  MakeOneVersionOld(old);
+  double ours = 0, base = 0;
+  for (auto _ : state) {
+    auto t0 = Clock::now();
+    auto upgraded = std::make_unique<ddr_Database>(dbf_Open(old));
+    auto t1 = Clock::now();
+    auto today = std::make_unique<ddr_Database>(dbf_Open(current));
+    auto t2 = Clock::now();
+    benchmark::DoNotOptimize(upgraded.get());
+    benchmark::DoNotOptimize(today.get());
+    upgraded.reset();
+    today.reset();
+    ours += Seconds(t0, t1);
+    base += Seconds(t1, t2);
+    state.SetIterationTime(Seconds(t0, t1));
+  }
+  state.counters["ratio"] = ours / base;
+}
+
+void BM_FirstChangeAfterCopy(benchmark::State& state) {
+  const std::int64_t n = state.range(0);
+  const ddr_Database& db = Database(n);
+  double copy = 0, first = 0, next = 0;
+  for (auto _ : state) {
+    auto t0 = Clock::now();
+    auto twin = std::make_unique<ddr_Database>(db);
+    auto t1 = Clock::now();
+    auto& controls = dynamic_cast<kadC_AdptMeshCtrlCont&>(*twin->ModifyModel("Model-1")->ModifyRepository("adaptiveMeshControls"));
+    controls.Get(cow_String("C-1")).SetInitialFeatureAngle(1.5);
+    auto t2 = Clock::now();
+    controls.Get(cow_String("C-2")).SetInitialFeatureAngle(2.5);
+    auto t3 = Clock::now();
+    twin.reset();  // releasing the separated repository is outside the measures
+    copy += Seconds(t0, t1);
+    first += Seconds(t1, t2);
+    next += Seconds(t2, t3);
+    state.SetIterationTime(Seconds(t0, t2));
+  }
+  const double iterations = static_cast<double>(state.iterations());
+  state.counters["copy_us"] = copy * 1e6 / iterations;
+  state.counters["first_change_us"] = first * 1e6 / iterations;
+  state.counters["next_change_us"] = next * 1e6 / iterations;
+  state.counters["ratio"] = first / next;
+}
+
 void BM_SaveJournal(benchmark::State& state) {
   const std::int64_t n = state.range(0);
   const ddr_Database& db = Database(n);
@@ -389,14 +511,84 @@ void BM_SaveJournal(benchmark::State& state) {
   state.counters["file_MB"] = static_cast<double>(std::filesystem::file_size(path)) / 1e6;
 }
 
+// --- the table of ratios ------------------------------------------------------------------------
+
+// The console's report, and the ratio of every run kept by benchmark and object count, so that the
+// program can end with one table of medians.
+class RatioReporter : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    benchmark::ConsoleReporter::ReportRuns(runs);
+    for (const Run& r : runs) {
+      auto it = r.counters.find("ratio_to_raw");
+      if (it == r.counters.end()) it = r.counters.find("ratio");
+      if (it == r.counters.end() || r.error_occurred) continue;
+      const auto key = std::make_pair(r.run_name.function_name, r.run_name.args);
+      if (r.run_type == Run::RT_Iteration) runs_[key].push_back(it->second.value);
+      else if (r.aggregate_name == "median") medians_[key] = it->second.value;
+    }
+  }
+  void PrintTable() const {
+    struct Line {
+      const char* function;
+      const char* label;
+      const char* target;
+    };
+    static const Line kLines[] = {
+        {"BM_Save", "save / raw SQLite", "1.2"},
+        {"BM_Open", "open / raw SQLite", "1.2"},
+        {"BM_UpgradeOpen", "open one version old / current open", "2"},
+        {"BM_Validate", "validate every object / bare loop", "2"},
+        {"BM_FirstChangeAfterCopy", "first change after a copy / next change", "-"},
+    };
+    static const char* kSizes[] = {"10000", "100000", "1000000"};
+    std::printf("\n%-42s %10s %10s %10s %8s\n", "median ratio", "10^4", "10^5", "10^6", "target");
+    for (const Line& l : kLines) {
+      std::printf("%-42s", l.label);
+      for (const char* size : kSizes) {
+        const double v = Median(std::make_pair(std::string(l.function), std::string(size)));
+        if (v < 0) std::printf(" %10s", "-");
+        else std::printf(" %10.2f", v);
+      }
+      std::printf(" %8s\n", l.target);
+    }
+  }
+
+ private:
+  using Key = std::pair<std::string, std::string>;
+  double Median(const Key& key) const {
+    if (auto m = medians_.find(key); m != medians_.end()) return m->second;
+    auto it = runs_.find(key);
+    if (it == runs_.end() || it->second.empty()) return -1;
+    std::vector<double> v = it->second;
+    std::sort(v.begin(), v.end());
+    const std::size_t h = v.size() / 2;
+    return v.size() % 2 ? v[h] : (v[h - 1] + v[h]) / 2;
+  }
+  std::map<Key, std::vector<double>> runs_;
+  std::map<Key, double> medians_;
+};
+
 }  // namespace
 
 BENCHMARK(BM_Save)->RangeMultiplier(10)->Range(1000, 1000000)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Open)->RangeMultiplier(10)->Range(1000, 1000000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_UpgradeOpen)->RangeMultiplier(10)->Range(10000, 1000000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_Validate)->RangeMultiplier(10)->Range(10000, 1000000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_FirstChangeAfterCopy)->RangeMultiplier(10)->Range(10000, 1000000)->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_OpenRowsOnly)->RangeMultiplier(10)->Range(1000, 1000000)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SaveJournal)
     ->ArgsProduct({{100000}, {0, 1, 2}, {4096, 16384, 65536}})
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 
-BENCHMARK_MAIN();
+// Run with --benchmark_repetitions=3 (or more) for the medians the table is meant to show.
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  RatioReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  reporter.PrintTable();
+  benchmark::Shutdown();
+  return 0;
+}

@@ -38,14 +38,18 @@ void cmd_Checker::Model(cmd_Path path, const ddr_Model& model) {
 }
 
 void cmd_Checker::Repository(const cmd_Path& path, const mdl_Repository& repo) {
-  cmd_Path p = path;
-  p.emplace_back();
-  for (const auto& key : repo.Keys()) {
-    const cls_ClassMetadata* cls = nullptr;
-    const void* obj = repo.Find(key, &cls);
-    p.back() = key;
-    Object(p, obj, *cls);
-  }
+  struct Walk {
+    cmd_Checker* self;
+    cmd_Path p;
+  } walk{this, path};
+  walk.p.emplace_back();
+  repo.ForEachElement(
+      [](void* context, const cow_String& key, const void* obj, const cls_ClassMetadata& cls) {
+        auto& w = *static_cast<Walk*>(context);
+        w.p.back() = key;
+        w.self->Object(w.p, obj, cls);
+      },
+      &walk);
 }
 
 void cmd_Checker::Object(const cmd_Path& path, const void* obj, const cls_ClassMetadata& md) {

@@ -34,6 +34,9 @@ class mdl_1DArrayList : public mem_Allocated, public mdl_RepositoryFace<mdl_1DAr
   mdl_1DArrayList() = default;
   mdl_1DArrayList(const mdl_1DArrayList&) = default;
   mdl_1DArrayList& operator=(const mdl_1DArrayList&) = default;
+  // Declared, because the virtual destructor would otherwise leave only the copy.
+  mdl_1DArrayList(mdl_1DArrayList&&) = default;
+  mdl_1DArrayList& operator=(mdl_1DArrayList&&) = default;
   explicit mdl_1DArrayList(const cls_ReadVisitor& r) : uid_(r.GetUid()) {
     r.ReadObjectList("values", [&](std::size_t, const cls_ReadVisitor* e) {
       if (!e) nex_ThrowCmd(std::string("The stored list ") + kClassName + " holds a null element");
@@ -97,6 +100,12 @@ class mdl_1DArrayList : public mem_Allocated, public mdl_RepositoryFace<mdl_1DAr
     keys.reserve(items_.size());
     for (std::size_t i = 0; i < items_.size(); ++i) keys.emplace_back(std::to_string(i));
     return keys;
+  }
+  void ForEachElement(mdl_Repository::ElementVisitor visit, void* context) const override {
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+      const T& obj = items_[i].Get();
+      visit(context, cow_String(std::to_string(i)), static_cast<const cls_Root<T>*>(&obj), cls_ClassOf(obj));
+    }
   }
   static std::optional<Key> ParseKey(const cow_String& text) { return mdl_ParseIntegerKey(text.view()); }
   static Key KeyOf(const cow_String& key) {

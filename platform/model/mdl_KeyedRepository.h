@@ -78,6 +78,10 @@ class mdl_KeyedRepository : public mem_Allocated,
   mdl_KeyedRepository() = default;
   mdl_KeyedRepository(const mdl_KeyedRepository&) = default;
   mdl_KeyedRepository& operator=(const mdl_KeyedRepository&) = default;
+  // Declared, because the virtual destructor would otherwise leave only the copy: a repository
+  // read from a file is moved into its wrapper, not copied element by element.
+  mdl_KeyedRepository(mdl_KeyedRepository&&) = default;
+  mdl_KeyedRepository& operator=(mdl_KeyedRepository&&) = default;
   explicit mdl_KeyedRepository(const cls_ReadVisitor& r) : uid_(r.GetUid()) {
     std::vector<Key> keys = KeyPolicy::Read(r);
     std::vector<Handle> values;
@@ -164,6 +168,12 @@ class mdl_KeyedRepository : public mem_Allocated,
     keys.reserve(items_.size());
     for (const auto& kv : items_) keys.push_back(KeyPolicy::Text(kv.first));
     return keys;
+  }
+  void ForEachElement(mdl_Repository::ElementVisitor visit, void* context) const override {
+    for (const auto& [k, h] : items_) {
+      const T& obj = h.Get();
+      visit(context, KeyPolicy::Text(k), static_cast<const cls_Root<T>*>(&obj), cls_ClassOf(obj));
+    }
   }
   static std::optional<Key> ParseKey(const cow_String& text) { return KeyPolicy::Parse(text); }
   static Key KeyOf(const cow_String& text) {

@@ -21,6 +21,17 @@ class mdl_Repository {
   virtual const void* Find(const cow_String& key, const cls_ClassMetadata** cls = nullptr) const = 0;
   // The element for modification: separated first, recorded as "Modify". Refuses a missing key.
   virtual void* Modify(const cow_String& key, const cls_ClassMetadata** cls = nullptr) = 0;
+  // Visits every element in order with its key text and class, in one walk of the repository
+  // rather than a search per key. The visitor is a plain function with a context, so that this
+  // face drags no functional header into every class.
+  using ElementVisitor = void (*)(void* context, const cow_String& key, const void* obj, const cls_ClassMetadata& cls);
+  virtual void ForEachElement(ElementVisitor visit, void* context) const {
+    for (const auto& key : Keys()) {
+      const cls_ClassMetadata* cls = nullptr;
+      const void* obj = Find(key, &cls);
+      visit(context, key, obj, *cls);
+    }
+  }
   // Takes ownership of an element made by the element class's metadata; recorded as "Insert".
   virtual void InsertNew(const cow_String& key, void* owned) = 0;
   // Recorded as "Remove"; false when the key is absent.

@@ -1,5 +1,6 @@
 #include "platform/persist/cls_Uid.h"
 
+#include <array>
 #include <atomic>
 #include <chrono>
 #include <random>
@@ -20,6 +21,30 @@ std::uint64_t Draw() {
   }();
   return gen();
 }
+
+// The value of each byte as a hexadecimal digit, 0xFF for any other byte: a uid is read with one
+// load per digit and one test at the end, as every stored row carries one.
+constexpr std::array<std::uint8_t, 256> kDigit = [] {
+  std::array<std::uint8_t, 256> t{};
+  for (auto& v : t) v = 0xFF;
+  for (int c = 0; c < 10; ++c) t['0' + c] = static_cast<std::uint8_t>(c);
+  for (int c = 0; c < 6; ++c) {
+    t['a' + c] = static_cast<std::uint8_t>(10 + c);
+    t['A' + c] = static_cast<std::uint8_t>(10 + c);
+  }
+  return t;
+}();
+
+// Sixteen digits; `bad` collects the high bits that only a byte that is no digit has.
+std::uint64_t Half(const char* p, unsigned& bad) {
+  std::uint64_t v = 0;
+  for (int i = 0; i < 16; ++i) {
+    const unsigned d = kDigit[static_cast<unsigned char>(p[i])];
+    bad |= d;
+    v = (v << 4) | (d & 0xF);
+  }
+  return v;
+}
 }  // namespace
 
 cls_Uid::cls_Uid() : hi_(Draw()), lo_(Draw()) {
@@ -37,13 +62,10 @@ std::string cls_Uid::ToString() const {
 }
 
 cls_Uid cls_Uid::FromString(std::string_view text) {
-  if (text.size() != 32) nex_ThrowCmd("Invalid uid \"" + std::string(text) + "\": 32 hexadecimal digits expected");
-  std::uint64_t parts[2] = {0, 0};
-  for (std::size_t i = 0; i < 32; ++i) {
-    char c = text[i];
-    int d = c >= '0' && c <= '9' ? c - '0' : c >= 'a' && c <= 'f' ? c - 'a' + 10 : c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
-    if (d < 0) nex_ThrowCmd("Invalid uid \"" + std::string(text) + "\": 32 hexadecimal digits expected");
-    parts[i / 16] = (parts[i / 16] << 4) | static_cast<std::uint64_t>(d);
+  unsigned bad = 0;
+  if (text.size() == 32) {
+    const std::uint64_t hi = Half(text.data(), bad), lo = Half(text.data() + 16, bad);
+    if (!(bad & 0xF0)) return cls_Uid(hi, lo);
   }
-  return cls_Uid(parts[0], parts[1]);
+  nex_ThrowCmd("Invalid uid \"" + std::string(text) + "\": 32 hexadecimal digits expected");
 }

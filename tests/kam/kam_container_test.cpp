@@ -72,7 +72,7 @@ TEST_F(KamContainer, EveryModelHasItsOwnAmplitudeRepository) {
   EXPECT_FALSE(ddr_Model().FindRepository("amplitudes")->Contains("PSD-1"));
   // the container and its wrapper read back with every kind as its own class
   kamC_AmplitudeContainer c = Amplitudes(model);
-  c.Insert("Spec", kamC_Spectrum());
+  c.Insert("Spectrum-1", kamC_Spectrum());
   kamC_AmplitudeContainerWrapper wrapper(c);
   cls_Record rec = cls_ToRecord(wrapper);
   EXPECT_EQ(rec.typeId, (580u << 16) | 28u);
@@ -80,7 +80,7 @@ TEST_F(KamContainer, EveryModelHasItsOwnAmplitudeRepository) {
   EXPECT_EQ(back, wrapper);
   kamC_AmplitudeContainer backC{cls_RecordReader(cls_ToRecord(c))};
   EXPECT_EQ(backC, c);
-  EXPECT_NE(dynamic_cast<const kamC_Spectrum*>(backC.ConstGet("Spec")), nullptr);
+  EXPECT_NE(dynamic_cast<const kamC_Spectrum*>(backC.ConstGet("Spectrum-1")), nullptr);
   EXPECT_NE(dynamic_cast<const kamC_PsdDefinition*>(backC.ConstGet("PSD-1")), nullptr);
 }
 

@@ -144,11 +144,11 @@ ddr_Database EveryKind() {
   sa.SetCriticalDamping(0.05);
   sa.SetAmplitude("Quake");
   c.Insert("SpectrumAmplitude", sa);
-  kamC_Spectrum spec;
-  spec.SetSpectrumType(kamC_Spectrum::SpectrumTypeEnm::VELOCITY);
-  spec.SetGravity(9.81);
-  spec.SetData(T2{{0.1, 1, 0.02}, {0.2, 2, 0.02}});
-  c.Insert("Spectrum", spec);
+  kamC_Spectrum spectrum;
+  spectrum.SetSpectrumType(kamC_Spectrum::SpectrumTypeEnm::VELOCITY);
+  spectrum.SetGravity(9.81);
+  spectrum.SetData(T2{{0.1, 1, 0.02}, {0.2, 2, 0.02}});
+  c.Insert("Spectrum", spectrum);
   kamC_PsdDefinition psd;
   psd.SetUnitType(kamC_PsdDefinition::PsdTypeEnm::DB);
   psd.SetReferencePower(1e-3);

@@ -115,8 +115,8 @@ TEST(KopLabels, TaskKindsHaveTheirLabelsInOrderAndNothingElseHasOne) {
 }
 
 TEST(KopLabels, EveryIdentifierHasItsGroup) {
-  const auto& specs = kopC_VariableSpecLabelMap::Instance();
-  EXPECT_EQ(specs.Size(), 107u);
+  const auto& variableLabels = kopC_VariableSpecLabelMap::Instance();
+  EXPECT_EQ(variableLabels.Size(), 107u);
   struct Case {
     const char* id;
     const char* group;
@@ -127,15 +127,15 @@ TEST(KopLabels, EveryIdentifierHasItsGroup) {
                         Case{"REACTION_FORCE_ABS", "Reaction force"}, Case{"ROT_X", "Rotation"}, Case{"SIG_MISES", "Stress"},
                         Case{"SIG_CONTACT_SHEAR_X", "Contact stress"}, Case{"TSR_ND_PEEQ", "Strain"},
                         Case{"STRAIN_ENERGY", "Strain energy"}, Case{"VOLUME", "Volume"}, Case{"WEIGHT", "Weight"}}) {
-    const auto* e = specs.Find(c.id);
+    const auto* e = variableLabels.Find(c.id);
     ASSERT_NE(e, nullptr) << c.id;
     EXPECT_STREQ(e->group, c.group) << c.id;
     EXPECT_NE(std::string(e->description), "") << c.id;
   }
-  EXPECT_EQ(specs.Find("volume"), nullptr);
-  EXPECT_EQ(specs.Find(""), nullptr);
-  EXPECT_STREQ(specs.Entries().front().identifier, "BEAD_HEIGHT");
-  EXPECT_STREQ(specs.Entries().back().identifier, "SIG_NEUBER_SEQ");
+  EXPECT_EQ(variableLabels.Find("volume"), nullptr);
+  EXPECT_EQ(variableLabels.Find(""), nullptr);
+  EXPECT_STREQ(variableLabels.Entries().front().identifier, "BEAD_HEIGHT");
+  EXPECT_STREQ(variableLabels.Entries().back().identifier, "SIG_NEUBER_SEQ");
 }
 
 }  // namespace

@@ -27,6 +27,12 @@ void cmd_WithinMember(const std::string& member, const std::function<void()>& fn
   }
 }
 
+const cls_ScriptField* cmd_TableShorthand(const cls_ClassMetadata& md) {
+  if (*md.ScriptName() || md.ScriptFields().empty() || !md.CanConstruct()) return nullptr;
+  const cls_ScriptField& f = md.ScriptFields().front();
+  return f.type == cls_AttrDoubleTable ? &f : nullptr;
+}
+
 namespace {
 
 // An object given inline: its class (a constructor key, or the declared class), then its members,
@@ -73,8 +79,10 @@ class Converter {
   Converter(const cls_ClassMetadata& owner, const cls_ScriptField& field) : owner_(owner), field_(field) {}
 
   [[noreturn]] void Refuse(const cmd_Json& v, const std::string& where = "") const {
+    const bool rows = field_.type == cls_AttrObject && field_.declared && cmd_TableShorthand(*field_.declared);
     cmd_Refuse("The member \"" + std::string(field_.scriptName) + "\" of " + cmd_ClassLabel(owner_) + " takes " +
-               Wanted(field_.type) + ", not " + (where.empty() ? "" : where + " ") + Describe(v));
+               (rows ? "an object, a table (an array of rows of numbers) or null" : Wanted(field_.type)) + ", not " +
+               Describe(v) + (where.empty() ? "" : " " + where));
   }
 
   static std::optional<std::int32_t> Int32(const cmd_Json& v) {
@@ -96,7 +104,7 @@ class Converter {
     if (!v.is_array()) Refuse(v);
     std::vector<E> out;
     out.reserve(v.size());
-    for (std::size_t i = 0; i < v.size(); ++i) out.push_back(element(v[i], "with element " + std::to_string(i)));
+    for (std::size_t i = 0; i < v.size(); ++i) out.push_back(element(v[i], "at element " + std::to_string(i)));
     return out;
   }
 
@@ -142,6 +150,13 @@ class Converter {
       case cls_AttrDoubleTable: return Table(v);
       case cls_AttrObject:
         if (v.is_null()) return std::monostate{};
+        if (v.is_array() && field_.declared) {
+          if (const cls_ScriptField* table = cmd_TableShorthand(*field_.declared)) {
+            cmd_Json members = cmd_Json::object();
+            members[table->scriptName] = v;
+            return Inline(members);
+          }
+        }
         if (!v.is_object()) Refuse(v);
         return Inline(v);
       case cls_AttrObjectList: {
@@ -150,7 +165,7 @@ class Converter {
         for (std::size_t i = 0; i < v.size(); ++i) {
           if (v[i].is_null()) out.push_back(nullptr);
           else if (v[i].is_object()) cmd_WithinMember(std::to_string(i), [&] { out.push_back(Inline(v[i])); });
-          else Refuse(v[i], "with element " + std::to_string(i));
+          else Refuse(v[i], "at element " + std::to_string(i));
         }
         return out;
       }
@@ -165,7 +180,7 @@ class Converter {
     std::vector<double> data;
     for (std::size_t r = 0; r < v.size(); ++r) {
       const cmd_Json& row = v[r];
-      if (!row.is_array()) Refuse(row, "with row " + std::to_string(r));
+      if (!row.is_array()) Refuse(row, "at row " + std::to_string(r));
       if (r == 0) cols = row.size();
       if (row.size() != cols)
         cmd_Refuse("The member \"" + std::string(field_.scriptName) + "\" of " + cmd_ClassLabel(owner_) +
@@ -173,7 +188,7 @@ class Converter {
                    std::to_string(row.size()) + " values where row 0 has " + std::to_string(cols));
       for (std::size_t c = 0; c < row.size(); ++c) {
         if (!row[c].is_number())
-          Refuse(row[c], "with row " + std::to_string(r) + ", column " + std::to_string(c));
+          Refuse(row[c], "at row " + std::to_string(r) + ", column " + std::to_string(c));
         data.push_back(row[c].get<double>());
       }
     }
@@ -349,6 +364,13 @@ cmd_Json cmd_ValueToJson(const cls_Value& v) {
 
 cmd_Json cmd_ObjectToJson(const void* obj, const cls_ClassMetadata& md) {
   if (const mdl_Repository* repo = md.AsRepository(obj)) return cmd_RepositoryToJson(*repo);
+  if (const cls_ScriptField* table = cmd_TableShorthand(md)) {
+    const cmd_OwnedObject fresh(md.NewDefault(), cmd_ObjectDeleter{&md});
+    bool rest = true;
+    for (const auto& f : md.ScriptFields())
+      if (&f != table && cmd_MemberToJson(obj, f) != cmd_MemberToJson(fresh.get(), f)) rest = false;
+    if (rest) return cmd_MemberToJson(obj, *table);
+  }
   cmd_Json j = cmd_Json::object();
   if (*md.ScriptName()) j[ConstructorKey(md)] = md.ScriptName();
   for (const auto& f : md.ScriptFields()) j[f.scriptName] = cmd_MemberToJson(obj, f);

@@ -67,6 +67,12 @@ cmd_OwnedObject cmd_NewObject(const cls_ClassMetadata& md, const cmd_Json* value
 // The record of an object written by its class.
 cls_RecordPtr cmd_RecordOf(const cls_ClassMetadata& md, const void* obj);
 
+// A class without a constructor of its own whose first member is a table (a material option's data
+// table) is scripted by that table alone: an array of rows given for it fills the table, and it is
+// shown as its table whenever its other members hold their defaults. Returns that first member, or
+// null for every other class.
+const cls_ScriptField* cmd_TableShorthand(const cls_ClassMetadata& md);
+
 // --- values to JSON ------------------------------------------------------------------------------
 
 cmd_Json cmd_ValueToJson(const cls_Value& v);

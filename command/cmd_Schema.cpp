@@ -8,6 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "command/cmd_Json.h"
 #include "command/cmd_Line.h"
 #include "platform/base/omu_PrimEnum.h"
 #include "platform/model/ddr_Model.h"
@@ -195,7 +196,9 @@ class Builder {
       case cls_AttrDoubleTable: return ArrayOf(ArrayOf(Typed("number")));
       case cls_AttrObject: {
         // null clears an optional member
-        return cmd_Json{{"anyOf", {Typed("null"), Inline(f)}}};
+        cmd_Json any = {Typed("null"), Inline(f)};
+        if (f.declared && cmd_TableShorthand(*f.declared)) any.push_back(ArrayOf(ArrayOf(Typed("number"))));
+        return cmd_Json{{"anyOf", any}};
       }
       case cls_AttrObjectList: return ArrayOf(cmd_Json{{"anyOf", {Typed("null"), Inline(f)}}});
       default: return cmd_Json::object();

@@ -38,6 +38,9 @@ auto Guarded(F&& fn, const char* flavour = nullptr) -> decltype(fn()) {
     return fn();
   } catch (const QMXBasException& e) {
     Raise(e.Kind(), e.Message(), e.File(), e.Line(), nullptr, flavour);
+  } catch (const cmd_MemberError& e) {
+    // A member given to a constructor or an assignment failed: its path is the members leading to it.
+    Raise(e.kind, e.message, e.file, e.line, cmd_Json(e.members), flavour);
   }
 }
 

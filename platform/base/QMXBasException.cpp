@@ -1,5 +1,7 @@
 #include "platform/base/QMXBasException.h"
 
+QMXBasException::~QMXBasException() = default;
+
 void QMXBasException::Throw(const char* file, int line) {
   file_ = file ? file : "";
   line_ = line;

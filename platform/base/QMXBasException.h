@@ -3,10 +3,15 @@
 #include <exception>
 #include <string>
 
-class QMXBasException : public std::exception {
+// Default visibility and an out-of-line destructor: the type information then lives in the library
+// alone, so that a catch in a module built with hidden visibility (the Python module) matches it.
+class __attribute__((visibility("default"))) QMXBasException : public std::exception {
  public:
   QMXBasException() = default;
   explicit QMXBasException(std::string message) : message_(std::move(message)) {}
+  QMXBasException(const QMXBasException&) = default;
+  QMXBasException& operator=(const QMXBasException&) = default;
+  ~QMXBasException() override;
 
   // Records the source position and throws this exception as its most derived type.
   [[noreturn]] void Throw(const char* file, int line);

@@ -12,9 +12,12 @@ template <class S, int N>
 class nex_CmdException;
 
 template <>
-class nex_PrimException<atr_String, 1> : public QMXBasException {
+class __attribute__((visibility("default"))) nex_PrimException<atr_String, 1> : public QMXBasException {
  public:
   explicit nex_PrimException(const atr_String& message) : QMXBasException(message.Text()), msg_(message) {}
+  nex_PrimException(const nex_PrimException&) = default;
+  nex_PrimException& operator=(const nex_PrimException&) = default;
+  ~nex_PrimException() override;
   const atr_String& GetMessage() const noexcept { return msg_; }
   const char* Kind() const noexcept override { return "PrimException"; }
 
@@ -26,9 +29,12 @@ class nex_PrimException<atr_String, 1> : public QMXBasException {
 };
 
 template <>
-class nex_CmdException<atr_String, 2> : public QMXBasException {
+class __attribute__((visibility("default"))) nex_CmdException<atr_String, 2> : public QMXBasException {
  public:
   explicit nex_CmdException(const atr_String& message) : QMXBasException(message.Text()), msg_(message) {}
+  nex_CmdException(const nex_CmdException&) = default;
+  nex_CmdException& operator=(const nex_CmdException&) = default;
+  ~nex_CmdException() override;
   const atr_String& GetMessage() const noexcept { return msg_; }
   const char* Kind() const noexcept override { return "CmdException"; }
 

@@ -51,77 +51,77 @@ struct ScriptCase {
 
 // One entry per offered option class; the values differ from the defaults where they can.
 const ScriptCase kCases[] = {
-    {{"plastic"}, "Plastic", R"({"hardening":"ISOTROPIC","table":{"table":[[250,0],[300,0.1]]}})", "hardening", R"("ISOTROPIC")", "kmaC_Plastic"},
-    {{"plastic", "rateDependent"}, "RateDependent", R"({"type":"JOHNSON_COOK","table":{"table":[[0.01,1]]}})", "type", R"("JOHNSON_COOK")", "kmaC_RateDependent"},
-    {{"plastic", "potential"}, "Potential", R"({"dependencies":1,"table":{"table":[[1,1,1,0.9,1,1,0]]}})", "dependencies", "1", "kmaC_Potential"},
-    {{"plastic", "cyclicHardening"}, "CyclicHardening", R"({"parameters":true,"table":{"table":[[250,100,5]]}})", "parameters", "true", "kmaC_CyclicHardening"},
+    {{"plastic"}, "Plastic", R"({"hardening":"ISOTROPIC","table":[[250,0],[300,0.1]]})", "hardening", R"("ISOTROPIC")", "kmaC_Plastic"},
+    {{"plastic", "rateDependent"}, "RateDependent", R"({"type":"JOHNSON_COOK","table":[[0.01,1]]})", "type", R"("JOHNSON_COOK")", "kmaC_RateDependent"},
+    {{"plastic", "potential"}, "Potential", R"({"dependencies":1,"table":[[1,1,1,0.9,1,1,0]]})", "dependencies", "1", "kmaC_Potential"},
+    {{"plastic", "cyclicHardening"}, "CyclicHardening", R"({"parameters":true,"table":[[250,100,5]]})", "parameters", "true", "kmaC_CyclicHardening"},
     {{"plastic", "ornl"}, "Ornl", R"({"saturationRateParameter":0.5,"resetHardening":true})", "saturationRateParameter", "0.5", "kmaC_Ornl"},
-    {{"plastic", "cycledPlastic"}, "CycledPlastic", R"({"temperatureDependency":true,"table":{"table":[[260,0,20]]}})", "temperatureDependency", "true", "kmaC_CycledPlastic"},
-    {{"plastic", "annealTemperature"}, "AnnealTemperature", R"({"table":{"table":[[900]]}})", "dependencies", "0", "kmaC_AnnealTemperature"},
-    {{"plastic", "tensileFailure"}, "TensileFailure", R"({"shear":"BRITTLE","elementDeletion":false,"table":{"table":[[400]]}})", "shear", R"("BRITTLE")", "kmaC_TensileFailure"},
-    {{"density"}, "Density", R"({"distributionType":"DISCRETE_FIELD","fieldName":"rho","table":{"table":[[7.85e-9]]}})", "distributionType", R"("DISCRETE_FIELD")", "kmaC_Density"},
-    {{"expansion"}, "Expansion", R"({"type":"ORTHOTROPIC","zero":20,"table":{"table":[[1.2e-5,1.1e-5,1e-5]]}})", "zero", "20.0", "kmaC_Expansion"},
-    {{"conductivity"}, "Conductivity", R"({"type":"ANISOTROPIC","table":{"table":[[45,1,1,45,1,45]]}})", "type", R"("ANISOTROPIC")", "kmaC_Conductivity"},
-    {{"specificHeat"}, "SpecificHeat", R"({"law":"CONSTANTPRESSURE","table":{"table":[[4.6e8]]}})", "law", R"("CONSTANTPRESSURE")", "kmaC_SpecificHeat"},
-    {{"hyperelastic"}, "Hyperelastic", R"({"type":"MOONEY_RIVLIN","testData":false,"table":{"table":[[0.5,0.1,0.01]]}})", "type", R"("MOONEY_RIVLIN")", "kmaC_Hyperelastic"},
-    {{"creep"}, "Creep", R"({"law":"TIME","time":"CREEP","table":{"table":[[1e-10,3,-0.5]]}})", "time", R"("CREEP")", "kmaC_Creep"},
-    {{"viscoelastic"}, "Viscoelastic", R"({"domain":"FREQUENCY","frequency":"TABULAR","nmax":5,"table":{"table":[[0.1,0,0.2,0,1]]}})", "nmax", "5", "kmaC_Viscoelastic"},
-    {{"concreteDamagedPlasticity"}, "ConcreteDamagedPlasticity", R"({"table":{"table":[[38,0.1,1.16,0.667,0]]}})", "dependencies", "0", "kmaC_ConcreteDamagedPlasticity"},
-    {{"foam"}, "Foam", R"({"hardening":"ISOTROPIC","table":{"table":[[1.1,0.1]]}})", "hardening", R"("ISOTROPIC")", "kmaC_Foam"},
-    {{"eos"}, "Eos", R"({"type":"JWL","detonationEnergy":4.2e6,"table":{"table":[[6930,3.7e11,3.2e9,4.15,0.95,0.3]]}})", "detonationEnergy", "4200000.0", "kmaC_Eos"},
+    {{"plastic", "cycledPlastic"}, "CycledPlastic", R"({"temperatureDependency":true,"table":[[260,0,20]]})", "temperatureDependency", "true", "kmaC_CycledPlastic"},
+    {{"plastic", "annealTemperature"}, "AnnealTemperature", R"({"table":[[900]]})", "dependencies", "0", "kmaC_AnnealTemperature"},
+    {{"plastic", "tensileFailure"}, "TensileFailure", R"({"shear":"BRITTLE","elementDeletion":false,"table":[[400]]})", "shear", R"("BRITTLE")", "kmaC_TensileFailure"},
+    {{"density"}, "Density", R"({"distributionType":"DISCRETE_FIELD","fieldName":"rho","table":[[7.85e-9]]})", "distributionType", R"("DISCRETE_FIELD")", "kmaC_Density"},
+    {{"expansion"}, "Expansion", R"({"type":"ORTHOTROPIC","zero":20,"table":[[1.2e-5,1.1e-5,1e-5]]})", "zero", "20.0", "kmaC_Expansion"},
+    {{"conductivity"}, "Conductivity", R"({"type":"ANISOTROPIC","table":[[45,1,1,45,1,45]]})", "type", R"("ANISOTROPIC")", "kmaC_Conductivity"},
+    {{"specificHeat"}, "SpecificHeat", R"({"law":"CONSTANTPRESSURE","table":[[4.6e8]]})", "law", R"("CONSTANTPRESSURE")", "kmaC_SpecificHeat"},
+    {{"hyperelastic"}, "Hyperelastic", R"({"type":"MOONEY_RIVLIN","testData":false,"table":[[0.5,0.1,0.01]]})", "type", R"("MOONEY_RIVLIN")", "kmaC_Hyperelastic"},
+    {{"creep"}, "Creep", R"({"law":"TIME","time":"CREEP","table":[[1e-10,3,-0.5]]})", "time", R"("CREEP")", "kmaC_Creep"},
+    {{"viscoelastic"}, "Viscoelastic", R"({"domain":"FREQUENCY","frequency":"TABULAR","nmax":5,"table":[[0.1,0,0.2,0,1]]})", "nmax", "5", "kmaC_Viscoelastic"},
+    {{"concreteDamagedPlasticity"}, "ConcreteDamagedPlasticity", R"({"table":[[38,0.1,1.16,0.667,0]]})", "dependencies", "0", "kmaC_ConcreteDamagedPlasticity"},
+    {{"foam"}, "Foam", R"({"hardening":"ISOTROPIC","table":[[1.1,0.1]]})", "hardening", R"("ISOTROPIC")", "kmaC_Foam"},
+    {{"eos"}, "Eos", R"({"type":"JWL","detonationEnergy":4.2e6,"table":[[6930,3.7e11,3.2e9,4.15,0.95,0.3]]})", "detonationEnergy", "4200000.0", "kmaC_Eos"},
     {{"damping"}, "Damping", R"({"alpha":0.5,"beta":1e-4,"structural":0.02})", "structural", "0.02", "kmaC_Damping"},
     {{"depvar"}, "Depvar", R"({"n":12,"deleteVar":12})", "deleteVar", "12", "kmaC_Depvar"},
     {{"inelasticHeatFraction"}, "InelasticHeatFraction", R"({"fraction":0.95})", "fraction", "0.95", "kmaC_InelasticHeatFraction"},
     {{"jouleHeatFraction"}, "JouleHeatFraction", R"({"fraction":0.8})", "fraction", "0.8", "kmaC_JouleHeatFraction"},
-    {{"latentHeat"}, "LatentHeat", R"({"table":{"table":[[2.7e11,1400,1450]]}})", "table", R"({"table":[[2.7e11,1400.0,1450.0]],"allowEmptyFirstRow":false})", "kmaC_LatentHeat"},
+    {{"latentHeat"}, "LatentHeat", R"({"table":[[2.7e11,1400,1450]]})", "table", R"([[2.7e11,1400.0,1450.0]])", "kmaC_LatentHeat"},
     {{"userMaterial"}, "UserMaterial", R"({"type":"THERMOMECHANICAL","unsymm":true,"mechanicalConstants":{"table":[[1,2,3]]}})", "type", R"("THERMOMECHANICAL")", "kmaC_UserMaterial"},
     {{"userOutputVariables"}, "UserOutputVariables", R"({"n":3})", "n", "3", "kmaC_UserOutputVariables"},
     {{"heatGeneration"}, "HeatGeneration", R"({})", nullptr, nullptr, "kmaC_HeatGeneration"},
-    {{"gel"}, "Gel", R"({"table":{"table":[[0.1,0.3,0.01,0.5]]}})", "table", R"({"table":[[0.1,0.3,0.01,0.5]],"allowEmptyFirstRow":false})", "kmaC_Gel"},
-    {{"dielectric"}, "Dielectric", R"({"frequencyDependency":true,"table":{"table":[[8.85e-12,50]]}})", "frequencyDependency", "true", "kmaC_Dielectric"},
-    {{"electricalConductivity"}, "ElectricalConductivity", R"({"type":"ORTHOTROPIC","table":{"table":[[5.8e7,5.8e7,5.8e7]]}})", "type", R"("ORTHOTROPIC")", "kmaC_ElectricalConductivity"},
-    {{"piezoelectric"}, "Piezoelectric", R"({"type":"STRAIN","table":{"table":[[1,2,3]]}})", "type", R"("STRAIN")", "kmaC_Piezoelectric"},
-    {{"diffusivity"}, "Diffusivity", R"({"law":"FICK","table":{"table":[[1e-9]]}})", "law", R"("FICK")", "kmaC_Diffusivity"},
-    {{"solubility"}, "Solubility", R"({"dependencies":2,"table":{"table":[[0.3,0,1,2]]}})", "dependencies", "2", "kmaC_Solubility"},
+    {{"gel"}, "Gel", R"({"table":[[0.1,0.3,0.01,0.5]]})", "table", R"([[0.1,0.3,0.01,0.5]])", "kmaC_Gel"},
+    {{"dielectric"}, "Dielectric", R"({"frequencyDependency":true,"table":[[8.85e-12,50]]})", "frequencyDependency", "true", "kmaC_Dielectric"},
+    {{"electricalConductivity"}, "ElectricalConductivity", R"({"type":"ORTHOTROPIC","table":[[5.8e7,5.8e7,5.8e7]]})", "type", R"("ORTHOTROPIC")", "kmaC_ElectricalConductivity"},
+    {{"piezoelectric"}, "Piezoelectric", R"({"type":"STRAIN","table":[[1,2,3]]})", "type", R"("STRAIN")", "kmaC_Piezoelectric"},
+    {{"diffusivity"}, "Diffusivity", R"({"law":"FICK","table":[[1e-9]]})", "law", R"("FICK")", "kmaC_Diffusivity"},
+    {{"solubility"}, "Solubility", R"({"dependencies":2,"table":[[0.3,0,1,2]]})", "dependencies", "2", "kmaC_Solubility"},
     {{"regularization"}, "Regularization", R"({"rtol":0.05,"strainRateRegularization":"LINEAR"})", "strainRateRegularization", R"("LINEAR")", "kmaC_Regularization"},
-    {{"viscosity"}, "Viscosity", R"({"temperatureDependency":true,"table":{"table":[[1e-3,20]]}})", "type", R"("NEWTONIAN")", "kmaC_Viscosity"},
+    {{"viscosity"}, "Viscosity", R"({"temperatureDependency":true,"table":[[1e-3,20]]})", "type", R"("NEWTONIAN")", "kmaC_Viscosity"},
     {{"hypoelastic"}, "Hypoelastic", R"({"user":true})", "user", "true", "kmaC_Hypoelastic"},
-    {{"shear"}, "Shear", R"({"type":"VISCOUS","table":{"table":[[1e-3]]}})", "type", R"("VISCOUS")", "kmaC_Shear"},
-    {{"porousBulkModuli"}, "PorousBulkModuli", R"({"table":{"table":[[3.6e10,2.2e9]]}})", "temperatureDependency", "false", "kmaC_PorousBulkModuli"},
-    {{"membraneElastic"}, "MembraneElastic", R"({"table":{"table":[[1000,800,0.3]]}})", "dependencies", "0", "kmaC_MembraneElastic"},
-    {{"transShearElastic"}, "TransShearElastic", R"({"table":{"table":[[500,500,400]]}})", "dependencies", "0", "kmaC_TransShearElastic"},
-    {{"acousticMedium"}, "AcousticMedium", R"({"volumetricDrag":true,"table":{"table":[[2.2e9]]}})", "volumetricDrag", "true", "kmaC_AcousticMedium"},
-    {{"brittleCracking"}, "BrittleCracking", R"({"type":"GFI","table":{"table":[[3,0.1]]}})", "type", R"("GFI")", "kmaC_BrittleCracking"},
-    {{"capPlasticity"}, "CapPlasticity", R"({"table":{"table":[[10,30,0.3,0,0.01,1]]}})", "dependencies", "0", "kmaC_CapPlasticity"},
-    {{"castIronPlasticity"}, "CastIronPlasticity", R"({"table":{"table":[[0.04]]}})", "temperatureDependency", "false", "kmaC_CastIronPlasticity"},
-    {{"clayPlasticity"}, "ClayPlasticity", R"({"hardening":"TABULAR","table":{"table":[[1,1,1]]}})", "hardening", R"("TABULAR")", "kmaC_ClayPlasticity"},
-    {{"concrete"}, "Concrete", R"({"table":{"table":[[20,0]]}})", "dependencies", "0", "kmaC_Concrete"},
-    {{"deformationPlasticity"}, "DeformationPlasticity", R"({"table":{"table":[[2e5,0.3,250,5,1]]}})", "dependencies", "0", "kmaC_DeformationPlasticity"},
-    {{"druckerPrager"}, "DruckerPrager", R"({"shearCriterion":"HYPERBOLIC","eccentricity":0.2,"table":{"table":[[30,1,10]]}})", "shearCriterion", R"("HYPERBOLIC")", "kmaC_DruckerPrager"},
+    {{"shear"}, "Shear", R"({"type":"VISCOUS","table":[[1e-3]]})", "type", R"("VISCOUS")", "kmaC_Shear"},
+    {{"porousBulkModuli"}, "PorousBulkModuli", R"({"table":[[3.6e10,2.2e9]]})", "temperatureDependency", "false", "kmaC_PorousBulkModuli"},
+    {{"membraneElastic"}, "MembraneElastic", R"({"table":[[1000,800,0.3]]})", "dependencies", "0", "kmaC_MembraneElastic"},
+    {{"transShearElastic"}, "TransShearElastic", R"({"table":[[500,500,400]]})", "dependencies", "0", "kmaC_TransShearElastic"},
+    {{"acousticMedium"}, "AcousticMedium", R"({"volumetricDrag":true,"table":[[2.2e9]]})", "volumetricDrag", "true", "kmaC_AcousticMedium"},
+    {{"brittleCracking"}, "BrittleCracking", R"({"type":"GFI","table":[[3,0.1]]})", "type", R"("GFI")", "kmaC_BrittleCracking"},
+    {{"capPlasticity"}, "CapPlasticity", R"({"table":[[10,30,0.3,0,0.01,1]]})", "dependencies", "0", "kmaC_CapPlasticity"},
+    {{"castIronPlasticity"}, "CastIronPlasticity", R"({"table":[[0.04]]})", "temperatureDependency", "false", "kmaC_CastIronPlasticity"},
+    {{"clayPlasticity"}, "ClayPlasticity", R"({"hardening":"TABULAR","table":[[1,1,1]]})", "hardening", R"("TABULAR")", "kmaC_ClayPlasticity"},
+    {{"concrete"}, "Concrete", R"({"table":[[20,0]]})", "dependencies", "0", "kmaC_Concrete"},
+    {{"deformationPlasticity"}, "DeformationPlasticity", R"({"table":[[2e5,0.3,250,5,1]]})", "dependencies", "0", "kmaC_DeformationPlasticity"},
+    {{"druckerPrager"}, "DruckerPrager", R"({"shearCriterion":"HYPERBOLIC","eccentricity":0.2,"table":[[30,1,10]]})", "shearCriterion", R"("HYPERBOLIC")", "kmaC_DruckerPrager"},
     {{"fluidLeakoff"}, "FluidLeakoff", R"({"type":"USER"})", "type", R"("USER")", "kmaC_FluidLeakoff"},
-    {{"gapFlow"}, "GapFlow", R"({"type":"POWER_LAW","kmax":1e3,"table":{"table":[[1,0.5]]}})", "kmax", "1000.0", "kmaC_GapFlow"},
-    {{"gapConductance"}, "GapConductance", R"({"pressureDependency":true,"table":{"table":[[100,1]]}})", "pressureDependency", "true", "kmaC_GapConductance"},
-    {{"gapConvection"}, "GapConvection", R"({"table":{"table":[[5]]}})", "dependencies", "0", "kmaC_GapConvection"},
-    {{"gapRadiation"}, "GapRadiation", R"({"table":{"table":[[0.8,0.9]]}})", "dependencies", "0", "kmaC_GapRadiation"},
-    {{"hyperfoam"}, "Hyperfoam", R"({"n":2,"poisson":0.1,"table":{"table":[[0.2,8,0.01,-2]]}})", "n", "2", "kmaC_Hyperfoam"},
+    {{"gapFlow"}, "GapFlow", R"({"type":"POWER_LAW","kmax":1e3,"table":[[1,0.5]]})", "kmax", "1000.0", "kmaC_GapFlow"},
+    {{"gapConductance"}, "GapConductance", R"({"pressureDependency":true,"table":[[100,1]]})", "pressureDependency", "true", "kmaC_GapConductance"},
+    {{"gapConvection"}, "GapConvection", R"({"table":[[5]]})", "dependencies", "0", "kmaC_GapConvection"},
+    {{"gapRadiation"}, "GapRadiation", R"({"table":[[0.8,0.9]]})", "dependencies", "0", "kmaC_GapRadiation"},
+    {{"hyperfoam"}, "Hyperfoam", R"({"n":2,"poisson":0.1,"table":[[0.2,8,0.01,-2]]})", "n", "2", "kmaC_Hyperfoam"},
     {{"lowDensityFoam"}, "LowDensityFoam", R"({"elementRemoval":true,"maxAllowablePrincipalStress":2.5})", "maxAllowablePrincipalStress", "2.5", "kmaC_LowDensityFoam"},
-    {{"magneticPermeability"}, "MagneticPermeability", R"({"nonlinearBH":true,"table":{"table":[[0.5,100],[1.2,1000]]}})", "nonlinearBH", "true", "kmaC_MagneticPermeability"},
-    {{"mohrCoulomb"}, "MohrCoulomb", R"({"deviatoricEccentricity":0.8,"useTensionCutoff":true,"table":{"table":[[30,5]]}})", "deviatoricEccentricity", "0.8", "kmaC_MohrCoulomb"},
-    {{"moistureSwelling"}, "MoistureSwelling", R"({"table":{"table":[[0.01,0.5]]}})", "table", R"({"table":[[0.01,0.5]],"allowEmptyFirstRow":false})", "kmaC_MoistureSwelling"},
-    {{"permeability"}, "Permeability", R"({"specificWeight":9810,"table":{"table":[[1e-7,0.3]]}})", "specificWeight", "9810.0", "kmaC_Permeability"},
-    {{"poreFluidExpansion"}, "PoreFluidExpansion", R"({"zero":20,"table":{"table":[[2e-4]]}})", "zero", "20.0", "kmaC_PoreFluidExpansion"},
-    {{"porousElastic"}, "PorousElastic", R"({"shear":"G","table":{"table":[[0.02,100]]}})", "shear", R"("G")", "kmaC_PorousElastic"},
-    {{"porousMetalPlasticity"}, "PorousMetalPlasticity", R"({"relativeDensity":0.95,"table":{"table":[[1.5,1,2.25]]}})", "relativeDensity", "0.95", "kmaC_PorousMetalPlasticity"},
-    {{"sorption"}, "Sorption", R"({"lawAbsorption":"LOG","table":{"table":[[1,2,3]]}})", "lawAbsorption", R"("LOG")", "kmaC_Sorption"},
-    {{"swelling"}, "Swelling", R"({"table":{"table":[[1e-6]]}})", "dependencies", "0", "kmaC_Swelling"},
+    {{"magneticPermeability"}, "MagneticPermeability", R"({"nonlinearBH":true,"table":[[0.5,100],[1.2,1000]]})", "nonlinearBH", "true", "kmaC_MagneticPermeability"},
+    {{"mohrCoulomb"}, "MohrCoulomb", R"({"deviatoricEccentricity":0.8,"useTensionCutoff":true,"table":[[30,5]]})", "deviatoricEccentricity", "0.8", "kmaC_MohrCoulomb"},
+    {{"moistureSwelling"}, "MoistureSwelling", R"({"table":[[0.01,0.5]]})", "table", R"([[0.01,0.5]])", "kmaC_MoistureSwelling"},
+    {{"permeability"}, "Permeability", R"({"specificWeight":9810,"table":[[1e-7,0.3]]})", "specificWeight", "9810.0", "kmaC_Permeability"},
+    {{"poreFluidExpansion"}, "PoreFluidExpansion", R"({"zero":20,"table":[[2e-4]]})", "zero", "20.0", "kmaC_PoreFluidExpansion"},
+    {{"porousElastic"}, "PorousElastic", R"({"shear":"G","table":[[0.02,100]]})", "shear", R"("G")", "kmaC_PorousElastic"},
+    {{"porousMetalPlasticity"}, "PorousMetalPlasticity", R"({"relativeDensity":0.95,"table":[[1.5,1,2.25]]})", "relativeDensity", "0.95", "kmaC_PorousMetalPlasticity"},
+    {{"sorption"}, "Sorption", R"({"lawAbsorption":"LOG","table":[[1,2,3]]})", "lawAbsorption", R"("LOG")", "kmaC_Sorption"},
+    {{"swelling"}, "Swelling", R"({"table":[[1e-6]]})", "dependencies", "0", "kmaC_Swelling"},
     {{"userDefinedField"}, "UserDefinedField", R"({})", nullptr, nullptr, "kmaC_UserDefinedField"},
-    {{"softRockPlasticity"}, "SoftRockPlasticity", R"({"table":{"table":[[1,2,3]]}})", "dependencies", "0", "kmaC_SoftRockPlasticity"},
-    {{"superElasticity"}, "SuperElasticity", R"({"nonassociated":true,"table":{"table":[[3e4,0.33,0.05,0.1]]}})", "nonassociated", "true", "kmaC_SuperElasticity"},
-    {{"plasticityCorrection"}, "PlasticityCorrection", R"({"table":{"table":[[1,2]]}})", "dependencies", "0", "kmaC_PlasticityCorrection"},
-    {{"thicknessBehavior"}, "ThicknessBehavior", R"({"units":"FORCE","contactArea":12.5,"table":{"table":[[10,0.1]]}})", "contactArea", "12.5", "kmaC_ThicknessBehavior"},
-    {{"viscous"}, "Viscous", R"({"law":"TIME","table":{"table":[[1e-10,3,-0.5,0.5]]}})", "law", R"("TIME")", "kmaC_Viscous"},
-    {{"ductileDamageInitiation"}, "DamageInitiation", R"({"position":"NODES","direction":"TMORI","table":{"table":[[0.3,0.33,0]]}})", "position", R"("NODES")", "kmaC_DamageInitiation"},
-    {{"electrolyte"}, "Electrolyte", R"({"table":{"table":[[1,2]]}})", "dependencies", "0", "kmaC_Electrolyte"},
+    {{"softRockPlasticity"}, "SoftRockPlasticity", R"({"table":[[1,2,3]]})", "dependencies", "0", "kmaC_SoftRockPlasticity"},
+    {{"superElasticity"}, "SuperElasticity", R"({"nonassociated":true,"table":[[3e4,0.33,0.05,0.1]]})", "nonassociated", "true", "kmaC_SuperElasticity"},
+    {{"plasticityCorrection"}, "PlasticityCorrection", R"({"table":[[1,2]]})", "dependencies", "0", "kmaC_PlasticityCorrection"},
+    {{"thicknessBehavior"}, "ThicknessBehavior", R"({"units":"FORCE","contactArea":12.5,"table":[[10,0.1]]})", "contactArea", "12.5", "kmaC_ThicknessBehavior"},
+    {{"viscous"}, "Viscous", R"({"law":"TIME","table":[[1e-10,3,-0.5,0.5]]})", "law", R"("TIME")", "kmaC_Viscous"},
+    {{"ductileDamageInitiation"}, "DamageInitiation", R"({"position":"NODES","direction":"TMORI","table":[[0.3,0.33,0]]})", "position", R"("NODES")", "kmaC_DamageInitiation"},
+    {{"electrolyte"}, "Electrolyte", R"({"table":[[1,2]]})", "dependencies", "0", "kmaC_Electrolyte"},
 };
 
 cmd_Json Ok(cmd_Session& s, const cmd_Json& command) {
@@ -158,6 +158,46 @@ TEST(KmaOptionClasses, EveryOfferedClassIsSetByScriptAndRoundTripsThroughTheFile
   for (const ScriptCase& c : kCases) {
     SCOPED_TRACE(c.className);
     EXPECT_EQ(kmaT_Query(file, std::string("SELECT count(*) FROM ") + c.className), std::vector<std::string>{"1"});
+  }
+}
+
+// A data table is given and shown as its rows; the object form stays accepted, and is shown
+// whenever the table allows an empty first row, so that nothing is lost in a dump.
+TEST(KmaOptionClasses, ADataTableIsScriptedAsItsRows) {
+  kmaT_Start();
+  cmd_Session s;
+  Ok(s, {{"op", "create"}, {"path", {"M"}}});
+  Ok(s, {{"op", "create"}, {"path", {"M", "materials", "A"}}, {"type", "Material"}});
+  const cmd_Json elastic = {"M", "materials", "A", "elastic"};
+  const cmd_Json table = {"M", "materials", "A", "elastic", "table"};
+  Ok(s, {{"op", "set"}, {"path", elastic}, {"type", "Elastic"}, {"values", cmd_Json::parse(R"({"table":[[210000,0.3]]})")}});
+  EXPECT_EQ(Ok(s, {{"op", "get"}, {"path", table}}), cmd_Json::parse("[[210000.0,0.3]]"));
+  EXPECT_EQ(Ok(s, {{"op", "get"}, {"path", elastic}})["table"], cmd_Json::parse("[[210000.0,0.3]]"));
+
+  Ok(s, {{"op", "set"}, {"path", table}, {"value", cmd_Json::parse("[[70000,0.33],[69000,0.33]]")}});
+  EXPECT_EQ(Ok(s, {{"op", "get"}, {"path", table}}), cmd_Json::parse("[[70000.0,0.33],[69000.0,0.33]]"));
+
+  Ok(s, {{"op", "set"}, {"path", table}, {"value", cmd_Json::parse(R"({"table":[[0,0],[1,0.3]],"allowEmptyFirstRow":true})")}});
+  const cmd_Json whole = cmd_Json::parse(R"({"table":[[0.0,0.0],[1.0,0.3]],"allowEmptyFirstRow":true})");
+  EXPECT_EQ(Ok(s, {{"op", "get"}, {"path", table}}), whole);
+  // The shown form goes back in unchanged.
+  Ok(s, {{"op", "set"}, {"path", table}, {"value", whole}});
+  EXPECT_EQ(Ok(s, {{"op", "get"}, {"path", table}}), whole);
+
+  const struct {
+    const char* value;
+    const char* message;
+  } bad[] = {
+      {R"("rows")", "The member \"table\" of Elastic takes an object, a table (an array of rows of numbers) or null, not the string \"rows\""},
+      {"[[1,2],[3]]", "The member \"table\" of kmaC_MaterialTable takes a table whose rows have equal lengths; row 1 has 1 values where row 0 has 2"},
+      {R"([[1,"x"]])", "The member \"table\" of kmaC_MaterialTable takes a table (an array of rows of numbers), not the string \"x\" at row 0, column 1"},
+  };
+  for (const auto& b : bad) {
+    SCOPED_TRACE(b.value);
+    const cmd_Json r = s.Execute({{"op", "set"}, {"path", table}, {"value", cmd_Json::parse(b.value)}});
+    ASSERT_FALSE(r.value("ok", true)) << r.dump();
+    EXPECT_EQ(r["error"]["message"], b.message);
+    EXPECT_EQ(Ok(s, {{"op", "get"}, {"path", table}}), whole);
   }
 }
 

@@ -188,9 +188,9 @@ TEST(KmaScript, MaterialsAreBuiltReadAndRefusedByScriptingNames) {
   Ok(s, R"({"op":"create","path":["M"]})");
   Ok(s, R"({"op":"create","path":["M","materials","Steel"],"type":"Material","values":{"description":"S355"}})");
   Ok(s, R"({"op":"set","path":["M","materials","Steel","elastic"],"type":"Elastic",
-            "values":{"moduli":"INSTANTANEOUS","table":{"table":[[210000,0.3]]}}})");
+            "values":{"moduli":"INSTANTANEOUS","table":[[210000,0.3]]}})");
   Ok(s, R"({"op":"set","path":["M","materials","Steel"],"values":{"plastic":{"type":"Plastic","hardening":"KINEMATIC",
-            "table":{"table":[[355,0],[470,0.2]]}}}})");
+            "table":[[355,0],[470,0.2]]}}})");
   EXPECT_EQ(Ok(s, R"({"op":"get","path":["M","materials","Steel","elastic","moduli"]})"), "INSTANTANEOUS");
   EXPECT_EQ(Ok(s, R"({"op":"get","path":["M","materials","Steel","plastic","hardening"]})"), "KINEMATIC");
   EXPECT_EQ(Ok(s, R"({"op":"get","path":["M","materials","Steel","plastic","extrapolation"]})"), "CONSTANT");

@@ -55,6 +55,7 @@ def test_unknown_literal_in_constructor_makes_nothing():
     with pytest.raises(qa.CommandError) as e:
         qa.PipeProfile(r=2.0, integrationScheme="thick_wall")
     assert e.value.message.startswith(ENUM_FROM_STRING + "thick_wall  Permissible: ")
+    assert e.value.path == ["integrationScheme"]
 
 
 @pytest.mark.parametrize("member,value", [

@@ -13,6 +13,7 @@
 #include "command/cmd_Session.h"
 #include "dbfile/dbf_File.h"
 #include "platform/model/ddr_Model.h"
+#include "platform/persist/cls_ClassMetadata.h"
 #include "platform/model/mdl_Repository.h"
 
 namespace odbattr {
@@ -82,6 +83,17 @@ int Example(const std::string& dir, const std::string& db) {
     for (const auto& repo : model.Get().RepositoryNames()) {
       const std::size_t n = model.Get().FindRepository(repo.view())->Keys().size();
       if (n) std::cout << ' ' << repo << " (" << n << ')';
+    }
+    // Repositories held by an object of the model (the engineering features) count as well.
+    for (const auto& name : model.Get().ObjectNames()) {
+      const cls_ClassMetadata* cls = nullptr;
+      const void* obj = model.Get().FindObject(name.view(), &cls);
+      for (const auto& f : cls->ScriptFields()) {
+        const void* child = f.type == cls_AttrObject && f.declared ? f.child(obj) : nullptr;
+        const mdl_Repository* repo = child ? f.declared->ClassOf(child).AsRepository(child) : nullptr;
+        if (repo && !repo->Keys().empty())
+          std::cout << ' ' << name << '.' << f.scriptName << " (" << repo->Keys().size() << ')';
+      }
     }
     std::cout << '\n';
   }

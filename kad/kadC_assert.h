@@ -1,7 +1,7 @@
 #pragma once
 // Validation of the adaptive mesh module: one fixed message per code.
 
-enum kadC_ErrorEnm {
+enum kadC_ErrorEnm : int {
   kadC_FrequencyNotPositive = 0,
   kadC_InitialSweepsNegative = 1,
   kadC_SweepsPerIncrementNotPositive = 2,

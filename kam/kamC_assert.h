@@ -1,7 +1,7 @@
 #pragma once
 // Validation of the amplitude module: one fixed message per code.
 
-enum kamC_ErrorEnm {
+enum kamC_ErrorEnm : int {
   kamC_TimesNotIncreasing = 0,
   kamC_DecayTimeNotPositive = 1,
   kamC_SmoothingOutOfRange = 2,

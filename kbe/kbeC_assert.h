@@ -3,7 +3,7 @@
 // messages that name what they refuse ("%s").
 #include "platform/base/cow_String.h"
 
-enum kbeC_ErrorEnm {
+enum kbeC_ErrorEnm : int {
   kbeC_DependenciesBelowMinimum = 0,
   kbeC_NoDisplacementLimit = 1,
   kbeC_NoMotionCriterion = 2,
@@ -69,7 +69,7 @@ enum kbeC_ErrorEnm {
   kbeC_StructuralDependencies = 62,
 };
 
-enum kbeC_ContentErrorEnm {
+enum kbeC_ContentErrorEnm : int {
   kbeC_UnavailableComponents = 0,
   kbeC_RateOptionsNotAllowed = 1,
 };

@@ -1,7 +1,7 @@
 #pragma once
 // Validation of the beam profile module: one fixed message per code.
 
-enum kbpC_ErrorEnm {
+enum kbpC_ErrorEnm : int {
   kbpC_AreaNotPositive = 0,
   kbpC_I11NotPositive = 1,
   kbpC_I12NotZeroWithZeroI22 = 2,

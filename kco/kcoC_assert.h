@@ -1,7 +1,7 @@
 #pragma once
 // Validation of the constraint module: one fixed message per code.
 
-enum kcoC_ErrorEnm {
+enum kcoC_ErrorEnm : int {
   kcoC_EquationTooFewTerms = 0,
   kcoC_ContainerEmpty = 1,
   kcoC_ConstraintMissing = 2,

@@ -1,7 +1,7 @@
 #pragma once
 // Validation of the engineering feature module: one fixed message per code.
 
-enum kefC_ErrorEnm {
+enum kefC_ErrorEnm : int {
   kefC_NoMassOrInertia = 0,
   kefC_NegativeDiagonalInertia = 1,
   kefC_MidNodeOutOfRange = 2,

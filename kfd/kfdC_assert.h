@@ -1,7 +1,7 @@
 #pragma once
 // Validation of the field module: one fixed message per code.
 
-enum kfdC_ErrorEnm {
+enum kfdC_ErrorEnm : int {
   kfdC_NoExpression = 0,
   kfdC_UnknownFieldCopy = 1,
   kfdC_InvalidCsysReference = 2,

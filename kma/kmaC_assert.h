@@ -1,7 +1,7 @@
 #pragma once
 // Validation of the material module: one fixed message per code.
 
-enum kmaC_ErrorEnm {
+enum kmaC_ErrorEnm : int {
   kmaC_DependenciesBelowMinimum = 0,
   kmaC_DetonationEnergyNegative = 1,
   kmaC_EosIgnitionColumnsMismatch = 2,

@@ -1,7 +1,7 @@
 #pragma once
 // Validation of the optimization module: one error table shared by every optimization class.
 
-enum kopC_ErrorEnm {
+enum kopC_ErrorEnm : int {
   kopC_ResponseNotUsableWithConstraint = 0,
   kopC_UnknownTaskCopy = 1,
   kopC_ResponseNameEmpty = 2,

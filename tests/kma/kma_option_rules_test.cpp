@@ -117,11 +117,12 @@ TEST(KmaElastic, RulesInOrder) {
 }
 
 TEST(KmaElastic, SubOptionSlotsRefuseOtherClasses) {
-  kmaC_Elastic e;
-  kmaC_MaterialOption& strainSlot = e;  // an elastic option is not a fail-stress
-  auto err = qmx_Catch<nex_CmdError>([&] { e.SetFailStress(static_cast<const kmaC_FailStress&>(strainSlot)); });
+  // The slot an elastic option keeps its fail-stress in, offered an option of another class.
+  kmaC_OptionSlot<kmaC_OptionClass::FailStress> slot;
+  const kmaC_Elastic other;
+  auto err = qmx_Catch<nex_CmdError>([&] { slot.Set(other, "failStress"); });
   EXPECT_EQ(err.Message(), "The option slot \"failStress\" holds a kmaC_FailStress, not a kmaC_Elastic");
-  EXPECT_FALSE(e.HasFailStress());
+  EXPECT_TRUE(slot.IsNull());
 }
 
 TEST(KmaPlastic, DefaultsAndLiterals) {

@@ -100,6 +100,18 @@
 #include "kma/kmaC_Electrolyte.h"
 #include "kma/kmaC_DamageInitiation.h"
 #include "kma/kmaC_DamageInitiation_Versions.h"
+#include "kma/kmaC_DamageEvolution.h"
+#include "kma/kmaC_DamageEvolution_Versions.h"
+#include "kma/kmaC_UniaxialTestData.h"
+#include "kma/kmaC_BiaxialTestData.h"
+#include "kma/kmaC_PlanarTestData.h"
+#include "kma/kmaC_VolumetricTestData.h"
+#include "kma/kmaC_TestData_Versions.h"
+#include "kma/kmaC_MullinsEffect.h"
+#include "kma/kmaC_MullinsEffect_Versions.h"
+#include "kma/kmaC_CrushStressVelocityFactor.h"
+#include "kma/kmaC_CrushStress.h"
+#include "kma/kmaC_CrushStress_Versions.h"
 #include "kma/kmaC_Elastic.h"
 #include "kma/kmaC_FailStrain.h"
 #include "kma/kmaC_FailStress.h"
@@ -240,8 +252,9 @@ constexpr typ_ArchCompRecord kArchRows[] = {
     {7, 1, 0, "kmaC_DamageEvolutionListInMaterialOptionShortcut"},
     {7, 1, 0, "kmaC_ElectrodeParticleListInMaterialOptionShortcut"},
     {7, 1, 0, "kmaC_ElectrodeParticleLayerListInMaterialOptionShortcut"},
+    {7, 1, 0, "kmaC_CrushStressVelocityFactor"},
 };
-static_assert(std::size(kArchRows) == 114);
+static_assert(std::size(kArchRows) == 115);
 
 template <class Step>
 void RegisterOld(dbc_OldClassRegistrar& old) {
@@ -344,7 +357,15 @@ void QMXOdbKmaC_initialize(int& tally) {
   metadata.initClassMetadata(&kmaC_ThicknessBehavior::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Viscous::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Electrolyte::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_DamageEvolution::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_DamageInitiation::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_UniaxialTestData::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_BiaxialTestData::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_PlanarTestData::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_VolumetricTestData::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_MullinsEffect::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_CrushStressVelocityFactor::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_CrushStress::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_Material::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MaterialContainer::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MCWrapper::InitializeMetadata, 7);
@@ -431,6 +452,15 @@ void QMXOdbKmaC_initialize(int& tally) {
   RegisterOld<kmaC_DamageInitiation_1390>(old);
   RegisterOld<kmaC_DamageInitiation_1432>(old);
   RegisterOld<kmaC_DamageInitiation_1801>(old);
+  RegisterOld<kmaC_DamageEvolution_869>(old);
+  RegisterOld<kmaC_DamageEvolution_883>(old);
+  RegisterOld<kmaC_UniaxialTestData_203>(old);
+  RegisterOld<kmaC_BiaxialTestData_203>(old);
+  RegisterOld<kmaC_PlanarTestData_203>(old);
+  RegisterOld<kmaC_VolumetricTestData_203>(old);
+  RegisterOld<kmaC_VolumetricTestData_324>(old);
+  RegisterOld<kmaC_MullinsEffect_850>(old);
+  RegisterOld<kmaC_CrushStress_2210>(old);
 }
 
 void QMXOdbKmaC_finalize(int& tally) {

@@ -1,8 +1,10 @@
 #pragma once
 // Onset of damage by one criterion (the slot of the material names it): the criterion's data table,
-// the forming-limit definition, the direction and position of evaluation and the numerical controls.
+// the forming-limit definition, the direction and position of evaluation and the numerical controls,
+// and the list of damage evolutions that follow the onset (one per failure mode of the criterion).
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
+#include "kma/kmaC_OptionListMember.h"
 #include "platform/base/omu_PrimEnum.h"
 
 class kmaC_DamageInitiation : public kmaC_MaterialOption {
@@ -42,15 +44,28 @@ class kmaC_DamageInitiation : public kmaC_MaterialOption {
         fw_Field{"temperatureDependency", 12, "temperatureDependency", &C::temperatureDependency},
         fw_Field{"dependencies", 13, "dependencies", &C::dependencies},
         fw_Field{"table", 14, "table", &C::table},
+        fw_Field{"DamageEvolutionList", 15, "DamageEvolutionList", &C::damageEvolutions},
     };
   }
 
   kmaC_DamageInitiation() = default;
   explicit kmaC_DamageInitiation(const cls_ReadVisitor& r);
   kmaC_DamageInitiation* Copy() const override;
+  // Dependencies (code 0), the table (code 23), then the damage evolutions: each of its class
+  // (code 11) and valid, no failure index twice (code 74).
   void AssertValid() const override;
+  // The rules that depend on the criterion, that is on the material slot that holds the option:
+  // at most as many evolutions as the criterion has failure modes (code 75), each failure index
+  // among them (code 73), an evolution where the criterion needs one (code 71), and a plasticity
+  // option in the material where the criterion is one of ductile metals (code 72). Called by
+  // the material's validation after AssertValid.
+  void AssertValidInSlot(std::string_view slot, bool materialHasPlasticity) const;
+  // The number of failure modes of the criterion of a slot, 1 for the single-mode criteria.
+  static int FailureModes(std::string_view slot);
   unsigned DynTypeId() const override { return TypeId(); }
   void DBWrite(const cls_WriteVisitor& w) const override;
+  const kmaC_MaterialOptionList* OptionList(std::string_view member) const override;
+  kmaC_MaterialOptionList* ModifyOptionList(std::string_view member) override;
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
   static void CowDtor(void* p);
 
@@ -73,6 +88,7 @@ class kmaC_DamageInitiation : public kmaC_MaterialOption {
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
   static cow_String dependenciesCmd() { return "dependencies"; }
   static cow_String tableCmd() { return "table"; }
+  static cow_String damageEvolutionListCmd() { return "DamageEvolutionList"; }
   static cow_String setValuesCmd() { return "setValues"; }
 
   DefinitionEnm GetDefinition() const { return definition; }
@@ -105,6 +121,9 @@ class kmaC_DamageInitiation : public kmaC_MaterialOption {
   void SetDependencies(std::int32_t v) { dependencies = v; }
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
+  // The list takes kmaC_DamageEvolution objects only; a list with another object is refused whole.
+  const kmaC_MaterialOptionList& GetDamageEvolutionList() const { return damageEvolutions.List(); }
+  void SetDamageEvolutionList(const kmaC_MaterialOptionList& v) { damageEvolutions.Set(v, "DamageEvolutionList"); }
 
  protected:
   bool SameAs(const kmaC_MaterialOption& o) const override;
@@ -125,4 +144,5 @@ class kmaC_DamageInitiation : public kmaC_MaterialOption {
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
+  kmaC_OptionListMember<kmaC_OptionClass::DamageEvolution> damageEvolutions;
 };

@@ -1,5 +1,7 @@
 #include "kma/kmaC_DamageInitiation_Versions.h"
 
+#include <vector>
+
 void* Upgrade_kmaC_DamageInitiation_869_883(const dbc_Row&, dbc_Row& newRow, int) {
   newRow.SetDouble(rfm_FieldHandle("omega", -1), 1.0);
   return nullptr;
@@ -26,5 +28,6 @@ void* Upgrade_kmaC_DamageInitiation_1801_2305(const dbc_Row&, dbc_Row& newRow, i
   newRow.SetDouble(rfm_FieldHandle("fnn", -1), 10.0);
   newRow.SetDouble(rfm_FieldHandle("fnt", -1), 10.0);
   newRow.SetInt(rfm_FieldHandle("frequency", -1), 1);
+  newRow.Set(rfm_FieldHandle("DamageEvolutionList", -1), std::vector<cls_RecordPtr>());
   return nullptr;
 }

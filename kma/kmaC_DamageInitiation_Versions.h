@@ -17,6 +17,6 @@ class kmaC_DamageInitiation_1390 : public kmaC_OldClassConversion<kmaC_DamageIni
 // 1432 to 1801: adds position "CENTROID".
 void* Upgrade_kmaC_DamageInitiation_1432_1801(const dbc_Row& oldRow, dbc_Row& newRow, int arg);
 class kmaC_DamageInitiation_1432 : public kmaC_OldClassConversion<kmaC_DamageInitiation, 1432, 1801, &Upgrade_kmaC_DamageInitiation_1432_1801> {};
-// 1801 to 2305: adds feq 10.0, fnn 10.0, fnt 10.0, frequency 1.
+// 1801 to 2305: adds feq 10.0, fnn 10.0, fnt 10.0, frequency 1 and an empty DamageEvolutionList.
 void* Upgrade_kmaC_DamageInitiation_1801_2305(const dbc_Row& oldRow, dbc_Row& newRow, int arg);
 class kmaC_DamageInitiation_1801 : public kmaC_OldClassConversion<kmaC_DamageInitiation, 1801, 2305, &Upgrade_kmaC_DamageInitiation_1801_2305> {};

@@ -1,6 +1,6 @@
 #include "kma/kmaC_Hyperelastic.h"
 
-#include "framework/fw_FieldTable.h"
+#include "kma/kmaC_OptionListTraits.h"
 #include "kma/kmaC_assert.h"
 
 kmaC_Hyperelastic::kmaC_Hyperelastic(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
@@ -21,4 +21,12 @@ void kmaC_Hyperelastic::AssertValid() const {
   kmaC_Assert(poissonRatio >= -1.0, kmaC_PoissonBelowMinimum);
   kmaC_Assert(poissonRatio <= 0.5, kmaC_PoissonAboveMaximum);
   table.AssertValid();
+  // The test data count only when the fit uses them.
+  kmaC_Assert(uniaxialTests.ElementsFit() && biaxialTests.ElementsFit() && planarTests.ElementsFit() &&
+                  volumetricTests.ElementsFit(),
+              kmaC_NoSuchSubOption);
+  if (testData)
+    for (const kmaC_MaterialOptionList* list :
+         {&uniaxialTests.List(), &biaxialTests.List(), &planarTests.List(), &volumetricTests.List()})
+      for (const kmaC_OptionHandle& h : *list) h->AssertValid();
 }

@@ -1,8 +1,10 @@
 #pragma once
 // Hyperelastic behavior: the strain energy potential and its order, given by coefficients or by
-// test data, and the time scale of the moduli.
+// test data, and the time scale of the moduli. With `testData` the coefficients are fitted to the
+// test data in four lists (uniaxial, biaxial, planar, volumetric), which then are validated.
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
+#include "kma/kmaC_OptionListMember.h"
 #include "platform/base/omu_PrimEnum.h"
 
 class kmaC_Hyperelastic : public kmaC_MaterialOption {
@@ -40,6 +42,10 @@ class kmaC_Hyperelastic : public kmaC_MaterialOption {
         fw_Field{"temperatureDependency", 7, "temperatureDependency", &C::temperatureDependency},
         fw_Field{"dependencies", 8, "dependencies", &C::dependencies},
         fw_Field{"table", 9, "table", &C::table},
+        fw_Field{"uniaxialTests", 10, "uniaxialTests", &C::uniaxialTests},
+        fw_Field{"biaxialTests", 11, "biaxialTests", &C::biaxialTests},
+        fw_Field{"planarTests", 12, "planarTests", &C::planarTests},
+        fw_Field{"volumetricTests", 13, "volumetricTests", &C::volumetricTests},
     };
   }
 
@@ -67,6 +73,10 @@ class kmaC_Hyperelastic : public kmaC_MaterialOption {
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
   static cow_String dependenciesCmd() { return "dependencies"; }
   static cow_String tableCmd() { return "table"; }
+  static cow_String uniaxialTestsCmd() { return "uniaxialTests"; }
+  static cow_String biaxialTestsCmd() { return "biaxialTests"; }
+  static cow_String planarTestsCmd() { return "planarTests"; }
+  static cow_String volumetricTestsCmd() { return "volumetricTests"; }
   static cow_String setValuesCmd() { return "setValues"; }
 
   MaterialTypeEnm GetMaterialType() const { return materialType; }
@@ -89,6 +99,15 @@ class kmaC_Hyperelastic : public kmaC_MaterialOption {
   void SetDependencies(std::int32_t v) { dependencies = v; }
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
+  // Each list takes its own test-data class only; a list with another object is refused whole.
+  const kmaC_MaterialOptionList& GetUniaxialTests() const { return uniaxialTests.List(); }
+  void SetUniaxialTests(const kmaC_MaterialOptionList& v) { uniaxialTests.Set(v, "uniaxialTests"); }
+  const kmaC_MaterialOptionList& GetBiaxialTests() const { return biaxialTests.List(); }
+  void SetBiaxialTests(const kmaC_MaterialOptionList& v) { biaxialTests.Set(v, "biaxialTests"); }
+  const kmaC_MaterialOptionList& GetPlanarTests() const { return planarTests.List(); }
+  void SetPlanarTests(const kmaC_MaterialOptionList& v) { planarTests.Set(v, "planarTests"); }
+  const kmaC_MaterialOptionList& GetVolumetricTests() const { return volumetricTests.List(); }
+  void SetVolumetricTests(const kmaC_MaterialOptionList& v) { volumetricTests.Set(v, "volumetricTests"); }
 
  protected:
   bool SameAs(const kmaC_MaterialOption& o) const override;
@@ -104,4 +123,8 @@ class kmaC_Hyperelastic : public kmaC_MaterialOption {
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
+  kmaC_OptionListMember<kmaC_OptionClass::UniaxialTestData> uniaxialTests;
+  kmaC_OptionListMember<kmaC_OptionClass::BiaxialTestData> biaxialTests;
+  kmaC_OptionListMember<kmaC_OptionClass::PlanarTestData> planarTests;
+  kmaC_OptionListMember<kmaC_OptionClass::VolumetricTestData> volumetricTests;
 };

@@ -1,5 +1,7 @@
 #include "kma/kmaC_Hyperelastic_Versions.h"
 
+#include <vector>
+
 void* kmaC_Hyperelastic_Upgrade_203_324(const dbc_Row&, dbc_Row& newRow, int) {
   newRow.SetBool(rfm_FieldHandle("testData", -1), false);
   return nullptr;
@@ -23,5 +25,7 @@ void* kmaC_Hyperelastic_Upgrade_850_864(const dbc_Row&, dbc_Row& newRow, int) {
 void* kmaC_Hyperelastic_Upgrade_864_2002(const dbc_Row&, dbc_Row& newRow, int) {
   newRow.SetDouble(rfm_FieldHandle("poissonRatio", -1), 0.0);
   newRow.SetString(rfm_FieldHandle("behaviorType", -1), "INCOMPRESSIBLE");
+  for (const char* list : {"uniaxialTests", "biaxialTests", "planarTests", "volumetricTests"})
+    newRow.Set(rfm_FieldHandle(list, -1), std::vector<cls_RecordPtr>());
   return nullptr;
 }

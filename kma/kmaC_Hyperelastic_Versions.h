@@ -15,6 +15,6 @@ class kmaC_Hyperelastic_328 : public kmaC_OldClassConversion<kmaC_Hyperelastic, 
 // 850 to 864: adds materialType "ISOTROPIC".
 void* kmaC_Hyperelastic_Upgrade_850_864(const dbc_Row& oldRow, dbc_Row& newRow, int arg);
 class kmaC_Hyperelastic_850 : public kmaC_OldClassConversion<kmaC_Hyperelastic, 850, 864, &kmaC_Hyperelastic_Upgrade_850_864> {};
-// 864 to 2002: adds poissonRatio 0.0, behaviorType "INCOMPRESSIBLE".
+// 864 to 2002: adds poissonRatio 0.0, behaviorType "INCOMPRESSIBLE" and the four empty test-data lists.
 void* kmaC_Hyperelastic_Upgrade_864_2002(const dbc_Row& oldRow, dbc_Row& newRow, int arg);
 class kmaC_Hyperelastic_864 : public kmaC_OldClassConversion<kmaC_Hyperelastic, 864, 2002, &kmaC_Hyperelastic_Upgrade_864_2002> {};

@@ -97,6 +97,8 @@ enum class kmaC_OptionClass : unsigned {
   Viscosity = 90,
   Viscous = 91,
   VolumetricTestData = 92,
+  // Sub-option classes added after the material container's rows take rows from 114 on.
+  CrushStressVelocityFactor = 114,
 };
 
 // The registered class name of an option class ("kmaC_Elastic").
@@ -191,6 +193,7 @@ constexpr const char* kmaC_OptionClassName(kmaC_OptionClass c) {
     case kmaC_OptionClass::Viscosity: return "kmaC_Viscosity";
     case kmaC_OptionClass::Viscous: return "kmaC_Viscous";
     case kmaC_OptionClass::VolumetricTestData: return "kmaC_VolumetricTestData";
+    case kmaC_OptionClass::CrushStressVelocityFactor: return "kmaC_CrushStressVelocityFactor";
   }
   return "";
 }

@@ -5,31 +5,23 @@
 #include <string>
 #include <vector>
 
+#include "kma/kmaC_BiaxialTestData.h"
+#include "kma/kmaC_DamageEvolution.h"
+#include "kma/kmaC_DamageInitiation.h"
 #include "kma/kmaC_Elastic.h"
 #include "kma/kmaC_MaterialContainer.h"
 #include "kma/kmaC_MaterialInMaterialContainerShortcut.h"
 #include "kma/kmaC_MaterialOptionInMaterialShortcut.h"
 #include "kma/kmaC_MaterialOptionList.h"
 #include "kma/kmaC_MaterialOptionListShortcut.h"
+#include "kma/kmaC_MullinsEffect.h"
 #include "kma/kmaC_OptionListShortcuts.h"
+#include "kma/kmaC_UniaxialTestData.h"
 #include "platform/model/ddr_Model.h"
 #include "platform/persist/cls_Record.h"
 #include "tests/kma/kmaT_Support.h"
 
 namespace {
-
-// A Mullins effect stand-in that holds one of its three lists.
-class MullinsStandIn : public kmaT_StandIn<kmaC_OptionClass::MullinsEffect> {
- public:
-  MullinsStandIn* Copy() const override { return mem_New<MullinsStandIn>(*this); }
-  const kmaC_MaterialOptionList* OptionList(std::string_view member) const override {
-    return member == "uniaxialTests" ? &uniaxial : nullptr;
-  }
-  kmaC_MaterialOptionList* ModifyOptionList(std::string_view member) override {
-    return member == "uniaxialTests" ? &uniaxial : nullptr;
-  }
-  kmaC_MaterialOptionList uniaxial;
-};
 
 class KmaListShortcut : public ::testing::Test {
  protected:
@@ -37,9 +29,12 @@ class KmaListShortcut : public ::testing::Test {
     kmaT_Start();
     kmaC_Material m;
     m.SetElastic(kmaC_Elastic());
-    MullinsStandIn mullins;
-    mullins.uniaxial = kmaC_MaterialOptionList{kmaC_OptionHandle(kmaC_Elastic())};
+    kmaC_MullinsEffect mullins;
+    mullins.SetUniaxialTests(kmaC_MaterialOptionList{kmaC_OptionHandle(kmaC_UniaxialTestData())});
     m.SetOption("mullinsEffect", mullins);
+    kmaC_DamageInitiation shear;
+    shear.SetDamageEvolutionList(kmaC_MaterialOptionList{kmaC_OptionHandle(kmaC_DamageEvolution())});
+    m.SetOption("shearDamageInitiation", shear);
     dynamic_cast<kmaC_MaterialContainer&>(*model.ModifyRepository("materials")).Insert("Rubber", m);
   }
   kmaC_MaterialOptionShortcut Slot(const char* slot) {
@@ -86,10 +81,20 @@ TEST_F(KmaListShortcut, TheRightOwnerReachesItsListAndSeparatesItOnModification)
   sc.Get(model) = kmaC_MaterialOptionList{};
   EXPECT_EQ(sc.ConstGet(model)->size(), 0u);
   EXPECT_EQ(sc.ConstGet(before)->size(), 1u);
-  // A list the stand-in does not hold names nothing.
+  // The other lists of the same option and the evolutions of a damage initiation.
   const kmaC_MaterialOptionListShortcut biaxial = kmaC_MaterialOptionListInMullinsEffectShortcut(Slot("mullinsEffect"), "biaxialTests");
-  EXPECT_EQ(biaxial.ConstGet(model), nullptr);
-  EXPECT_THROW(biaxial.Get(model), nex_CmdError);
+  EXPECT_EQ(biaxial.Path(), (std::vector<cow_String>{"materials", "Rubber", "mullinsEffect", "biaxialTests"}));
+  ASSERT_NE(biaxial.ConstGet(model), nullptr);
+  EXPECT_TRUE(biaxial.ConstGet(model)->empty());
+  biaxial.Get(model).Append(kmaC_OptionHandle(kmaC_BiaxialTestData()));
+  EXPECT_EQ(biaxial.ConstGet(model)->size(), 1u);
+  EXPECT_TRUE(biaxial.ConstGet(before)->empty());
+  EXPECT_EQ(sc.ConstGet(model)->size(), 0u);
+  const kmaC_MaterialOptionListShortcut evolutions =
+      kmaC_DamageEvolutionListInMaterialOptionShortcut(Slot("shearDamageInitiation"));
+  ASSERT_NE(evolutions.ConstGet(model), nullptr);
+  EXPECT_EQ(evolutions.ConstGet(model)->size(), 1u);
+  EXPECT_TRUE((*evolutions.ConstGet(model))[0]->IsA(kmaC_DamageEvolution::TypeId()));
 
   for (const kmaC_MaterialOptionListShortcut& s : {sc, biaxial}) {
     cls_RecordWriter w;

@@ -143,7 +143,7 @@ TEST(KmaOptionUpgrade, OlderLayoutsReadBackWithTheFilledValues) {
       {"kmaC_MohrCoulomb", 1422, {"useTensionCutoff"}, "mohrCoulomb",
        [](kmaC_Material& m) { m.SetOption("mohrCoulomb", MohrCoulombWith(0.8, 0.3, true)); },
        MohrCoulombIs(0.8, 0.3, false)},
-      {"kmaC_DamageInitiation", 1390, {"direction", "position", "feq", "fnn", "fnt", "frequency"}, "ductileDamageInitiation",
+      {"kmaC_DamageInitiation", 1390, {"direction", "position", "feq", "fnn", "fnt", "frequency", "DamageEvolutionList"}, "ductileDamageInitiation",
        [](kmaC_Material& m) {
          kmaC_DamageInitiation d;
          d.SetDirection(kmaC_DamageInitiation::DirectionEnm::TMORI);
@@ -162,7 +162,9 @@ TEST(KmaOptionUpgrade, OlderLayoutsReadBackWithTheFilledValues) {
          EXPECT_EQ(d.GetOmega(), 0.5);  // present at 1390, kept
        }},
       {"kmaC_Hyperelastic", 203,
-       {"testData", "n", "moduliTimeScale", "materialType", "poissonRatio", "behaviorType"}, "hyperelastic",
+       {"testData", "n", "moduliTimeScale", "materialType", "poissonRatio", "behaviorType", "uniaxialTests",
+        "biaxialTests", "planarTests", "volumetricTests"},
+       "hyperelastic",
        [](kmaC_Material& m) { m.SetOption("hyperelastic", HyperelasticWith(true)); },
        [](const kmaC_Material& m) {
          const auto& h = dynamic_cast<const kmaC_Hyperelastic&>(*m.GetOption("hyperelastic"));

@@ -175,6 +175,8 @@ TEST(ArchitectureTableTest, EveryModuleHasItsEntryAndTheIncompleteOnesAreKnown) 
     EXPECT_EQ(arch->Row(0).name, nullptr);
     EXPECT_LE(arch->Count(), m.statedRows);
     for (int i = 1; i < arch->Count(); ++i) {
+      // A module still short of its rows may hold rows reserved for classes still to come.
+      if (incomplete.count(m.prefix) && arch->Row(i).kind == 0 && arch->Row(i).name == nullptr) continue;
       EXPECT_EQ(arch->Row(i).kind, 7) << i;
       ASSERT_NE(arch->Row(i).name, nullptr) << i;
       EXPECT_EQ(std::string(arch->Row(i).name).rfind(m.prefix, 0), 0u) << arch->Row(i).name;

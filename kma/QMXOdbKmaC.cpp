@@ -98,6 +98,18 @@
 #include "kma/kmaC_Viscous.h"
 #include "kma/kmaC_Viscous_Versions.h"
 #include "kma/kmaC_Electrolyte.h"
+#include "kma/kmaC_CapCreep.h"
+#include "kma/kmaC_CapCreep_Versions.h"
+#include "kma/kmaC_CapCreepCohesion.h"
+#include "kma/kmaC_CapCreepCohesion_Versions.h"
+#include "kma/kmaC_CapCreepConsolidation.h"
+#include "kma/kmaC_CapCreepConsolidation_Versions.h"
+#include "kma/kmaC_DruckerPragerCreep.h"
+#include "kma/kmaC_DruckerPragerCreep_Versions.h"
+#include "kma/kmaC_EosShear.h"
+#include "kma/kmaC_EosShear_Versions.h"
+#include "kma/kmaC_ShearRetention.h"
+#include "kma/kmaC_ShearRetention_Versions.h"
 #include "kma/kmaC_DamageInitiation.h"
 #include "kma/kmaC_DamageInitiation_Versions.h"
 #include "kma/kmaC_DamageEvolution.h"
@@ -116,6 +128,11 @@
 #include "kma/kmaC_FailStrain.h"
 #include "kma/kmaC_FailStress.h"
 #include "kma/kmaC_MCWrapper.h"
+#include "kma/kmaC_FCWrapper.h"
+#include "kma/kmaC_FieldConstituent.h"
+#include "kma/kmaC_FieldConstituentContainer.h"
+#include "kma/kmaC_MeanFieldHomogenization.h"
+#include "kma/kmaC_Electrode.h"
 #include "kma/kmaC_Material.h"
 #include "kma/kmaC_MaterialContainer.h"
 #include "kma/kmaC_MaterialOption.h"
@@ -253,8 +270,79 @@ constexpr typ_ArchCompRecord kArchRows[] = {
     {7, 1, 0, "kmaC_ElectrodeParticleListInMaterialOptionShortcut"},
     {7, 1, 0, "kmaC_ElectrodeParticleLayerListInMaterialOptionShortcut"},
     {7, 1, 0, "kmaC_CrushStressVelocityFactor"},
+    // Rows 115 to 139 and 151 to 182 are kept free: the table has its fixed size, and no class of
+    // this library takes them; the mean-field constituents, their repository and the electrode's
+    // particles sit at 140 to 150, where their type ids were first given out.
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {7, 1, 0, "kmaC_FieldConstituent"},
+    {7, 1, 0, "kmaC_FieldConstituentContainer"},
+    {7, 1, 0, "kmaC_FieldConstituentIMPLSC"},
+    {7, 1, 0, "kmaC_FieldConstituentShortcut"},
+    {7, 1, 0, "kmaC_FieldConstituentInFieldConstituentContainerShortcut"},
+    {7, 1, 0, "kmaC_FieldConstituentContainerIMPLSC"},
+    {7, 1, 0, "kmaC_FieldConstituentContainerShortcut"},
+    {7, 1, 0, "kmaC_FieldConstituentContainerInModelShortcut"},
+    {7, 1, 0, "kmaC_FCWrapper"},
+    {7, 1, 0, "kmaC_ElectrodeParticle"},
+    {7, 1, 0, "kmaC_ElectrodeParticleLayer"},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
+    {0, 0, 0, nullptr},
 };
-static_assert(std::size(kArchRows) == 115);
+static_assert(std::size(kArchRows) == 183);
 
 template <class Step>
 void RegisterOld(dbc_OldClassRegistrar& old) {
@@ -279,6 +367,12 @@ void QMXOdbKmaC_initialize(int& tally) {
     kmaC_MCWrapper prototype(materials);
     ddr_Model::RegisterExtension(prototype);
     bas_StartJournal::Register("kmaC_MCWrapper");
+  }
+  {
+    kmaC_FieldConstituentContainer constituents;
+    kmaC_FCWrapper prototype(constituents);
+    ddr_Model::RegisterExtension(prototype);
+    bas_StartJournal::Register("kmaC_FCWrapper");
   }
   // Every class of this module, the container and its wrapper included, goes with group 7.
   auto& metadata = omi_Singleton<cls_MetadataRegistrar>::Instance();
@@ -328,6 +422,12 @@ void QMXOdbKmaC_initialize(int& tally) {
   metadata.initClassMetadata(&kmaC_TransShearElastic::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_AcousticMedium::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_BrittleCracking::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_CapCreep::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_CapCreepCohesion::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_CapCreepConsolidation::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_DruckerPragerCreep::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_EosShear::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_ShearRetention::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_CapPlasticity::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_CastIronPlasticity::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_ClayPlasticity::InitializeMetadata, 7);
@@ -369,6 +469,13 @@ void QMXOdbKmaC_initialize(int& tally) {
   metadata.initClassMetadata(&kmaC_Material::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MaterialContainer::InitializeMetadata, 7);
   metadata.initClassMetadata(&kmaC_MCWrapper::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_MeanFieldHomogenization::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_ElectrodeParticle::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_ElectrodeParticleLayer::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_Electrode::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_FieldConstituent::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_FieldConstituentContainer::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kmaC_FCWrapper::InitializeMetadata, 7);
 
   auto& old = omi_Singleton<dbc_OldClassRegistrar>::Instance();
   RegisterOld<kmaC_Material_203>(old);
@@ -446,6 +553,13 @@ void QMXOdbKmaC_initialize(int& tally) {
   RegisterOld<kmaC_ThicknessBehavior_203>(old);
   RegisterOld<kmaC_Viscous_203>(old);
   RegisterOld<kmaC_Viscous_438>(old);
+  RegisterOld<kmaC_CapCreep_203>(old);
+  RegisterOld<kmaC_CapCreepCohesion_452>(old);
+  RegisterOld<kmaC_CapCreepConsolidation_452>(old);
+  RegisterOld<kmaC_DruckerPragerCreep_203>(old);
+  RegisterOld<kmaC_EosShear_203>(old);
+  RegisterOld<kmaC_EosShear_1338>(old);
+  RegisterOld<kmaC_ShearRetention_203>(old);
   RegisterOld<kmaC_DamageInitiation_869>(old);
   RegisterOld<kmaC_DamageInitiation_883>(old);
   RegisterOld<kmaC_DamageInitiation_1352>(old);
@@ -466,5 +580,6 @@ void QMXOdbKmaC_initialize(int& tally) {
 void QMXOdbKmaC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
   bas_StartJournal::Stop("QMXOdbKmaC");
+  ddr_Model::UnRegisterExtension(kmaC_FieldConstituentContainer::Names::kRepositoryName);
   ddr_Model::UnRegisterExtension(kmaC_MaterialContainer::Names::kRepositoryName);
 }

@@ -1,6 +1,6 @@
 #include "kma/kmaC_BrittleCracking.h"
 
-#include "framework/fw_FieldTable.h"
+#include "kma/kmaC_OptionSlotTraits.h"
 #include "kma/kmaC_assert.h"
 
 kmaC_BrittleCracking::kmaC_BrittleCracking(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
@@ -13,5 +13,6 @@ void kmaC_BrittleCracking::CowDtor(void* p) { fw_CowDtor<kmaC_BrittleCracking>(p
 
 void kmaC_BrittleCracking::AssertValid() const {
   kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
+  if (const kmaC_MaterialOption* sub = shearRetention.ConstGet()) sub->AssertValid();
   table.AssertValid();
 }

@@ -2,6 +2,7 @@
 // Brittle cracking: the cracking stress and the post-cracking tension stiffening.
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
+#include "kma/kmaC_OptionSlot.h"
 #include "platform/base/omu_PrimEnum.h"
 
 class kmaC_BrittleCracking : public kmaC_MaterialOption {
@@ -24,6 +25,7 @@ class kmaC_BrittleCracking : public kmaC_MaterialOption {
         fw_Field{"temperatureDependency", 1, "temperatureDependency", &C::temperatureDependency},
         fw_Field{"dependencies", 2, "dependencies", &C::dependencies},
         fw_Field{"table", 3, "table", &C::table},
+        fw_Field{"shearRetention", 4, "shearRetention", &C::shearRetention},
     };
   }
 
@@ -45,6 +47,7 @@ class kmaC_BrittleCracking : public kmaC_MaterialOption {
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
   static cow_String dependenciesCmd() { return "dependencies"; }
   static cow_String tableCmd() { return "table"; }
+  static cow_String shearRetentionCmd() { return "shearRetention"; }
   static cow_String setValuesCmd() { return "setValues"; }
 
   TypeEnm GetType() const { return type; }
@@ -55,6 +58,9 @@ class kmaC_BrittleCracking : public kmaC_MaterialOption {
   void SetDependencies(std::int32_t v) { dependencies = v; }
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
+  const kmaC_MaterialOption* GetShearRetention() const { return shearRetention.ConstGet(); }
+  void SetShearRetention(const kmaC_MaterialOption& v) { shearRetention.Set(v, "shearRetention"); }
+  void ClearShearRetention() { shearRetention.Clear(); }
 
  protected:
   bool SameAs(const kmaC_MaterialOption& o) const override;
@@ -64,4 +70,5 @@ class kmaC_BrittleCracking : public kmaC_MaterialOption {
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
+  kmaC_OptionSlot<kmaC_OptionClass::ShearRetention> shearRetention;
 };

@@ -1,6 +1,6 @@
 #include "kma/kmaC_CapPlasticity.h"
 
-#include "framework/fw_FieldTable.h"
+#include "kma/kmaC_OptionSlotTraits.h"
 #include "kma/kmaC_assert.h"
 
 kmaC_CapPlasticity::kmaC_CapPlasticity(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
@@ -13,5 +13,8 @@ void kmaC_CapPlasticity::CowDtor(void* p) { fw_CowDtor<kmaC_CapPlasticity>(p); }
 
 void kmaC_CapPlasticity::AssertValid() const {
   kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
+  if (const kmaC_MaterialOption* sub = capCreepCohesion.ConstGet()) sub->AssertValid();
+  if (const kmaC_MaterialOption* sub = capCreepConsolidation.ConstGet()) sub->AssertValid();
+  if (const kmaC_MaterialOption* sub = capCreep.ConstGet()) sub->AssertValid();
   table.AssertValid();
 }

@@ -3,6 +3,7 @@
 // yield surface position, transition parameter and flow stress ratio per row.
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
+#include "kma/kmaC_OptionSlot.h"
 
 class kmaC_CapPlasticity : public kmaC_MaterialOption {
  public:
@@ -20,6 +21,9 @@ class kmaC_CapPlasticity : public kmaC_MaterialOption {
         fw_Field{"temperatureDependency", 0, "temperatureDependency", &C::temperatureDependency},
         fw_Field{"dependencies", 1, "dependencies", &C::dependencies},
         fw_Field{"table", 2, "table", &C::table},
+        fw_Field{"capCreepCohesion", 3, "capCreepCohesion", &C::capCreepCohesion},
+        fw_Field{"capCreepConsolidation", 4, "capCreepConsolidation", &C::capCreepConsolidation},
+        fw_Field{"capCreep", 5, "capCreep", &C::capCreep},
     };
   }
 
@@ -40,6 +44,9 @@ class kmaC_CapPlasticity : public kmaC_MaterialOption {
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
   static cow_String dependenciesCmd() { return "dependencies"; }
   static cow_String tableCmd() { return "table"; }
+  static cow_String capCreepCohesionCmd() { return "capCreepCohesion"; }
+  static cow_String capCreepConsolidationCmd() { return "capCreepConsolidation"; }
+  static cow_String capCreepCmd() { return "capCreep"; }
   static cow_String setValuesCmd() { return "setValues"; }
 
   bool GetTemperatureDependency() const { return temperatureDependency; }
@@ -48,6 +55,15 @@ class kmaC_CapPlasticity : public kmaC_MaterialOption {
   void SetDependencies(std::int32_t v) { dependencies = v; }
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
+  const kmaC_MaterialOption* GetCapCreepCohesion() const { return capCreepCohesion.ConstGet(); }
+  void SetCapCreepCohesion(const kmaC_MaterialOption& v) { capCreepCohesion.Set(v, "capCreepCohesion"); }
+  void ClearCapCreepCohesion() { capCreepCohesion.Clear(); }
+  const kmaC_MaterialOption* GetCapCreepConsolidation() const { return capCreepConsolidation.ConstGet(); }
+  void SetCapCreepConsolidation(const kmaC_MaterialOption& v) { capCreepConsolidation.Set(v, "capCreepConsolidation"); }
+  void ClearCapCreepConsolidation() { capCreepConsolidation.Clear(); }
+  const kmaC_MaterialOption* GetCapCreep() const { return capCreep.ConstGet(); }
+  void SetCapCreep(const kmaC_MaterialOption& v) { capCreep.Set(v, "capCreep"); }
+  void ClearCapCreep() { capCreep.Clear(); }
 
  protected:
   bool SameAs(const kmaC_MaterialOption& o) const override;
@@ -56,4 +72,7 @@ class kmaC_CapPlasticity : public kmaC_MaterialOption {
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
+  kmaC_OptionSlot<kmaC_OptionClass::CapCreepCohesion> capCreepCohesion;
+  kmaC_OptionSlot<kmaC_OptionClass::CapCreepConsolidation> capCreepConsolidation;
+  kmaC_OptionSlot<kmaC_OptionClass::CapCreep> capCreep;
 };

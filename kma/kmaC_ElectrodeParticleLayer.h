@@ -1,0 +1,72 @@
+#pragma once
+// One layer of a porous electrode through its thickness: the layer's thickness (blank until
+// given), the number of elements across it and its data table (the particle volume fractions of
+// the layer).
+#include <limits>
+
+#include "kma/kmaC_MaterialOption.h"
+#include "kma/kmaC_MaterialTable.h"
+#include "platform/base/omu_PrimEnum.h"
+
+class kmaC_ElectrodeParticleLayer : public kmaC_MaterialOption {
+ public:
+
+  using BaseClass = kmaC_MaterialOption;
+  using RootClass = kmaC_MaterialOption;
+  static constexpr const char* kClassName = "kmaC_ElectrodeParticleLayer";
+  static constexpr const char* kScriptName = "ElectrodeParticleLayer";
+  static constexpr int kVersion = 203;
+  static constexpr unsigned TypeId() { return fw_TypeId(kmaC_kArchKey, 150); }
+
+  static constexpr auto Fields() {
+    using C = kmaC_ElectrodeParticleLayer;
+    return std::tuple{
+        fw_Field{"thickness", 0, "thickness", &C::thickness},
+        fw_Field{"numElements", 1, "numElements", &C::numElements},
+        fw_Field{"temperatureDependency", 2, "temperatureDependency", &C::temperatureDependency},
+        fw_Field{"dependencies", 3, "dependencies", &C::dependencies},
+        fw_Field{"table", 4, "table", &C::table},
+    };
+  }
+
+  kmaC_ElectrodeParticleLayer() = default;
+  explicit kmaC_ElectrodeParticleLayer(const cls_ReadVisitor& r);
+  kmaC_ElectrodeParticleLayer* Copy() const override;
+  void AssertValid() const override;
+  unsigned DynTypeId() const override { return TypeId(); }
+  void DBWrite(const cls_WriteVisitor& w) const override;
+  static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  static void CowDtor(void* p);
+
+  bool operator==(const kmaC_ElectrodeParticleLayer& o) const;
+  bool operator!=(const kmaC_ElectrodeParticleLayer& o) const { return !(*this == o); }
+
+  static cow_String constructorCmd() { return kScriptName; }
+  static cow_String thicknessCmd() { return "thickness"; }
+  static cow_String numElementsCmd() { return "numElements"; }
+  static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
+  static cow_String dependenciesCmd() { return "dependencies"; }
+  static cow_String tableCmd() { return "table"; }
+  static cow_String setValuesCmd() { return "setValues"; }
+
+  double GetThickness() const { return thickness; }
+  void SetThickness(double v) { thickness = v; }
+  std::int32_t GetNumElements() const { return numElements; }
+  void SetNumElements(std::int32_t v) { numElements = v; }
+  bool GetTemperatureDependency() const { return temperatureDependency; }
+  void SetTemperatureDependency(bool v) { temperatureDependency = v; }
+  std::int32_t GetDependencies() const { return dependencies; }
+  void SetDependencies(std::int32_t v) { dependencies = v; }
+  const kmaC_MaterialTable& GetTable() const { return table; }
+  void SetTable(const kmaC_MaterialTable& v) { table = v; }
+
+ protected:
+  bool SameAs(const kmaC_MaterialOption& o) const override;
+
+ private:
+  double thickness = std::numeric_limits<double>::max();
+  std::int32_t numElements = 1;
+  bool temperatureDependency = false;
+  std::int32_t dependencies = 0;
+  kmaC_MaterialTable table;
+};

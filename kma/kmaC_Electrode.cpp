@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "kma/kmaC_OptionListOfTraits.h"
+#include "kma/kmaC_OptionListTraits.h"
 #include "kma/kmaC_OptionSlotTraits.h"
 #include "kma/kmaC_assert.h"
 
@@ -17,16 +17,16 @@ void kmaC_Electrode::CowDtor(void* p) { fw_CowDtor<kmaC_Electrode>(p); }
 void kmaC_Electrode::AssertValid() const {
   kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
   if (const kmaC_MaterialOption* sub = electricalConductivity.ConstGet()) sub->AssertValid();
-  for (const kmaC_MaterialOptionList* list : {static_cast<const kmaC_MaterialOptionList*>(&electrodeParticleList),
-                                               static_cast<const kmaC_MaterialOptionList*>(&electrodeParticleLayerList)})
+  for (const kmaC_MaterialOptionList* list : {&electrodeParticleList.List(), &electrodeParticleLayerList.List()})
     for (const kmaC_OptionHandle& h : *list)
       if (!h.IsNull()) h->AssertValid();
   table.AssertValid();
 }
 
 const kmaC_MaterialOptionList* kmaC_Electrode::OptionList(std::string_view member) const {
-  if (member == "ElectrodeParticleList" || member == "electrodeParticleList") return &electrodeParticleList;
-  if (member == "ElectrodeParticleLayerList" || member == "electrodeParticleLayerList") return &electrodeParticleLayerList;
+  if (member == "ElectrodeParticleList" || member == "electrodeParticleList") return &electrodeParticleList.List();
+  if (member == "ElectrodeParticleLayerList" || member == "electrodeParticleLayerList")
+    return &electrodeParticleLayerList.List();
   return nullptr;
 }
 

@@ -7,7 +7,7 @@
 #include "kma/kmaC_MaterialTable.h"
 #include "kma/kmaC_ElectrodeParticle.h"
 #include "kma/kmaC_ElectrodeParticleLayer.h"
-#include "kma/kmaC_OptionListOf.h"
+#include "kma/kmaC_OptionListMember.h"
 #include "kma/kmaC_OptionSlot.h"
 #include "platform/base/omu_PrimEnum.h"
 
@@ -75,10 +75,13 @@ class kmaC_Electrode : public kmaC_MaterialOption {
   const kmaC_MaterialOption* GetElectricalConductivity() const { return electricalConductivity.ConstGet(); }
   void SetElectricalConductivity(const kmaC_MaterialOption& v) { electricalConductivity.Set(v, "electricalConductivity"); }
   void ClearElectricalConductivity() { electricalConductivity.Clear(); }
-  const kmaC_OptionListOf<kmaC_ElectrodeParticle>& GetElectrodeParticleList() const { return electrodeParticleList; }
-  void SetElectrodeParticleList(const kmaC_OptionListOf<kmaC_ElectrodeParticle>& v) { electrodeParticleList = v; }
-  const kmaC_OptionListOf<kmaC_ElectrodeParticleLayer>& GetElectrodeParticleLayerList() const { return electrodeParticleLayerList; }
-  void SetElectrodeParticleLayerList(const kmaC_OptionListOf<kmaC_ElectrodeParticleLayer>& v) { electrodeParticleLayerList = v; }
+  // The lists take particles (layers) only; anything else refuses the whole list.
+  const kmaC_MaterialOptionList& GetElectrodeParticleList() const { return electrodeParticleList.List(); }
+  void SetElectrodeParticleList(const kmaC_MaterialOptionList& v) { electrodeParticleList.Set(v, "electrodeParticleList"); }
+  const kmaC_MaterialOptionList& GetElectrodeParticleLayerList() const { return electrodeParticleLayerList.List(); }
+  void SetElectrodeParticleLayerList(const kmaC_MaterialOptionList& v) {
+    electrodeParticleLayerList.Set(v, "electrodeParticleLayerList");
+  }
 
  protected:
   bool SameAs(const kmaC_MaterialOption& o) const override;
@@ -89,6 +92,6 @@ class kmaC_Electrode : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
   kmaC_OptionSlot<kmaC_OptionClass::ElectricalConductivity> electricalConductivity;
-  kmaC_OptionListOf<kmaC_ElectrodeParticle> electrodeParticleList;
-  kmaC_OptionListOf<kmaC_ElectrodeParticleLayer> electrodeParticleLayerList;
+  kmaC_OptionListMember<kmaC_OptionClass::ElectrodeParticle> electrodeParticleList;
+  kmaC_OptionListMember<kmaC_OptionClass::ElectrodeParticleLayer> electrodeParticleLayerList;
 };

@@ -17,7 +17,7 @@ class kmaC_ElectrodeParticle : public kmaC_MaterialOption {
   static constexpr const char* kClassName = "kmaC_ElectrodeParticle";
   static constexpr const char* kScriptName = "ElectrodeParticle";
   static constexpr int kVersion = 203;
-  static constexpr unsigned TypeId() { return fw_TypeId(kmaC_kArchKey, 149); }
+  static constexpr unsigned TypeId() { return kmaC_OptionTypeId(kmaC_OptionClass::ElectrodeParticle); }
 
   static constexpr auto Fields() {
     using C = kmaC_ElectrodeParticle;

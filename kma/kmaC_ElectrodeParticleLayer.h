@@ -16,7 +16,7 @@ class kmaC_ElectrodeParticleLayer : public kmaC_MaterialOption {
   static constexpr const char* kClassName = "kmaC_ElectrodeParticleLayer";
   static constexpr const char* kScriptName = "ElectrodeParticleLayer";
   static constexpr int kVersion = 203;
-  static constexpr unsigned TypeId() { return fw_TypeId(kmaC_kArchKey, 150); }
+  static constexpr unsigned TypeId() { return kmaC_OptionTypeId(kmaC_OptionClass::ElectrodeParticleLayer); }
 
   static constexpr auto Fields() {
     using C = kmaC_ElectrodeParticleLayer;

@@ -99,6 +99,9 @@ enum class kmaC_OptionClass : unsigned {
   VolumetricTestData = 92,
   // Sub-option classes added after the material container's rows take rows from 114 on.
   CrushStressVelocityFactor = 114,
+  // The electrode's list elements, which joined after the constituents' rows were given out.
+  ElectrodeParticle = 149,
+  ElectrodeParticleLayer = 150,
 };
 
 // The registered class name of an option class ("kmaC_Elastic").
@@ -194,6 +197,8 @@ constexpr const char* kmaC_OptionClassName(kmaC_OptionClass c) {
     case kmaC_OptionClass::Viscous: return "kmaC_Viscous";
     case kmaC_OptionClass::VolumetricTestData: return "kmaC_VolumetricTestData";
     case kmaC_OptionClass::CrushStressVelocityFactor: return "kmaC_CrushStressVelocityFactor";
+    case kmaC_OptionClass::ElectrodeParticle: return "kmaC_ElectrodeParticle";
+    case kmaC_OptionClass::ElectrodeParticleLayer: return "kmaC_ElectrodeParticleLayer";
   }
   return "";
 }

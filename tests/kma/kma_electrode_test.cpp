@@ -37,12 +37,12 @@ kmaC_ElectrodeParticle Particle(double radius) {
 kmaC_Electrode TwoParticleElectrode() {
   kmaC_Electrode e;
   e.SetType(kmaC_Electrode::TypeEnm::POSITIVE);
-  e.SetElectrodeParticleList(kmaC_OptionListOf<kmaC_ElectrodeParticle>(
+  e.SetElectrodeParticleList(kmaC_MaterialOptionList(
       {kmaC_OptionHandle(Particle(5e-3)), kmaC_OptionHandle(Particle(2e-3))}));
   kmaC_ElectrodeParticleLayer layer;
   layer.SetThickness(0.07);
   layer.SetNumElements(4);
-  e.SetElectrodeParticleLayerList(kmaC_OptionListOf<kmaC_ElectrodeParticleLayer>({kmaC_OptionHandle(layer)}));
+  e.SetElectrodeParticleLayerList(kmaC_MaterialOptionList({kmaC_OptionHandle(layer)}));
   return e;
 }
 
@@ -111,7 +111,7 @@ TEST(KmaElectrodeRules, TheListsAreValidatedInOrderAfterTheElectrodesOwnRules) {
     EXPECT_NO_THROW(e.AssertValid());
     kmaC_ElectrodeParticle bad = Particle(1e-3);
     bad.SetTable(kmaC_MaterialTable(cow_2DArray<double>{{0, 0}}));
-    e.SetElectrodeParticleList(kmaC_OptionListOf<kmaC_ElectrodeParticle>({kmaC_OptionHandle(bad)}));
+    e.SetElectrodeParticleList(kmaC_MaterialOptionList({kmaC_OptionHandle(bad)}));
     kmaT_ExpectFailure([&] { e.AssertValid(); }, kZeroRow);
     e.SetDependencies(-1);  // the electrode's own rule comes first
     kmaT_ExpectFailure([&] { e.AssertValid(); }, kDependencies);
@@ -120,7 +120,7 @@ TEST(KmaElectrodeRules, TheListsAreValidatedInOrderAfterTheElectrodesOwnRules) {
     kmaC_Electrode e = TwoParticleElectrode();
     kmaC_ElectrodeParticleLayer layer;
     layer.SetDependencies(-3);
-    e.SetElectrodeParticleLayerList(kmaC_OptionListOf<kmaC_ElectrodeParticleLayer>({kmaC_OptionHandle(layer)}));
+    e.SetElectrodeParticleLayerList(kmaC_MaterialOptionList({kmaC_OptionHandle(layer)}));
     kmaT_ExpectFailure([&] { e.AssertValid(); }, kDependencies);
   }
   {
@@ -158,6 +158,13 @@ TEST(KmaElectrodeScript, ParticlesAndLayersAreAddedByScriptAndCarriedThroughTheF
   const cmd_Json foreign = s.ExecuteLine(
       R"({"op":"create","path":["M","materials","NMC","electrode","electrodeParticleList","1"],"type":"ElectrodeParticleLayer","values":{}})");
   EXPECT_FALSE(foreign.value("ok", true));
+  EXPECT_EQ(foreign["error"]["message"], "ElectrodeParticleLayer cannot stand where ElectrodeParticle is expected");
+  const cmd_Json empty = s.ExecuteLine(
+      R"({"op":"set","path":["M","materials","NMC","electrode","electrodeParticleList"],"value":[null]})");
+  EXPECT_EQ(empty["error"]["message"],
+            "The option list \"electrodeParticleList\" holds only kmaC_ElectrodeParticle objects; element 0 is an "
+            "empty element");
+  EXPECT_EQ(empty["error"]["file"], "kmaC_OptionListMember.cpp");
   EXPECT_EQ(Ok(s, R"({"op":"get","path":["M","materials","NMC","electrode","electrodeParticleList"]})").size(), 1u);
 
   const std::string file = qmx_TempDir("kma-electrode") + "/cell.odb";

@@ -105,7 +105,7 @@ const ScriptCase kCases[] = {
     {{"gapRadiation"}, "GapRadiation", R"({"table":[[0.8,0.9]]})", "dependencies", "0", "kmaC_GapRadiation"},
     {{"hyperfoam"}, "Hyperfoam", R"({"n":2,"poisson":0.1,"table":[[0.2,8,0.01,-2]]})", "n", "2", "kmaC_Hyperfoam"},
     {{"lowDensityFoam"}, "LowDensityFoam", R"({"elementRemoval":true,"maxAllowablePrincipalStress":2.5})", "maxAllowablePrincipalStress", "2.5", "kmaC_LowDensityFoam"},
-    {{"magneticPermeability"}, "MagneticPermeability", R"({"nonlinearBH":true,"table":[[0.5,100],[1.2,1000]]})", "nonlinearBH", "true", "kmaC_MagneticPermeability"},
+    {{"magneticPermeability"}, "MagneticPermeability", R"({"nonlinearBH":true,"table":[[0,0],[0.5,100],[1.2,1000]]})", "nonlinearBH", "true", "kmaC_MagneticPermeability"},
     {{"mohrCoulomb"}, "MohrCoulomb", R"({"deviatoricEccentricity":0.8,"useTensionCutoff":true,"table":[[30,5]]})", "deviatoricEccentricity", "0.8", "kmaC_MohrCoulomb"},
     {{"moistureSwelling"}, "MoistureSwelling", R"({"table":[[0.01,0.5]]})", "table", R"([[0.01,0.5]])", "kmaC_MoistureSwelling"},
     {{"permeability"}, "Permeability", R"({"specificWeight":9810,"table":[[1e-7,0.3]]})", "specificWeight", "9810.0", "kmaC_Permeability"},
@@ -320,6 +320,35 @@ TEST(KmaOptionClasses, RulesFailWithTheirMessages) {
          o.SetFrequencyDependency(true);
        }),
        "Frequency dependency is not applicable for nonlinear BH material."},
+      {"B-H curve of one point", Check<kmaC_MagneticPermeability>([](auto& o) {
+         o.SetNonlinearBH(true);
+         o.SetTable(Row({0.0, 0.0}));
+       }),
+       "Table should contain at least two data rows."},
+      {"B-H curve off the origin", Check<kmaC_MagneticPermeability>([](auto& o) {
+         o.SetNonlinearBH(true);
+         o.SetTable(kmaC_MaterialTable(cow_2DArray<double>({{0.0, 10.0}, {1.0, 100.0}})));
+       }),
+       "First two cells of the first table row should be (0.,0.)"},
+      {"B-H curve of one column", Check<kmaC_MagneticPermeability>([](auto& o) {
+         o.SetNonlinearBH(true);
+         o.SetTable(kmaC_MaterialTable(cow_2DArray<double>({{0.0}, {1.0}})));
+       }),
+       "First two cells of the first table row should be (0.,0.)"},
+      {"B-H curve from the origin", Check<kmaC_MagneticPermeability>([](auto& o) {
+         o.SetNonlinearBH(true);
+         o.SetTable(kmaC_MaterialTable(cow_2DArray<double>({{0.0, 0.0}, {0.5, 100.0}})));
+       }),
+       ""},
+      {"B-H curve with a zero row after the origin", Check<kmaC_MagneticPermeability>([](auto& o) {
+         o.SetNonlinearBH(true);
+         o.SetTable(kmaC_MaterialTable(cow_2DArray<double>({{0.0, 0.0}, {0.0, 0.0}})));
+       }),
+       "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s)."},
+      {"zero first row without a B-H curve", Check<kmaC_MagneticPermeability>([](auto& o) {
+         o.SetTable(kmaC_MaterialTable(cow_2DArray<double>({{0.0, 0.0}, {0.5, 100.0}})));
+       }),
+       "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s)."},
       {"deviatoric eccentricity 0.5", Check<kmaC_MohrCoulomb>([](auto& o) { o.SetDeviatoricEccentricity(0.5); }),
        "invalid flow potential eccentricity in the deviatoric plane."},
       {"deviatoric eccentricity 0.51", Check<kmaC_MohrCoulomb>([](auto& o) { o.SetDeviatoricEccentricity(0.51); }), ""},

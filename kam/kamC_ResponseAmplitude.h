@@ -1,5 +1,5 @@
 #pragma once
-// A response spectrum, defined by a table or calculated from an event amplitude.
+// kamC_SpectrumAmplitude, a response spectrum defined by a table or calculated from an event amplitude.
 #include "kam/kamC_Amplitude.h"
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_String.h"

@@ -1,5 +1,5 @@
 #pragma once
-// Specific heat at constant volume or constant pressure, possibly temperature and field dependent.
+// kmaC_SpecificHeat: specific heat at constant volume or constant pressure, possibly temperature and field dependent.
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"

@@ -1,5 +1,5 @@
 #pragma once
-// A response spectrum table: (value, frequency, damping) rows of a displacement, velocity or
+// kamC_Spectrum, a response spectrum table: (value, frequency, damping) rows of a displacement, velocity or
 // acceleration spectrum, with the gravity that scales it.
 #include "kam/kamC_Amplitude.h"
 #include "platform/base/cow_2DArray.h"

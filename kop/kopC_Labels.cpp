@@ -127,7 +127,7 @@ constexpr kopC_VariableSpecLabelMap::Entry kSpecs[] = {
 
 std::unique_ptr<kopC_TaskTypeLabelMap> longMap;
 std::unique_ptr<kopC_ShortenedTaskTypeLabelMap> shortMap;
-std::unique_ptr<kopC_VariableSpecLabelMap> specMap;
+std::unique_ptr<kopC_VariableSpecLabelMap> variableLabelMap;
 
 bool StartsWith(std::string_view s, std::string_view prefix) { return s.substr(0, prefix.size()) == prefix; }
 }  // namespace
@@ -158,10 +158,10 @@ void kopC_ShortenedTaskTypeLabelMap::Finalize() { shortMap.reset(); }
 
 kopC_VariableSpecLabelMap::kopC_VariableSpecLabelMap() : entries_(std::begin(kSpecs), std::end(kSpecs)) {}
 const kopC_VariableSpecLabelMap& kopC_VariableSpecLabelMap::Instance() {
-  if (!specMap) specMap.reset(new kopC_VariableSpecLabelMap());
-  return *specMap;
+  if (!variableLabelMap) variableLabelMap.reset(new kopC_VariableSpecLabelMap());
+  return *variableLabelMap;
 }
-void kopC_VariableSpecLabelMap::Finalize() { specMap.reset(); }
+void kopC_VariableSpecLabelMap::Finalize() { variableLabelMap.reset(); }
 
 const kopC_VariableSpecLabelMap::Entry* kopC_VariableSpecLabelMap::Find(std::string_view identifier) const {
   for (const Entry& e : entries_)

@@ -40,40 +40,52 @@ void cmd_Checker::Model(cmd_Path path, const ddr_Model& model) {
 void cmd_Checker::Repository(const cmd_Path& path, const mdl_Repository& repo) {
   struct Walk {
     cmd_Checker* self;
-    cmd_Path p;
-  } walk{this, path};
-  walk.p.emplace_back();
+    const cmd_Path* parent;
+  } walk{this, &path};
   repo.ForEachElement(
       [](void* context, const cow_String& key, const void* obj, const cls_ClassMetadata& cls) {
         auto& w = *static_cast<Walk*>(context);
-        w.p.back() = key;
-        w.self->Object(w.p, obj, cls);
+        w.self->Element(*w.parent, key, obj, cls);
       },
       &walk);
 }
 
 void cmd_Checker::Object(const cmd_Path& path, const void* obj, const cls_ClassMetadata& md) {
+  if (path.empty()) return Element(path, cow_String(), obj, md);  // no walk reaches an object there
+  const cmd_Path parent(path.begin(), path.end() - 1);
+  Element(parent, path.back(), obj, md);
+}
+
+// The element's own path is made only when it is needed: for a failure, or to walk into what
+// the element holds. Most elements of a large model need neither.
+void cmd_Checker::Element(const cmd_Path& parent, const cow_String& key, const void* obj, const cls_ClassMetadata& md) {
+  auto pathOf = [&] {
+    cmd_Path p;
+    p.reserve(parent.size() + 1);
+    p.insert(p.end(), parent.begin(), parent.end());
+    p.push_back(key);
+    return p;
+  };
   try {
     md.AssertValid(obj);
   } catch (const QMXBasException& e) {
-    failures_.push_back(cmd_Failure{path, e.Kind(), e.Message(), e.File(), e.Line()});
+    failures_.push_back(cmd_Failure{pathOf(), e.Kind(), e.Message(), e.File(), e.Line()});
   } catch (const std::exception& e) {
-    failures_.push_back(cmd_Failure{path, "Error", e.what(), "", 0});
+    failures_.push_back(cmd_Failure{pathOf(), "Error", e.what(), "", 0});
   }
   ++checked_;
   if (progress_) progress_(checked_);
-  if (const mdl_Repository* repo = md.AsRepository(obj)) Repository(path, *repo);  // a container as an element
-  else Nested(path, obj, md);
+  if (const mdl_Repository* repo = md.AsRepository(obj)) Repository(pathOf(), *repo);  // a container as an element
+  else if (!md.ObjectFields().empty()) Nested(pathOf(), obj, md);
 }
 
 void cmd_Checker::Nested(const cmd_Path& path, const void* obj, const cls_ClassMetadata& md) {
-  for (const auto& f : md.ScriptFields()) {
-    if (f.type != cls_AttrObject || !f.declared) continue;
-    const void* child = f.child(obj);
+  for (const cls_ScriptField* f : md.ObjectFields()) {
+    const void* child = f->child(obj);
     if (!child) continue;
     cmd_Path p = path;
-    p.emplace_back(f.scriptName);
-    const cls_ClassMetadata& cm = f.declared->ClassOf(child);
+    p.emplace_back(f->scriptName);
+    const cls_ClassMetadata& cm = f->declared->ClassOf(child);
     if (const mdl_Repository* repo = cm.AsRepository(child)) Repository(p, *repo);
     else Nested(p, child, cm);
   }

@@ -34,6 +34,7 @@ class cmd_Checker {
   void Model(cmd_Path path, const ddr_Model& model);
   void Repository(const cmd_Path& path, const mdl_Repository& repo);
   void Object(const cmd_Path& path, const void* obj, const cls_ClassMetadata& md);
+  void Element(const cmd_Path& parent, const cow_String& key, const void* obj, const cls_ClassMetadata& md);
   // Repositories held in members of an object (at any depth of member objects).
   void Nested(const cmd_Path& path, const void* obj, const cls_ClassMetadata& md);
 

@@ -29,6 +29,11 @@ std::string_view Text(sqlite3_stmt* s, int col) {
   return p ? std::string_view(p, static_cast<std::size_t>(sqlite3_column_bytes(s, col))) : std::string_view();
 }
 
+std::string_view Text(sqlite3_value* v) {
+  const auto* p = reinterpret_cast<const char*>(sqlite3_value_text(v));
+  return p ? std::string_view(p, static_cast<std::size_t>(sqlite3_value_bytes(v))) : std::string_view();
+}
+
 int HexDigit(char c) {
   if (c >= '0' && c <= '9') return c - '0';
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
@@ -59,6 +64,8 @@ dbf_Reader::dbf_Reader(const std::string& path, const dbc_UpgradeDriver& driver)
   CheckFile(path);
   // Read-only, so opening changes nothing; NOMUTEX, as the connection never leaves this thread.
   conn_ = std::make_unique<dbf_Connection>(path, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, dbf_ChecksumVfs());
+  // CheckFile checked every page; SQLite's reads need not check them again.
+  dbf_PagesVerified(conn_->Get());
   ReadMeta();
   ReadCatalog();
 }
@@ -111,7 +118,8 @@ void dbf_Reader::CheckFile(const std::string& path) {
 }
 
 // Every page, not only those the rows are read from: pages of indexes this library never reads
-// would otherwise keep a changed byte unnoticed for the next tool that reads them.
+// would otherwise keep a changed byte unnoticed for the next tool that reads them. SQLite's own
+// reads then skip the check (dbf_PagesVerified), so each page is checked once.
 void dbf_Reader::VerifyPages(std::ifstream& in, std::uint32_t pageSize, std::uintmax_t pages) {
   // SQLite never writes the page that holds the byte at offset 2^30 (its lock byte).
   const std::uintmax_t lockPage = (std::uintmax_t(1) << 30) / pageSize + 1;
@@ -217,6 +225,8 @@ void dbf_Reader::ReadCatalog() {
                      std::to_string(t->rename->Target()) +
                      ", from which no chain of upgrade steps reaches its current version " + std::to_string(current));
       t->upgrade = t->cls != nullptr;
+      if (t->cls && t->rename->Target() != current)
+        t->steps = driver_.StepsFor(t->rename->NewName(), t->rename->Target(), current);
     } else if (t->storedVersion == current && hash != dbf_FieldTableHash(t->cls->Attributes()))
       nex_ThrowCmd("the fields of class " + t->className + " differ from the ones stored at its version " +
                    std::to_string(current) + "; a changed field table needs a new class version and an upgrade step");
@@ -225,8 +235,12 @@ void dbf_Reader::ReadCatalog() {
         nex_ThrowCmd("class " + t->className + " is stored at version " + std::to_string(t->storedVersion) +
                      ", from which no chain of upgrade steps reaches its current version " + std::to_string(current));
       t->upgrade = true;
+      t->steps = driver_.StepsFor(t->className, t->storedVersion, current);
     }
-    for (std::size_t i = 0; i < t->fields.size(); ++i) t->byName.emplace(t->fields[i].name, i);
+    for (std::size_t i = 0; i < t->fields.size(); ++i) {
+      t->fields[i].key = cow_String(t->fields[i].name);
+      t->byName.emplace(t->fields[i].name, i);
+    }
     if (!byStoredId_.emplace(t->storedTypeId, t.get()).second)
       Damaged(std::string("two classes of its catalog share the type id ") + std::to_string(t->storedTypeId));
     PrepareTable(*t);
@@ -410,8 +424,7 @@ void dbf_Reader::Rename(dbf_LoadedRow& row) {
   dbc_Row newRow(up->record);
   newRow.SetSource(&source);
   if (dbc_ConversionFn fn = t.rename->Function()) fn(oldRow, newRow, t.rename->Arg());
-  if (t.rename->Target() != t.cls->Version())
-    driver_.Upgrade(t.rename->NewName(), t.rename->Target(), t.cls->Version(), up->record);
+  dbc_UpgradeDriver::Run(t.steps, up->record);
   row.upgraded = std::move(up);
 }
 
@@ -423,29 +436,32 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
   for (std::size_t i = 0; i < n; ++i) {
     dbf_ReadField& f = t.fields[i];
     const int col = f.column;
-    const int type = sqlite3_column_type(s, col);
+    // One value per column, its type and contents read from it: the connection is opened without
+    // a mutex, so the column's value needs no protected copy.
+    sqlite3_value* cv = sqlite3_column_value(s, col);
+    const int type = sqlite3_value_type(cv);
     cls_Value& v = row.values[i];
     switch (f.kind) {
       case dbf_Kind::Int: {
-        std::int64_t x = sqlite3_column_int64(s, col);
+        std::int64_t x = sqlite3_value_int64(cv);
         if (type != SQLITE_INTEGER || x < INT32_MIN || x > INT32_MAX) DamagedField(t, row.oid, f.name, "no 32-bit integer");
         v = static_cast<std::int32_t>(x);
         break;
       }
       case dbf_Kind::Double:
-        if (type == SQLITE_FLOAT || type == SQLITE_INTEGER) v = sqlite3_column_double(s, col);
+        if (type == SQLITE_FLOAT || type == SQLITE_INTEGER) v = sqlite3_value_double(cv);
         else if (type == SQLITE_NULL) v = std::numeric_limits<double>::quiet_NaN();
         else DamagedField(t, row.oid, f.name, "no number");
         break;
       case dbf_Kind::Bool: {
-        std::int64_t x = sqlite3_column_int64(s, col);
+        std::int64_t x = sqlite3_value_int64(cv);
         if (type != SQLITE_INTEGER || (x != 0 && x != 1)) DamagedField(t, row.oid, f.name, "no boolean");
         v = x == 1;
         break;
       }
       case dbf_Kind::Text: {
         if (type != SQLITE_TEXT) DamagedField(t, row.oid, f.name, "no text");
-        std::string_view text = Text(s, col);
+        std::string_view text = Text(cv);
         if (f.type != cls_AttrEnum) {
           v = cow_String(text);
           break;
@@ -466,7 +482,7 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
       case dbf_Kind::Table: {
         cow_2DArray<double> table;
         if (type != SQLITE_BLOB ||
-            !dbf_DecodeTable(sqlite3_column_blob(s, col), static_cast<std::size_t>(sqlite3_column_bytes(s, col)), table))
+            !dbf_DecodeTable(sqlite3_value_blob(cv), static_cast<std::size_t>(sqlite3_value_bytes(cv)), table))
           DamagedField(t, row.oid, f.name, "no table of doubles");
         v = std::move(table);
         break;
@@ -475,7 +491,7 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
         const int ctype = sqlite3_column_type(s, col + 1);
         dbf_Ref ref;
         if (type == SQLITE_INTEGER && ctype == SQLITE_INTEGER) {
-          ref.oid = sqlite3_column_int64(s, col);
+          ref.oid = sqlite3_value_int64(cv);
           std::int64_t cls = sqlite3_column_int64(s, col + 1);
           if (ref.oid < 1 || cls < 0 || cls > UINT32_MAX) DamagedField(t, row.oid, f.name, "a malformed reference");
           ref.classId = static_cast<std::uint32_t>(cls);
@@ -489,7 +505,7 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
       }
       default: {  // lists, stored as JSON text
         if (type != SQLITE_TEXT) DamagedField(t, row.oid, f.name, "no list text");
-        std::string_view text = Text(s, col);
+        std::string_view text = Text(cv);
         bool ok = false;
         switch (f.kind) {
           case dbf_Kind::IntList: ok = dbf_ParseIntList(text, v.emplace<std::vector<std::int32_t>>()); break;
@@ -528,16 +544,16 @@ void dbf_Reader::Upgrade(dbf_LoadedRow& row) {
     const dbf_ReadField& f = t.fields[i];
     if (f.kind == dbf_Kind::Object) {
       cls_RecordPtr p = stub(row.refs[row.spans[i].first]);
-      up->record.fields.emplace_back(f.name, p ? cls_Value(p) : cls_Value());
+      up->record.fields.emplace_back(f.key, p ? cls_Value(p) : cls_Value());
     } else if (f.kind == dbf_Kind::ObjectList) {
       std::vector<cls_RecordPtr> list;
       for (std::uint32_t k = 0; k < row.spans[i].second; ++k) list.push_back(stub(row.refs[row.spans[i].first + k]));
-      up->record.fields.emplace_back(f.name, std::move(list));
+      up->record.fields.emplace_back(f.key, std::move(list));
     } else {
-      up->record.fields.emplace_back(f.name, std::move(row.values[i]));
+      up->record.fields.emplace_back(f.key, std::move(row.values[i]));
     }
   }
-  driver_.Upgrade(t.className, t.storedVersion, t.cls->Version(), up->record);
+  dbc_UpgradeDriver::Run(t.steps, up->record);
   row.upgraded = std::move(up);
 }
 

@@ -27,6 +27,7 @@
 
 struct dbf_ReadField {
   std::string name;
+  cow_String key;  // the name again, shared by the records of upgraded rows
   int type = 0;  // attribute type as stored
   dbf_Kind kind = dbf_Kind::Int;
   int column = 0;  // the first result column of the field
@@ -40,6 +41,7 @@ struct dbf_ReadTable {
   std::uint32_t storedTypeId = 0;
   int storedVersion = 0;
   bool upgrade = false;
+  dbc_UpgradeDriver::Steps steps;  // the upgrade steps of every row, found once
   bool hasObjects = false;
   std::vector<dbf_ReadField> fields;
   std::unordered_map<std::string_view, std::size_t> byName;  // views into fields' names

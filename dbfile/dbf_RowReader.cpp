@@ -21,8 +21,21 @@ long dbf_RowReader::Index(const char* name) const {
   return static_cast<long>(it->second);
 }
 
+// An upgraded row's record, searched from the next field as Index does.
+const cls_Value* dbf_RowReader::FindUpgraded(const char* name) const {
+  auto& fields = row_.upgraded->record.fields;
+  const std::string_view n(name);
+  if (cursor_ < fields.size() && fields[cursor_].first.view() == n) return &fields[cursor_++].second;
+  for (std::size_t i = 0; i < fields.size(); ++i)
+    if (fields[i].first.view() == n) {
+      cursor_ = i + 1;
+      return &fields[i].second;
+    }
+  return nullptr;
+}
+
 const cls_Value* dbf_RowReader::Find(const char* name) const {
-  if (row_.upgraded) return row_.upgraded->record.Find(name);
+  if (row_.upgraded) return FindUpgraded(name);
   long i = Index(name);
   if (i < 0) return nullptr;
   dbf_Kind kind = row_.table->fields[static_cast<std::size_t>(i)].kind;
@@ -48,7 +61,7 @@ void dbf_RowReader::CheckText(const char* name, const cow_String& s) const {
 }
 
 bool dbf_RowReader::Has(const char* name) const {
-  if (row_.upgraded) return row_.upgraded->record.Find(name) != nullptr;
+  if (row_.upgraded) return FindUpgraded(name) != nullptr;
   return Index(name) >= 0;
 }
 
@@ -99,7 +112,7 @@ void dbf_RowReader::WithChild(const dbf_Ref& ref, dbf_LoadedRow& child, F fn) co
 bool dbf_RowReader::ReadObject(const char* name, const cls_ReadFn& fn) const {
   dbf_LoadedRow child;
   if (row_.upgraded) {
-    const cls_Value* v = row_.upgraded->record.Find(name);
+    const cls_Value* v = FindUpgraded(name);
     if (v && std::holds_alternative<std::monostate>(*v)) return false;
     const cls_RecordPtr& p = Get<cls_RecordPtr>(name, "object");  // refuses a missing field
     if (!p) return false;

@@ -29,6 +29,7 @@ class dbf_RowReader final : public cls_ReadVisitor {
   // The stored field's index, or -1.
   long Index(const char* name) const;
   const cls_Value* Find(const char* name) const;
+  const cls_Value* FindUpgraded(const char* name) const;
   template <class T>
   const T& Get(const char* name, const char* kind) const;
   [[noreturn]] void Refuse(const char* name, const char* holds, const char* kind) const;

@@ -1,12 +1,22 @@
 #include "dbfile/dbf_Utf8.h"
 
 #include <cstdint>
+#include <cstring>
 
 std::optional<std::size_t> dbf_InvalidUtf8At(std::string_view text) {
   const auto* p = reinterpret_cast<const unsigned char*>(text.data());
   const std::size_t n = text.size();
   std::size_t i = 0;
   while (i < n) {
+    // Stored text is mostly ASCII: eight bytes at a time while no byte has its high bit set.
+    if (i + 8 <= n) {
+      std::uint64_t word;
+      std::memcpy(&word, p + i, 8);
+      if ((word & 0x8080808080808080ull) == 0) {
+        i += 8;
+        continue;
+      }
+    }
     const unsigned char c = p[i];
     if (c < 0x80) {
       ++i;

@@ -34,6 +34,7 @@ struct CkFile {
   unsigned char* scratch;
   int scratchSize;
   int mainDb;
+  int verified;  // every page was checked before SQLite reads any: reads skip the check
 };
 static_assert(sizeof(CkFile) % 8 == 0);
 
@@ -56,7 +57,7 @@ int Close(sqlite3_file* f) {
 
 int Read(sqlite3_file* f, void* buf, int amount, sqlite3_int64 offset) {
   int rc = M(f)->xRead(Real(f), buf, amount, offset);
-  if (rc != SQLITE_OK || !Ck(f)->mainDb || !IsPage(amount, offset)) return rc;
+  if (rc != SQLITE_OK || !Ck(f)->mainDb || Ck(f)->verified || !IsPage(amount, offset)) return rc;
   auto* page = static_cast<const unsigned char*>(buf);
   std::int64_t number = offset / amount + 1;
   std::size_t body = static_cast<std::size_t>(amount - dbf_kChecksumBytes);
@@ -182,6 +183,14 @@ const char* dbf_ChecksumVfs() {
     sqlite3_vfs_register(&vfs, 0);
   });
   return vfs.zName;
+}
+
+bool dbf_PagesVerified(sqlite3* db) {
+  sqlite3_file* f = nullptr;
+  if (sqlite3_file_control(db, "main", SQLITE_FCNTL_FILE_POINTER, &f) != SQLITE_OK || !f || f->pMethods != &kMethods)
+    return false;
+  Ck(f)->verified = 1;
+  return true;
 }
 
 std::int64_t dbf_ChecksumFailedPage(sqlite3* db) {

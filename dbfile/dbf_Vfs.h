@@ -17,6 +17,11 @@ inline constexpr int dbf_kChecksumBytes = 8;
 // The name of the checksumming VFS, registered (not as the default) on first use.
 const char* dbf_ChecksumVfs();
 
+// Tells the VFS that the caller checked every page of the connection's main file before any was
+// read, so that reads need not check each page a second time (writes still set checksums).
+// False when that file is not one of this VFS.
+bool dbf_PagesVerified(sqlite3* db);
+
 // The page whose checksum failed last on the connection's main file, or 0.
 std::int64_t dbf_ChecksumFailedPage(sqlite3* db);
 

@@ -37,7 +37,7 @@ struct mdl_NameKeys {
   static constexpr int kListType = cls_AttrStringList;
   static std::vector<Key> Read(const cls_ReadVisitor& r) { return r.ReadStringList("keys"); }
   static void Write(const cls_WriteVisitor& w, const std::vector<Key>& keys) { w.WriteStringList("keys", keys); }
-  static cow_String Text(const Key& k) { return k; }
+  static const cow_String& Text(const Key& k) { return k; }
   static std::string Shown(const Key& k) { return "\"" + k.str() + "\""; }
   static std::optional<Key> Parse(const cow_String& text) { return text; }
   static void Check(const Key& k, const char* repository) {
@@ -95,9 +95,9 @@ class mdl_KeyedRepository : public mem_Allocated,
     // Keys are stored in the map's order, so each goes at the end: one comparison, not a search.
     for (std::size_t i = 0; i < keys.size(); ++i) {
       const std::size_t before = items_.size();
-      items_.emplace_hint(items_.end(), keys[i], std::move(values[i]));
+      auto it = items_.emplace_hint(items_.end(), std::move(keys[i]), std::move(values[i]));
       if (items_.size() == before)
-        nex_ThrowCmd(std::string("The stored container ") + kClassName + " holds the key " + KeyPolicy::Shown(keys[i]) +
+        nex_ThrowCmd(std::string("The stored container ") + kClassName + " holds the key " + KeyPolicy::Shown(it->first) +
                      " twice");
     }
   }

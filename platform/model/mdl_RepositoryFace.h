@@ -13,7 +13,7 @@ class mdl_RepositoryFace : public mdl_Repository {
  public:
   const char* RepositoryName() const override { return Derived::Names::kRepositoryName; }
   std::size_t Count() const override { return Self().Size(); }
-  const cls_ClassMetadata& ElementClass() const override { return cls_MetadataOf(T::kClassName); }
+  const cls_ClassMetadata& ElementClass() const override { return cls_MetadataOfClass<T>(); }
   bool Contains(const cow_String& text) const override {
     auto k = Derived::ParseKey(text);
     return k && Self().Has(*k);

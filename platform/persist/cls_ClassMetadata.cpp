@@ -33,6 +33,15 @@ const cls_ScriptField* cls_ClassMetadata::FindScriptField(std::string_view scrip
   return nullptr;
 }
 
+const std::vector<const cls_ScriptField*>& cls_ClassMetadata::ObjectFields() const {
+  if (!objectFieldsFound_) {
+    for (const auto& f : ScriptFields())
+      if (f.type == cls_AttrObject && f.declared) objectFields_.push_back(&f);
+    objectFieldsFound_ = true;
+  }
+  return objectFields_;
+}
+
 namespace {
 [[noreturn]] void Unsupported(const cow_String& name, const char* what) {
   nex_ThrowCmd("The class " + name.str() + " cannot " + what);

@@ -67,6 +67,9 @@ class cls_ClassMetadata {
   virtual const char* ScriptName() const { return ""; }
   virtual const std::vector<cls_ScriptField>& ScriptFields() const;
   const cls_ScriptField* FindScriptField(std::string_view scriptName) const noexcept;
+  // The script fields that hold member objects, found once: walks over many instances skip
+  // classes without any.
+  const std::vector<const cls_ScriptField*>& ObjectFields() const;
   // The root class of the family whose untyped pointers this metadata hands out.
   virtual const char* RootName() const { return name_.c_str(); }
   // True when this class is the given class or derives from it.
@@ -97,4 +100,6 @@ class cls_ClassMetadata {
   int flag_;
   DtorFn dtor_ = nullptr;
   std::vector<cls_Attribute> attributes_;
+  mutable std::vector<const cls_ScriptField*> objectFields_;
+  mutable bool objectFieldsFound_ = false;
 };

@@ -174,14 +174,22 @@ bool dbc_UpgradeDriver::HasPath(const std::string& className, int v, int current
 }
 
 void dbc_UpgradeDriver::Upgrade(const std::string& className, int stored, int current, cls_Record& row) const {
+  Run(StepsFor(className, stored, current), row);
+}
+
+dbc_UpgradeDriver::Steps dbc_UpgradeDriver::StepsFor(const std::string& className, int stored, int current) const {
   if (stored > current)
     nex_ThrowCmd("Class " + className + " is stored at version " + std::to_string(stored) +
                  ", newer than this library's version " + std::to_string(current));
-  std::vector<const dbc_ClassConverter*> plan;
+  Steps plan;
   if (!Plan(className, stored, current, plan))
     nex_ThrowCmd("Class " + className + " is stored at version " + std::to_string(stored) +
                  ", from which no chain of upgrade steps reaches its current version " + std::to_string(current));
-  for (const dbc_ClassConverter* step : plan) {
+  return plan;
+}
+
+void dbc_UpgradeDriver::Run(const Steps& steps, cls_Record& row) {
+  for (const dbc_ClassConverter* step : steps) {
     if (dbc_ConversionFn fn = step->Function()) {
       cls_Record next = row;  // the new row starts as the old one; the function changes it
       const cls_Record& old = row;

@@ -144,6 +144,11 @@ class dbc_UpgradeDriver {
   // Upgrades the row in place. Refuses a version newer than current and a version from which no
   // chain of steps reaches current, with a nex_CmdException naming the class and versions.
   void Upgrade(const std::string& className, int storedVersion, int currentVersion, cls_Record& row) const;
+  // The same in two halves, for a reader that upgrades many rows of one class: the steps, found
+  // once (refused as Upgrade refuses), then run over each row.
+  using Steps = std::vector<const dbc_ClassConverter*>;
+  Steps StepsFor(const std::string& className, int storedVersion, int currentVersion) const;
+  static void Run(const Steps& steps, cls_Record& row);
   // True when the class has a chain of steps from the stored version to the current one.
   bool HasPath(const std::string& className, int storedVersion, int currentVersion) const;
   // The rename (or part declaration) of a class no longer registered, stored at a version; null

@@ -6,9 +6,12 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <optional>
+#include <string>
 
 #include "dbfile/dbf_ListText.h"
 #include "dbfile/dbf_TableBlob.h"
+#include "dbfile/dbf_Utf8.h"
 #include "platform/base/nex_Exception.h"
 #include "tests/support/qmx_test.h"
 
@@ -155,6 +158,31 @@ TEST(DbText, BlobsOfTheWrongSizeAreNoTables) {
     cow_2DArray<double> t;
     EXPECT_FALSE(dbf_DecodeTable(c.bytes.data(), c.bytes.size(), t)) << c.what;
   }
+}
+
+// Invalid bytes before, inside and after the first eight bytes, where the check goes a word at a
+// time, are found at their own offset.
+TEST(DbText, TextThatIsNotUtf8IsFoundAtItsOffset) {
+  struct Case {
+    std::string text;
+    std::optional<std::size_t> at;
+  };
+  const Case cases[] = {
+      {"", std::nullopt},
+      {"abcdefgh", std::nullopt},
+      {"abcdefghijklmnopq", std::nullopt},
+      {"\xFF" "bcdefghij", 0},
+      {"abcdefg\xFF", 7},
+      {"abcdefgh\xFF", 8},
+      {"abcdefghijklmno\x80" "q", 15},
+      {"abcdefgh\xC3\xA9ijklmnop", std::nullopt},  // a two-byte letter past the first word
+      {"abcdefgh\xC3", 8},                          // cut short at the end
+      {"abcdefg\xE2\x82\xAC" "defghij", std::nullopt},  // across a word boundary
+      {"abcdefgh\xC0\xAF", 8},                     // overlong
+      {"abcdefgh\xED\xA0\x80", 8},                // a surrogate
+      {"abcdefgh\xF4\x90\x80\x80", 8},            // beyond U+10FFFF
+  };
+  for (const Case& c : cases) EXPECT_EQ(dbf_InvalidUtf8At(c.text), c.at) << c.text;
 }
 
 }  // namespace

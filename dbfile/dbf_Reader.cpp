@@ -34,22 +34,41 @@ std::string_view Text(sqlite3_value* v) {
   return p ? std::string_view(p, static_cast<std::size_t>(sqlite3_value_bytes(v))) : std::string_view();
 }
 
-int HexDigit(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  return -1;
-}
+// The value of each lower-case hex digit, 0xFF for every other byte.
+struct HexTable {
+  unsigned char value[256];
+  constexpr HexTable() : value() {
+    for (int c = 0; c < 256; ++c) value[c] = 0xFF;
+    for (int c = '0'; c <= '9'; ++c) value[c] = static_cast<unsigned char>(c - '0');
+    for (int c = 'a'; c <= 'f'; ++c) value[c] = static_cast<unsigned char>(c - 'a' + 10);
+  }
+};
+constexpr HexTable kHex;
 
+// A uid as its 32 lower-case hex digits; one test for a bad digit at the end, not one per digit.
 bool ParseUid(std::string_view t, cls_Uid& out) {
   if (t.size() != 32) return false;
-  std::uint64_t hi = 0, lo = 0;
+  std::uint64_t half[2] = {0, 0};
+  unsigned bad = 0;
   for (std::size_t i = 0; i < 32; ++i) {
-    int d = HexDigit(t[i]);
-    if (d < 0) return false;
-    (i < 16 ? hi : lo) = ((i < 16 ? hi : lo) << 4) | static_cast<std::uint64_t>(d);
+    const unsigned d = kHex.value[static_cast<unsigned char>(t[i])];
+    bad |= d;
+    half[i / 16] = (half[i / 16] << 4) | (d & 0xF);
   }
-  out = cls_Uid(hi, lo);
+  if (bad & 0xF0) return false;
+  out = cls_Uid(half[0], half[1]);
   return true;
+}
+
+// Stored text reaches keys, names and JSON dumps; text that is not UTF-8 is damage, not data.
+// Checked as rows are loaded, once per value read from the file.
+void CheckUtf8(const dbf_ReadTable& t, std::int64_t oid, const dbf_ReadField& f, std::string_view text) {
+  if (auto at = dbf_InvalidUtf8At(text)) {
+    char hex[8];
+    std::snprintf(hex, sizeof hex, "0x%02X", static_cast<unsigned>(static_cast<unsigned char>(text[*at])));
+    nex_ThrowCmd("the field \"" + f.name + "\" of row " + std::to_string(oid) + " of class " + t.className +
+                 " holds text that is not UTF-8 (byte " + hex + " at offset " + std::to_string(*at) + ")");
+  }
 }
 
 std::string Hex32(std::uint32_t v) {
@@ -257,7 +276,8 @@ void dbf_Reader::PrepareTable(dbf_ReadTable& t) {
   const std::string from = " FROM " + dbf_Quote(t.className);
   try {
     t.scan = dbf_Statement(conn_->Get(), "SELECT " + cols + from + " ORDER BY " + dbf_Quote(dbf_kOidColumn));
-    t.point = dbf_Statement(conn_->Get(), "SELECT " + cols + from + " WHERE " + dbf_Quote(dbf_kOidColumn) + " = ?1");
+    // Prepared when a row is first wanted out of order, which most files never need.
+    t.pointSql = "SELECT " + cols + from + " WHERE " + dbf_Quote(dbf_kOidColumn) + " = ?1";
   } catch (const QMXBasException& e) {
     Damaged("the table of class " + t.className + " does not hold its stored columns: " + e.what());
   }
@@ -313,6 +333,7 @@ sqlite3_stmt* dbf_Reader::Position(dbf_ReadTable& t, std::int64_t oid) {
     }
   }
   if (!t.scanDone && t.scanOid == oid) return t.scan.Get();
+  if (!t.point.Get()) t.point = dbf_Statement(conn_->Get(), t.pointSql);
   t.point.Reset();
   sqlite3_bind_int64(t.point.Get(), 1, oid);
   return t.point.Step() ? t.point.Get() : nullptr;
@@ -463,6 +484,7 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
         if (type != SQLITE_TEXT) DamagedField(t, row.oid, f.name, "no text");
         std::string_view text = Text(cv);
         if (f.type != cls_AttrEnum) {
+          CheckUtf8(t, row.oid, f, text);
           v = cow_String(text);
           break;
         }
@@ -473,6 +495,7 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
         if (known) {
           v = *known;
         } else {
+          CheckUtf8(t, row.oid, f, text);  // a literal met again was checked when first met
           cow_String lit(text);
           if (f.literals.size() < 64) f.literals.push_back(lit);
           v = std::move(lit);
@@ -511,7 +534,11 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
           case dbf_Kind::IntList: ok = dbf_ParseIntList(text, v.emplace<std::vector<std::int32_t>>()); break;
           case dbf_Kind::DoubleList: ok = dbf_ParseDoubleList(text, v.emplace<std::vector<double>>()); break;
           case dbf_Kind::BoolList: ok = dbf_ParseBoolList(text, v.emplace<std::vector<bool>>()); break;
-          case dbf_Kind::TextList: ok = dbf_ParseTextList(text, v.emplace<std::vector<cow_String>>()); break;
+          case dbf_Kind::TextList:
+            ok = dbf_ParseTextList(text, v.emplace<std::vector<cow_String>>());
+            if (ok)
+              for (const cow_String& e : std::get<std::vector<cow_String>>(v)) CheckUtf8(t, row.oid, f, e.view());
+            break;
           default: {
             std::vector<dbf_Ref> refs;
             ok = dbf_ParseRefList(text, refs);

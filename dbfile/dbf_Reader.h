@@ -47,7 +47,8 @@ struct dbf_ReadTable {
   std::unordered_map<std::string_view, std::size_t> byName;  // views into fields' names
   std::int64_t rows = 0;
   dbf_Statement scan;   // every row in OID order
-  dbf_Statement point;  // one row by OID
+  dbf_Statement point;  // one row by OID, prepared from pointSql when first needed
+  std::string pointSql;
   bool scanStarted = false;
   bool scanDone = false;
   std::int64_t scanOid = 0;

@@ -1,10 +1,8 @@
 #include "dbfile/dbf_RowReader.h"
 
-#include <cstdio>
 #include <cstring>
 #include <string>
 
-#include "dbfile/dbf_Utf8.h"
 #include "platform/base/nex_Exception.h"
 
 unsigned dbf_RowReader::GetTypeId() const {
@@ -49,17 +47,6 @@ void dbf_RowReader::Refuse(const char* name, const char* holds, const char* kind
                row_.table->className + " holds " + holds + ", not " + cls_WithArticle(kind));
 }
 
-// Stored text reaches keys, names and JSON dumps; text that is not UTF-8 is damage, not data.
-void dbf_RowReader::CheckText(const char* name, const cow_String& s) const {
-  if (auto at = dbf_InvalidUtf8At(s.view())) {
-    char hex[8];
-    std::snprintf(hex, sizeof hex, "0x%02X", static_cast<unsigned>(static_cast<unsigned char>(s.view()[*at])));
-    nex_ThrowCmd(std::string("the field \"") + name + "\" of row " + std::to_string(row_.oid) + " of class " +
-                 row_.table->className + " holds text that is not UTF-8 (byte " + hex + " at offset " +
-                 std::to_string(*at) + ")");
-  }
-}
-
 bool dbf_RowReader::Has(const char* name) const {
   if (row_.upgraded) return FindUpgraded(name) != nullptr;
   return Index(name) >= 0;
@@ -78,11 +65,8 @@ const T& dbf_RowReader::Get(const char* name, const char* kind) const {
 std::int32_t dbf_RowReader::ReadInt(const char* name) const { return Get<std::int32_t>(name, "int"); }
 double dbf_RowReader::ReadDouble(const char* name) const { return Get<double>(name, "double"); }
 bool dbf_RowReader::ReadBool(const char* name) const { return Get<bool>(name, "bool"); }
-cow_String dbf_RowReader::ReadString(const char* name) const {
-  const cow_String& s = Get<cow_String>(name, "string");
-  CheckText(name, s);
-  return s;
-}
+// Stored text was checked to be UTF-8 as its row was loaded.
+cow_String dbf_RowReader::ReadString(const char* name) const { return Get<cow_String>(name, "string"); }
 std::vector<std::int32_t> dbf_RowReader::ReadIntList(const char* name) const {
   return Get<std::vector<std::int32_t>>(name, "list of ints");
 }
@@ -90,9 +74,7 @@ std::vector<double> dbf_RowReader::ReadDoubleList(const char* name) const {
   return Get<std::vector<double>>(name, "list of doubles");
 }
 std::vector<cow_String> dbf_RowReader::ReadStringList(const char* name) const {
-  const auto& list = Get<std::vector<cow_String>>(name, "list of strings");
-  for (const auto& s : list) CheckText(name, s);
-  return list;
+  return Get<std::vector<cow_String>>(name, "list of strings");
 }
 std::vector<bool> dbf_RowReader::ReadBoolList(const char* name) const {
   return Get<std::vector<bool>>(name, "list of bools");

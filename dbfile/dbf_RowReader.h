@@ -33,7 +33,6 @@ class dbf_RowReader final : public cls_ReadVisitor {
   template <class T>
   const T& Get(const char* name, const char* kind) const;
   [[noreturn]] void Refuse(const char* name, const char* holds, const char* kind) const;
-  void CheckText(const char* name, const cow_String& s) const;
   // Loads the referenced row and calls fn with its reader.
   template <class F>
   void WithChild(const dbf_Ref& ref, dbf_LoadedRow& child, F fn) const;

@@ -31,8 +31,6 @@ struct CkFile {
   sqlite3_file base;
   sqlite3_file* real;  // the default VFS's file, placed right after this struct
   std::int64_t badPage;
-  unsigned char* scratch;
-  int scratchSize;
   int mainDb;
   int verified;  // every page was checked before SQLite reads any: reads skip the check
 };
@@ -49,10 +47,7 @@ bool IsPage(int amount, sqlite3_int64 offset) {
 }
 
 int Close(sqlite3_file* f) {
-  int rc = M(f)->xClose(Real(f));
-  sqlite3_free(Ck(f)->scratch);
-  Ck(f)->scratch = nullptr;
-  return rc;
+  return M(f)->xClose(Real(f));
 }
 
 int Read(sqlite3_file* f, void* buf, int amount, sqlite3_int64 offset) {
@@ -73,17 +68,12 @@ int Write(sqlite3_file* f, const void* buf, int amount, sqlite3_int64 offset) {
   // A first page whose header reserves no room for the checksum means every page would lose its
   // last bytes to it: refuse the write rather than damage the file.
   if (offset == 0 && static_cast<const unsigned char*>(buf)[20] != dbf_kChecksumBytes) return SQLITE_IOERR_WRITE;
-  CkFile* ck = Ck(f);
-  if (ck->scratchSize < amount) {
-    void* grown = sqlite3_realloc(ck->scratch, amount);
-    if (!grown) return SQLITE_NOMEM;
-    ck->scratch = static_cast<unsigned char*>(grown);
-    ck->scratchSize = amount;
-  }
-  std::memcpy(ck->scratch, buf, static_cast<std::size_t>(amount));
+  // The checksum goes into the page's reserved bytes in SQLite's own buffer, as SQLite leaves
+  // those bytes to the VFS: no copy of the page is needed.
+  auto* page = static_cast<unsigned char*>(const_cast<void*>(buf));
   std::size_t body = static_cast<std::size_t>(amount - dbf_kChecksumBytes);
-  StoreLE(ck->scratch + body, dbf_PageChecksum(ck->scratch, body, offset / amount + 1));
-  return M(f)->xWrite(Real(f), ck->scratch, amount, offset);
+  StoreLE(page + body, dbf_PageChecksum(page, body, offset / amount + 1));
+  return M(f)->xWrite(Real(f), page, amount, offset);
 }
 
 int Truncate(sqlite3_file* f, sqlite3_int64 size) { return M(f)->xTruncate(Real(f), size); }

@@ -60,6 +60,10 @@ bool ParseUid(std::string_view t, cls_Uid& out) {
   return true;
 }
 
+[[noreturn]] void NotNumbered(const dbf_ReadTable& t) {
+  Damaged("the rows of class " + t.className + " are not numbered 1 to " + std::to_string(t.rows));
+}
+
 // Stored text reaches keys, names and JSON dumps; text that is not UTF-8 is damage, not data.
 // Checked as rows are loaded, once per value read from the file.
 void CheckUtf8(const dbf_ReadTable& t, std::int64_t oid, const dbf_ReadField& f, std::string_view text) {
@@ -281,13 +285,6 @@ void dbf_Reader::PrepareTable(dbf_ReadTable& t) {
   } catch (const QMXBasException& e) {
     Damaged("the table of class " + t.className + " does not hold its stored columns: " + e.what());
   }
-  // Rows are numbered 1..rows; every one is loaded exactly once, which LoadRoots checks.
-  dbf_Statement range(conn_->Get(), "SELECT min(" + dbf_Quote(dbf_kOidColumn) + "), max(" + dbf_Quote(dbf_kOidColumn) + ")" + from);
-  range.Step();
-  bool empty = sqlite3_column_type(range.Get(), 0) == SQLITE_NULL;
-  std::int64_t lo = sqlite3_column_int64(range.Get(), 0), hi = sqlite3_column_int64(range.Get(), 1);
-  if (empty ? t.rows != 0 : (lo != 1 || hi != t.rows))
-    Damaged("the rows of class " + t.className + " are not numbered 1 to " + std::to_string(t.rows));
 }
 
 bool dbf_Reader::MarkLoaded(dbf_ReadTable& t, std::int64_t oid) {
@@ -329,6 +326,7 @@ sqlite3_stmt* dbf_Reader::Position(dbf_ReadTable& t, std::int64_t oid) {
         break;
       }
       t.scanOid = sqlite3_column_int64(t.scan.Get(), 0);
+      if (t.scanOid < 1 || t.scanOid > t.rows) NotNumbered(t);
       if (t.scanOid >= oid) break;
     }
   }
@@ -617,6 +615,18 @@ std::vector<dbf_LoadedRoot> dbf_Reader::LoadRoots(const cls_ClassMetadata* requi
     const cls_ClassMetadata* cls = row.table->cls;
     out.push_back(dbf_LoadedRoot{e.name, dbf_OwnedObject(cls, cls->NewFromRecord(reader))});
   }
+  // Rows are numbered 1..rows: every one was loaded once, and the rest of each scan holds no
+  // row beyond them. Checked here rather than by a query per table as the file opens.
+  for (const auto& t : tables_)
+    while (!t->scanDone) {
+      t->scanStarted = true;
+      if (!t->scan.Step()) {
+        t->scanDone = true;
+        break;
+      }
+      t->scanOid = sqlite3_column_int64(t->scan.Get(), 0);
+      if (t->scanOid < 1 || t->scanOid > t->rows) NotNumbered(*t);
+    }
   for (const auto& t : tables_)
     if (t->loaded != t->rows)
       Damaged(std::to_string(t->rows - t->loaded) + " of the " + std::to_string(t->rows) + " rows of class " +

@@ -203,8 +203,17 @@ TEST_F(DbRefusal, RowsThatContradictTheFormat) {
        " equipotentialSmoothingWeight, meshConstraintAngle, originalConfigurationProjectionWeight"
        " FROM kadC_AdptMeshCtrl WHERE OID = 1",
        "the file is damaged (1 of the 301 rows of class kadC_AdptMeshCtrl belong to nothing it holds)"},
-      {"rows beyond the catalog", "DELETE FROM kadC_AdptMeshCtrl WHERE OID = 300",
+      {"a row beyond the catalog's count",
+       "INSERT INTO kadC_AdptMeshCtrl SELECT 301, UID, advection, smoothingAlgorithm, smoothingPriority,"
+       " initialFeatureAngle, transitionFeatureAngle, momentumAdvection, remeshPredictor, curvatureRefinement,"
+       " volumetricSmoothingWeight, standardVolumetricSmoothingWeight, laplacianSmoothingWeight,"
+       " equipotentialSmoothingWeight, meshConstraintAngle, originalConfigurationProjectionWeight"
+       " FROM kadC_AdptMeshCtrl WHERE OID = 1",
        "the file is damaged (the rows of class kadC_AdptMeshCtrl are not numbered 1 to 300)"},
+      {"a row numbered below 1", "UPDATE kadC_AdptMeshCtrl SET OID = 0 WHERE OID = 300",
+       "the file is damaged (the rows of class kadC_AdptMeshCtrl are not numbered 1 to 300)"},
+      {"a row missing from the catalog's count", "DELETE FROM kadC_AdptMeshCtrl WHERE OID = 300",
+       "the file is damaged (row 300 of class kadC_AdptMeshCtrl is missing)"},
       {"a row count inflated past memory",
        "UPDATE kadC_AdptMeshCtrl SET OID = 1000000000000 WHERE OID = 300;"
        "UPDATE dbf_Catalog SET rows = 1000000000000 WHERE name = 'kadC_AdptMeshCtrl';"

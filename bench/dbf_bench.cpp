@@ -3,7 +3,7 @@
 // prepared statements in one transaction, in the same iteration. Counters:
 //   objects_per_s      this library (dbf_Save / dbf_Open)
 //   raw_objects_per_s  the raw baseline
-//   ratio_to_raw       this library's time over the baseline's (the target is at most 1.5)
+//   ratio_to_raw       this library's time over the baseline's (the target is at most 1.2)
 // BM_Validate checks every object of the model through the model's walk (what "validate" does)
 // against a bare loop calling the same checks straight on the typed elements (counter "ratio").
 // BM_UpgradeOpen opens a file whose control rows are one class version old (upgraded through the

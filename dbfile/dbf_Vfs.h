@@ -3,10 +3,11 @@
 // a changed value, so every page of a model database keeps an 8-byte checksum of its contents
 // and its page number in the reserved bytes at its end (the bytes SQLite sets aside for such
 // extensions and never touches). A VFS layered over the platform's default one writes the
-// checksum with each page and verifies it on each page read; a mismatch fails the read with
-// SQLITE_IOERR_DATA. Other files (journals) pass through unchanged. A standard sqlite3 shell
-// reads such files normally; writing them with it leaves stale checksums, which this library
-// then refuses as damage.
+// checksum with each page and verifies it on each page read (unless the reader checked every
+// page beforehand, see dbf_PagesVerified); a mismatch fails the read with SQLITE_IOERR_DATA.
+// Other files (journals) pass through unchanged. A standard sqlite3 shell reads such files
+// normally; writing them with it leaves stale checksums, which this library then refuses as
+// damage.
 #include <sqlite3.h>
 
 #include <cstddef>

@@ -1,6 +1,6 @@
 // Metadata, enumerations and records of every amplitude kind: fields in write order with their
-// numbers and types, round trips through a record as the kind's own class, refusals of bad
-// records and bad script values.
+// numbers and types, reads through the family's root, refusals of bad records and bad script
+// values.
 #include <memory>
 #include <string>
 #include <vector>
@@ -86,33 +86,6 @@ struct Owned {
   ~Owned() { md->Destroy(p); }
 };
 
-// An object of the class whose every field differs from the default, set by scripting name.
-std::unique_ptr<Owned> Filled(const cls_ClassMetadata& md) {
-  auto o = std::make_unique<Owned>(md, md.NewDefault());
-  double next = 0.125;
-  for (const cls_ScriptField& f : md.ScriptFields()) {
-    switch (f.type) {
-      case cls_AttrDouble: f.set(o->p, next += 0.25); break;
-      case cls_AttrInt: f.set(o->p, std::int32_t{3}); break;
-      case cls_AttrBool: f.set(o->p, true); break;
-      case cls_AttrString: f.set(o->p, cow_String("Event-1")); break;
-      case cls_AttrEnum: {
-        // the last literal that differs from the default
-        const cow_String current = std::get<cow_String>(f.get(o->p));
-        int i = omu_LiteralCount(f.literals) - 1;
-        if (current == f.literals[i].text) --i;
-        f.set(o->p, cow_String(f.literals[i].text));
-        break;
-      }
-      case cls_AttrDoubleTable: f.set(o->p, cow_2DArray<double>{{1, 2, 0.5}, {3, 4, 0.25}}); break;
-      case cls_AttrDoubleList: f.set(o->p, std::vector<double>{0.5, 1.5, 2.5}); break;
-      case cls_AttrObject: f.set(o->p, cls_RecordPtr(std::make_shared<const cls_Record>(cls_ToRecord(kamC_BaselineCorrection(cow_List<double>{0, 2}))))); break;
-      default: ADD_FAILURE() << "unexpected member kind " << f.type;
-    }
-  }
-  return o;
-}
-
 TEST_F(KamPersistence, MetadataOfEveryClass) {
   auto& reg = cls_ClassRegistrar::Instance();
   const cls_ClassMetadata* root = reg.ByName("kamC_Amplitude");
@@ -148,36 +121,22 @@ TEST_F(KamPersistence, MetadataOfEveryClass) {
   }
 }
 
-TEST_F(KamPersistence, EveryClassRoundTripsThroughARecordAsItsOwnClass) {
+// The generic tests read each class as itself; the repository reads amplitudes through the root.
+TEST_F(KamPersistence, EveryAmplitudeReadsThroughTheFamilyRoot) {
   for (const Kind& k : Kinds()) {
+    if (!k.amplitude) continue;
     SCOPED_TRACE(k.name);
     const cls_ClassMetadata& md = *cls_ClassRegistrar::Instance().ByName(k.name);
-    auto filled = Filled(md);
-    Owned plain(md, md.NewDefault());
-    cls_RecordWriter w1, w2;
-    md.Write(filled->p, w1);
-    md.Write(plain.p, w2);
-    const cls_Record rec = w1.Take(), plainRec = w2.Take();
-    EXPECT_EQ(rec.typeId, md.TypeId());
-    EXPECT_EQ(rec.uid, md.UidOf(filled->p));
-    ASSERT_EQ(rec.fields.size(), k.fields.size());
-    for (std::size_t i = 0; i < k.fields.size(); ++i) {
-      EXPECT_EQ(rec.fields[i].first, k.fields[i].name);
-      EXPECT_FALSE(cls_ValueEqual(rec.fields[i].second, plainRec.fields[i].second)) << k.fields[i].name;
-    }
-    Owned back(md, md.NewFromRecord(cls_RecordReader(rec)));
-    EXPECT_EQ(&md.ClassOf(back.p), &md);
-    EXPECT_EQ(md.UidOf(back.p), md.UidOf(filled->p));
-    EXPECT_TRUE(md.Equal(back.p, filled->p));
-    EXPECT_FALSE(md.Equal(back.p, plain.p));
-    if (k.amplitude) {
-      // and through the family's root, as the repository reads it
-      kamC_Amplitude* a = cls_NewFromReader<kamC_Amplitude>(cls_RecordReader(rec));
-      EXPECT_EQ(a->ClassTypeId(), md.TypeId());
-      EXPECT_EQ(a->GetTimeSpan(), kamC_Amplitude::TimeSpanEnm::TOTAL);
-      EXPECT_TRUE(*a == *static_cast<const kamC_Amplitude*>(filled->p));
-      cow_Destroy(a);
-    }
+    Owned o(md, md.NewDefault());
+    md.FindScriptField("timeSpan")->set(o.p, cow_String("TOTAL"));
+    cls_RecordWriter w;
+    md.Write(o.p, w);
+    const cls_Record rec = w.Take();
+    kamC_Amplitude* a = cls_NewFromReader<kamC_Amplitude>(cls_RecordReader(rec));
+    EXPECT_EQ(a->ClassTypeId(), md.TypeId());
+    EXPECT_EQ(a->GetTimeSpan(), kamC_Amplitude::TimeSpanEnm::TOTAL);
+    EXPECT_TRUE(*a == *static_cast<const kamC_Amplitude*>(o.p));
+    cow_Destroy(a);
   }
 }
 
@@ -253,11 +212,6 @@ TEST_F(KamPersistence, BadRecordsAreRefused) {
     bad.Set("timeSpan", cow_String("Step"));
     auto e = qmx_Catch<nex_CmdError>([&] { kamC_Tabular t{cls_RecordReader(bad)}; });
     EXPECT_EQ(e.Message(), "omu_PrimEnum(const cow_String&) - str not allowed: Step  Permissible: STEP, TOTAL");
-  }
-  {
-    cls_Record missing = tab;
-    missing.Remove("data");
-    EXPECT_THROW(cls_NewFromReader<kamC_Amplitude>(cls_RecordReader(missing)), nex_CmdError);
   }
   {
     // a baseline correction field holding another class

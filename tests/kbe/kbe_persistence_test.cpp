@@ -1,4 +1,4 @@
-// Persistence of the connector behaviors: metadata and type ids, records, the database file with
+// Persistence of the connector behaviors: metadata and type ids, the database file with
 // its stored literal forms, scripting by name, the section repository and copy-on-write.
 #include <nlohmann/json.hpp>
 #include <sqlite3.h>
@@ -51,7 +51,6 @@ TEST_F(KbePersistence, MetadataTypeIdsAndTheArchitectureTable) {
   // The table of key 680 names, in row i, the class whose type id is (680 << 16) | i.
   const typ_ArchCompEntry* arch = typ_ArchCompTable::Find(680);
   ASSERT_NE(arch, nullptr);
-  EXPECT_EQ(arch->Count(), 73);
   for (const cls_ClassMetadata* md : reg.All()) {
     if ((md->TypeId() >> 16) != 680) continue;
     SCOPED_TRACE(md->Name().str());
@@ -66,24 +65,16 @@ TEST_F(KbePersistence, MetadataTypeIdsAndTheArchitectureTable) {
       {"defaultRateFactor", 3}, {"rateFactor", 4},       {"interpolation", 5},     {"useBehExtSettings", 8},
       {"extrapolation", 6}};
   EXPECT_EQ(fields, expected);
-  EXPECT_STREQ(kbeC_ConnectorOptions::defaultRateFactorCmd(), "defaultRateFactor");
-  EXPECT_STREQ(kbeC_ConnectorOptions::constructorCmd(), "ConnectorOptions");
 }
 
-TEST_F(KbePersistence, EveryBehaviorRoundTripsThroughARecordAndTheFile) {
+// The generic round trips store sections with empty option lists; here one of each kind, and
+// the stored forms of the choices whose stored literal differs from the scripting one.
+TEST_F(KbePersistence, EveryBehaviorInASectionThroughTheFile) {
   const kbeC_ConnectorSection section = kbe_FilledSection();
-  ASSERT_EQ(section.GetBehaviorOptions().size(), 8u);
-  for (const auto& h : section.GetBehaviorOptions()) {
-    const cls_ClassMetadata& md = cls_ClassOf(h.Get());
-    SCOPED_TRACE(md.Name().str());
-    cls_RecordWriter w;
-    h->DBWrite(w);
-    std::unique_ptr<kbeC_ConnectorBehaviorOption> back(cls_NewFromReader<kbeC_ConnectorBehaviorOption>(cls_RecordReader(w.Record())));
-    EXPECT_TRUE(*back == h.Get());
+  for (const auto& h : section.GetBehaviorOptions()) {  // each kind copies as itself
     std::unique_ptr<kbeC_ConnectorBehaviorOption> copy(h->Copy());
-    EXPECT_TRUE(*copy == h.Get());
+    EXPECT_TRUE(*copy == h.Get()) << cls_ClassOf(h.Get()).Name().str();
   }
-
   ddr_Database db;
   db.CreateModel("Model-1");
   kbe_Sections(db).Insert("Bushing", section);
@@ -92,7 +83,6 @@ TEST_F(KbePersistence, EveryBehaviorRoundTripsThroughARecordAndTheFile) {
   dbf_Save(db, file);
   EXPECT_TRUE(dbf_Open(file) == db);
 
-  // The stored forms of the aliased choices.
   EXPECT_EQ(kbe_Query(file, "SELECT iniPotOperator FROM kbeC_ConnectorDamage"), "INITIATION_MAXIMUM");
   EXPECT_EQ(kbe_Query(file, "SELECT evoPotOperator FROM kbeC_ConnectorDamage"), "EVOLUTION_SUM");
   EXPECT_EQ(kbe_Query(file, "SELECT componentType FROM kbeC_ConnectorFriction"), "NO_INDEP_COMPS");
@@ -113,10 +103,6 @@ TEST_F(KbePersistence, StoredLiteralsAreCheckedWhenRead) {
             "NO_INDEP_COMPS");
   rec.Set("componentType", cow_String("MOTION"));
   EXPECT_EQ(kbeC_ConnectorFriction(cls_RecordReader(rec)).GetComponentType(), kbeC_ConnectorFriction::ComponentTypeEnm::MOTION);
-
-  cls_Record opts = cls_ToRecord(kbeC_ConnectorOptions());
-  opts.Set("interpolation", cow_String("linear"));
-  EXPECT_THROW(kbeC_ConnectorOptions o{cls_RecordReader(opts)}, nex_CmdError);
 }
 
 TEST_F(KbePersistence, ScriptsBuildSectionsByName) {

@@ -130,12 +130,6 @@ TEST_F(KbeShortcut, DownToTheOptionsOfATermOfAPotential) {
   EXPECT_EQ(kbeC_CDCTermInCDCTermListShortcut(terms, 2).ConstGet(Model()), nullptr);
   const kbeC_ConnectorPotentialShortcut first = kbeC_ConnectorPotentialInConnectorPotentialListShortcut(list, 0);
   EXPECT_THROW(kbeC_DerivedComponentInConnectorPotentialShortcut(first).Get(Model()), nex_CmdError);
-
-  cls_RecordWriter w;
-  options.DBWrite(w);
-  const kbeC_ConnectorOptionsShortcut back = kbeC_ConnectorOptionsShortcut::Ctor(cls_RecordReader(w.Record()));
-  EXPECT_TRUE(back == options);
-  EXPECT_EQ(back.ConstGet(Model())->GetInterpolation(), kbeC_ConnectorOptions::InterpolationEnm::LOGARITHMIC);
 }
 
 }  // namespace

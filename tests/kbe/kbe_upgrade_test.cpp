@@ -390,14 +390,7 @@ TEST_F(KbeUpgrade, ClassesOf453And507AreRenamedAndCarriedToTodaysLayout) {
   kbeC_ConnectorSection& got = kbe_Sections(expected).Get("Old");
   got.SetBehaviorOptions(want.GetBehaviorOptions());
 
-  ddr_Database upgraded = dbf_Open(file);
-  const auto& options = kbe_Sections(upgraded).Get("Old").GetBehaviorOptions();
-  ASSERT_EQ(options.size(), 8u);
-  for (std::size_t i = 0; i < 8; ++i) {
-    SCOPED_TRACE(i);
-    EXPECT_TRUE(options[i].Get() == want.GetBehaviorOptions()[i].Get());
-  }
-  EXPECT_TRUE(upgraded == expected);
+  EXPECT_TRUE(dbf_Open(file) == expected);
   // Written again, the file holds today's classes only.
   dbf_Upgrade(file, Path("now.odb"));
   EXPECT_TRUE(dbf_Open(Path("now.odb")) == expected);
@@ -448,11 +441,6 @@ TEST_F(KbeUpgrade, ABaseRowOnItsOwnIsRefused) {
   dbc_Row o(out);
   auto e = qmx_Catch<nex_CmdError>([&] { Upgrade_kbeC_ConnectorBehaviorOption_453(in, o, 0); });
   EXPECT_EQ(e.Message(), "inputTable for connector_behavior_options cannot be empty in upgrade of derived objects");
-  // A rename given no row to read from refuses with the name of its class.
-  cls_Record empty;
-  dbc_Row none(empty);
-  auto r = qmx_Catch<nex_CmdError>([&] { rename_kbeC_Damage(none, o, 0); });
-  EXPECT_EQ(r.Message(), "rename_kbeC_Damage failed: inputTable for kbeC_Damage can't be NULL");
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// The registered layout of every constraint kind, and round trips through records, the container
-// and the database file.
+// The registered layout of every constraint kind, reads through the family's root, and values of
+// their own kind through the database file.
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -108,41 +108,33 @@ TEST_F(KcoPersistence, EveryKindHasItsRowNameAndLayout) {
   EXPECT_EQ(term->TypeId(), (720u << 16) | 7u);
   kco_ExpectLayout(*term, {{"coefficient", 0, D, "coefficient"}, {"setName", 1, S, "setName"}, {"dof", 2, I, "dof"},
                            {"coordSysId", 3, I, "coordSysId"}});
-  EXPECT_EQ(kcoC_ArchEntry().Count(), 21);
 }
 
-TEST_F(KcoPersistence, EveryKindRoundTripsThroughARecordAsItsOwnClass) {
+// The generic tests read each class as itself and round-trip every class through a file; what is
+// left is reading through the family's root and the values of a kind of their own in a file.
+TEST_F(KcoPersistence, EveryKindReadsThroughTheFamilyRoot) {
   for (const Kind& k : Kinds()) {
     SCOPED_TRACE(k.name);
     const cls_ClassMetadata& md = *cls_ClassRegistrar::Instance().ByName(k.name);
-    kco_Owned filled(md, md.NewDefault());
-    kco_FillAway(filled.obj, md, TermRecord());
     kco_Owned plain(md, md.NewDefault());
     cls_RecordWriter w;
-    md.Write(filled.obj, w);
+    md.Write(plain.obj, w);
     const cls_Record rec = w.Take();
-    ASSERT_EQ(rec.fields.size(), k.fields.size());
-    for (std::size_t i = 0; i < k.fields.size(); ++i) EXPECT_EQ(rec.fields[i].first, k.fields[i].name);
     auto* back = cls_NewFromReader<kcoC_Constraint>(cls_RecordReader(rec));
     kco_Owned owned(md, back);
     EXPECT_EQ(back->ClassTypeId(), md.TypeId());
-    EXPECT_TRUE(md.Equal(back, filled.obj));
-    EXPECT_FALSE(md.Equal(back, plain.obj));
-    EXPECT_EQ(back->GetUid(), md.UidOf(filled.obj));
+    EXPECT_TRUE(md.Equal(back, plain.obj));
   }
 }
 
-TEST_F(KcoPersistence, ConstraintsOfEveryKindComeBackFromTheFile) {
+TEST_F(KcoPersistence, AWholeSurfaceAndEquationTermsComeBackFromTheFile) {
   const std::string dir = qmx_TempDir("kco-file");
   ddr_Database db;
   auto& constraints = dynamic_cast<kcoC_ConstraintContainer&>(*db.CreateModel("Model-1").ModifyRepository("constraints"));
-  for (const Kind& k : Kinds()) {
-    const cls_ClassMetadata& md = *cls_ClassRegistrar::Instance().ByName(k.name);
-    void* filled = md.NewDefault();
-    kco_FillAway(filled, md, TermRecord());
-    constraints.InsertNew(cow_String(std::string(k.script) + "-filled"), filled);
-    constraints.InsertNew(cow_String(std::string(k.script) + "-default"), md.NewDefault());
-  }
+  const cls_ClassMetadata& md = *cls_ClassRegistrar::Instance().ByName("kcoC_Equation");
+  void* filled = md.NewDefault();
+  kco_FillAway(filled, md, TermRecord());
+  constraints.InsertNew("Equation-filled", filled);
   kcoC_Coupling whole;  // the whole surface is a value of its own
   whole.SetInfluenceRadius(kcoC_InfluenceRadiusEnm::WHOLE_SURFACE);
   constraints.Insert("Whole", whole);
@@ -150,7 +142,6 @@ TEST_F(KcoPersistence, ConstraintsOfEveryKindComeBackFromTheFile) {
   ddr_Database back = dbf_Open(dir + "/constraints.odb");
   EXPECT_TRUE(back == db);
   const auto& read = dynamic_cast<const kcoC_ConstraintContainer&>(*back.FindModel("Model-1")->FindRepository("constraints"));
-  EXPECT_EQ(read.Size(), 2 * Kinds().size() + 1);
   EXPECT_TRUE(dynamic_cast<const kcoC_Coupling&>(*read.ConstGet("Whole")).IsWholeSurface());
   const auto& eq = dynamic_cast<const kcoC_Equation&>(*read.ConstGet("Equation-filled"));
   ASSERT_EQ(eq.GetTerms().size(), 2u);

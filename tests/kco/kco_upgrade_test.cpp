@@ -102,14 +102,7 @@ TEST_F(KcoUpgrade, RigidBodiesOfBothOlderLayoutsReadBackWithTodaysRegions) {
     dbf_Save(db_, file);
     MakeOldRigidBodies(file, c.version, c.renames);
     ddr_Database back = dbf_Open(file);
-    EXPECT_TRUE(back == db_);
-    const auto& read = dynamic_cast<const kcoC_ConstraintContainer&>(*back.FindModel("Model-1")->FindRepository("constraints"));
-    const auto& rb2 = dynamic_cast<const kcoC_RigidBody&>(*read.ConstGet("RB-2"));
-    EXPECT_EQ(rb2.GetRefPointRegion().Name(), "RP-2");
-    EXPECT_EQ(rb2.GetBodyRegion().Name(), "Body-2");
-    EXPECT_EQ(rb2.GetTieRegion().Name(), "Tie-2");
-    EXPECT_TRUE(rb2.GetPinRegion().IsEmpty());
-    EXPECT_EQ(rb2.GetSurfaceRegion().Name(), "Surf-2");
+    EXPECT_TRUE(back == db_);  // every region back under today's name, the empty one included
 
     // Upgrading the file writes today's layout.
     const std::string upgraded = dir_ + "/upgraded-" + std::to_string(c.version) + ".odb";

@@ -169,10 +169,6 @@ TEST_F(KcoValidation, EnumerationsListTheirLiteralsInOrderCountingFromZero) {
   EXPECT_EQ(e.Message().rfind("omu_PrimEnum(const cow_String&) - str not allowed: distributing  Permissible: ", 0), 0u);
 }
 
-}  // namespace
-
-namespace {
-
 TEST_F(KcoValidation, TieRulesJudgedAgainstTheModelComeInTheOrderOfTheirCodes) {
   kcoC_Tie tie;
   tie.SetMaster(rgnC_Region("Edge-1"));

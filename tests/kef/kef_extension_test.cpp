@@ -149,22 +149,6 @@ TEST_F(KefExtension, AFailedCommandInsideTheObjectPutsItBack) {
   EXPECT_TRUE(omu_ChangeHistory::Instance().Entries().empty());
 }
 
-TEST_F(KefExtension, TheObjectIsSavedAndReadBackWithItsModel) {
-  const std::string file = qmx_TempDir("kef-ext") + "/m.odb";
-  Ok(s, R"({"op":"create","path":["Model-1","engineeringFeatures","imperfections","Imp-1"],"type":"DataImperfection",
-            "values":{"imperfectionTable":[[0.1,0.0,0.0],[0.0,0.2,0.0]],"nodeNumbers":[4,9],"system":"CYLINDRICAL"}})");
-  Ok(s, R"({"op":"save","file":")" + file + R"("})");
-  cmd_Session other;
-  Ok(other, R"({"op":"open","file":")" + file + R"("})");
-  EXPECT_TRUE(other.Database() == s.Database());
-  EXPECT_EQ(Ok(other, R"({"op":"get","path":["Model-1","engineeringFeatures","imperfections","Imp-1","system"]})"), "CYLINDRICAL");
-  EXPECT_EQ(Features(*other.Database().FindModel("Model-1"))->GetUid(), Features(Model())->GetUid());
-}
-
-}  // namespace
-
-namespace {
-
 TEST_F(KefExtension, NumbersThatMayHoldALiteralTakeItsTextAndRefuseOthers) {
   Ok(s, R"({"op":"create","path":["Model-1","engineeringFeatures","fasteners","F-1"],"type":"PointFastener",
             "values":{"influenceRadius":4.5,"maximumLayers":3,"sectionName":"C-1"}})");
@@ -201,10 +185,6 @@ TEST_F(KefExtension, NumbersThatMayHoldALiteralTakeItsTextAndRefuseOthers) {
   EXPECT_TRUE(s.Database() == before);
 }
 
-}  // namespace
-
-namespace {
-
 TEST_F(KefExtension, AnUnknownStepAfterTheModelListsTheObjectToo) {
   const cmd_Json e = Fails(s, R"({"op":"get","path":["Model-1","engineeringFeature"]})");
   const std::string m = e["message"].get<std::string>();
@@ -212,10 +192,6 @@ TEST_F(KefExtension, AnUnknownStepAfterTheModelListsTheObjectToo) {
   EXPECT_NE(m.find(", engineeringFeatures"), std::string::npos) << m;
   EXPECT_NE(m.find("constraints"), std::string::npos) << m;
 }
-
-}  // namespace
-
-namespace {
 
 TEST_F(KefExtension, AModelStoredWithoutTheObjectGetsAnEmptyOneAndKeepsTheRest) {
   ddr_Model m;

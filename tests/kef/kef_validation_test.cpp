@@ -166,8 +166,6 @@ TEST_F(KefValidation, FastenersCheckTheSharedRadiusFirst) {
           {"a beam MPC names no connector section",
            [](auto& f) { f.SetSectionName(""), f.SetConnectionType(kefC_PointAdherendEnum::BEAM_MPC); }, ""},
       });
-  EXPECT_TRUE(kefC_PointFastener().IsAllLayers());
-  EXPECT_TRUE(kefC_PointFastener().IsWholeSurface());
 
   kef_CheckCases<kefC_DiscreteFastener>(
       kefC_DiscreteFastener(), {{"defaults", [](auto&) {}, ""},
@@ -295,10 +293,6 @@ TEST_F(KefValidation, EnumerationsListTheirLiteralsInOrderCountingFromZero) {
   EXPECT_EQ(Literals<kefC_WeightingMethodEnum>(), (V{"UNIFORM", "LINEAR", "QUADRATIC", "CUBIC"}));
   EXPECT_EQ(Literals<kefC_WholeSurfaceEnum>(), (V{"WHOLE_SURFACE"}));
 }
-
-}  // namespace
-
-namespace {
 
 TEST_F(KefValidation, RulesJudgedAgainstTheModelFollowTheFeaturesOwn) {
   kefC_ModelContext model;

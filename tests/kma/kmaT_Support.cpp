@@ -1,9 +1,11 @@
 #include "tests/kma/kmaT_Support.h"
 
+#include <nlohmann/json.hpp>
 #include <sqlite3.h>
 
 #include <algorithm>
 
+#include "dbfile/dbf_File.h"
 #include "dbfile/dbf_Format.h"
 #include "dbfile/dbf_Vfs.h"
 #include "platform/persist/cls_ClassMetadata.h"
@@ -66,4 +68,40 @@ void kmaT_MakeOldLayout(const std::string& path, const char* className, int vers
   sql += "UPDATE dbf_Catalog SET version = " + std::to_string(version) + ", fieldHash = '" + dbf_FieldTableHash(kept) +
          "' WHERE name = '" + className + "';";
   kmaT_Edit(path, sql);
+}
+
+namespace {
+cmd_Json Run(cmd_Session& s, const cmd_Json& command) {
+  cmd_Json r = s.Execute(command);
+  EXPECT_TRUE(r.value("ok", false)) << command.dump() << " -> " << r.dump();
+  return r.contains("result") ? r["result"] : cmd_Json();
+}
+}  // namespace
+
+ddr_Database kmaT_ReopenOldLayout(const std::string& file, const char* slot, const char* type, const char* values,
+                                  const char* className, int version, const std::vector<std::string>& absent) {
+  cmd_Session s;
+  Run(s, {{"op", "create"}, {"path", {"M"}}});
+  Run(s, {{"op", "create"}, {"path", {"M", "materials", "A"}}, {"type", "Material"}});
+  Run(s, {{"op", "set"}, {"path", {"M", "materials", "A", slot}}, {"type", type}, {"values", cmd_Json::parse(values)}});
+  dbf_Save(s.Database(), file);
+  kmaT_MakeOldLayout(file, className, version, absent);
+  return dbf_Open(file);
+}
+
+void kmaT_ExpectMembers(const ddr_Database& db, const char* slot, const char* expected) {
+  cmd_Session s(db);
+  const cmd_Json members = cmd_Json::parse(expected);  // items() refers into it, so it must outlive the loop
+  for (const auto& [member, value] : members.items()) {
+    SCOPED_TRACE(member);
+    cmd_Json path = {"M", "materials", "A", slot};
+    for (std::size_t at = 0; at <= member.size();) {
+      const std::size_t end = std::min(member.find('/', at), member.size());
+      const std::string part = member.substr(at, end - at);
+      if (std::all_of(part.begin(), part.end(), [](char c) { return c >= '0' && c <= '9'; })) path.push_back(std::stoi(part));
+      else path.push_back(part);
+      at = end + 1;
+    }
+    EXPECT_EQ(Run(s, {{"op", "get"}, {"path", path}}), value);
+  }
 }

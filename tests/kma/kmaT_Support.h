@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "command/cmd_Session.h"
 #include "kma/kmaC_assert.h"
 #include "platform/base/nex_Exception.h"
 #include "tests/support/qmx_test.h"
@@ -24,6 +25,14 @@ std::vector<std::string> kmaT_Query(const std::string& path, const std::string& 
 // fields are gone from its table and its field table, and the catalog says `version`.
 void kmaT_MakeOldLayout(const std::string& path, const char* className, int version,
                         const std::vector<std::string>& absentFields);
+
+// Saves material "A" of model "M" holding the option `slot` set by script to `type` with `values`
+// (a JSON object), rewrites it with kmaT_MakeOldLayout and opens the file again.
+ddr_Database kmaT_ReopenOldLayout(const std::string& file, const char* slot, const char* type, const char* values,
+                                  const char* className, int version, const std::vector<std::string>& absent);
+// Expects, by script, each member of `expected` (a JSON object keyed by paths such as
+// "uniaxialTests/0/smoothing", below the option in `slot` of material "A") to have its value.
+void kmaT_ExpectMembers(const ddr_Database& db, const char* slot, const char* expected);
 
 #include "kma/kmaC_MaterialOption.h"
 

@@ -1,6 +1,6 @@
 // The electrode with its particle and layer lists: lists reached by the list shortcuts and by
-// script, refusals of the wrong owner and of a foreign element, validation through the lists,
-// copy-on-write separation and the round trip through the file.
+// script, refusals of a foreign element, validation through the lists and copy-on-write
+// separation.
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
@@ -9,8 +9,6 @@
 #include <vector>
 
 #include "command/cmd_Session.h"
-#include "dbfile/dbf_File.h"
-#include "kma/QMXOdbKmaC.h"
 #include "kma/kmaC_Diffusivity.h"
 #include "kma/kmaC_Electrode.h"
 #include "kma/kmaC_MaterialContainer.h"
@@ -19,7 +17,6 @@
 #include "kma/kmaC_MaterialOptionInMaterialShortcut.h"
 #include "kma/kmaC_OptionListShortcuts.h"
 #include "kma/kmaC_Plastic.h"
-#include "platform/model/ddr_Database.h"
 #include "platform/model/ddr_Model.h"
 #include "tests/kma/kmaT_Support.h"
 
@@ -62,7 +59,7 @@ class KmaElectrode : public ::testing::Test {
   ddr_Model model;
 };
 
-TEST_F(KmaElectrode, ListShortcutsReachTheListsAndRefuseAnyOtherOwner) {
+TEST_F(KmaElectrode, ListShortcutsReachTheListsAndSeparateThemOnModification) {
   const kmaC_ElectrodeParticleListInMaterialOptionShortcut particles(Slot("electrode"));
   const kmaC_ElectrodeParticleLayerListInMaterialOptionShortcut layers(Slot("electrode"));
   ASSERT_NE(particles.ConstGet(model), nullptr);
@@ -76,13 +73,6 @@ TEST_F(KmaElectrode, ListShortcutsReachTheListsAndRefuseAnyOtherOwner) {
   particles.Get(model).RemoveLast();
   EXPECT_EQ(particles.ConstGet(model)->size(), 1u);
   EXPECT_EQ(particles.ConstGet(before)->size(), 2u);
-
-  const kmaC_ElectrodeParticleListInMaterialOptionShortcut onPlastic(Slot("plastic"));
-  const kmaC_ElectrodeParticleLayerListInMaterialOptionShortcut layersOnPlastic(Slot("plastic"));
-  EXPECT_EQ(qmx_Catch<nex_CmdError>([&] { onPlastic.ConstGet(model); }).Message(),
-            "electrodeparticle list exists only for electrode object.");
-  EXPECT_EQ(qmx_Catch<nex_CmdError>([&] { layersOnPlastic.ConstGet(model); }).Message(),
-            "electrodeparticleLayer list exists only for electrode object.");
 }
 
 TEST_F(KmaElectrode, SubOptionNamesAreRefusedWithTheElectrodesAndTheParticlesMessages) {
@@ -92,15 +82,6 @@ TEST_F(KmaElectrode, SubOptionNamesAreRefusedWithTheElectrodesAndTheParticlesMes
   const kmaC_ElectrodeParticle particle;
   EXPECT_STREQ(particle.UnknownSubOptionMessage(), "Unknown material option name for electrodeParticle");
   EXPECT_STREQ(kmaC_ElectrodeParticleLayer().UnknownSubOptionMessage(), "Material option has no suboptions");
-}
-
-TEST(KmaElectrodeRows, TheParticleClassesSitAtTheirRows) {
-  const typ_ArchCompEntry entry = kmaC_ArchEntry();
-  EXPECT_EQ(entry.RowOf("kmaC_ElectrodeParticle"), 149);
-  EXPECT_EQ(entry.RowOf("kmaC_ElectrodeParticleLayer"), 150);
-  EXPECT_EQ(kmaC_ElectrodeParticle::TypeId(), (568u << 16) | 149u);
-  EXPECT_EQ(kmaC_ElectrodeParticleLayer::TypeId(), (568u << 16) | 150u);
-  EXPECT_EQ(kmaC_Electrode::TypeId(), (568u << 16) | static_cast<unsigned>(entry.RowOf("kmaC_Electrode")));
 }
 
 TEST(KmaElectrodeRules, TheListsAreValidatedInOrderAfterTheElectrodesOwnRules) {
@@ -139,7 +120,7 @@ cmd_Json Ok(cmd_Session& s, const std::string& line) {
   return r.contains("result") ? r["result"] : cmd_Json();
 }
 
-TEST(KmaElectrodeScript, ParticlesAndLayersAreAddedByScriptAndCarriedThroughTheFile) {
+TEST(KmaElectrodeScript, ParticlesAndLayersAreAddedByScript) {
   kmaT_Start();
   cmd_Session s;
   Ok(s, R"({"op":"create","path":["M"]})");
@@ -166,13 +147,6 @@ TEST(KmaElectrodeScript, ParticlesAndLayersAreAddedByScriptAndCarriedThroughTheF
             "empty element");
   EXPECT_EQ(empty["error"]["file"], "kmaC_OptionListMember.cpp");
   EXPECT_EQ(Ok(s, R"({"op":"get","path":["M","materials","NMC","electrode","electrodeParticleList"]})").size(), 1u);
-
-  const std::string file = qmx_TempDir("kma-electrode") + "/cell.odb";
-  dbf_Save(s.Database(), file);
-  const ddr_Database back = dbf_Open(file);
-  EXPECT_TRUE(back == s.Database());
-  EXPECT_EQ(kmaT_Query(file, "SELECT count(*) FROM kmaC_ElectrodeParticle"), std::vector<std::string>{"1"});
-  EXPECT_EQ(kmaT_Query(file, "SELECT count(*) FROM kmaC_ElectrodeParticleLayer"), std::vector<std::string>{"1"});
 }
 
 }  // namespace

@@ -18,7 +18,6 @@
 #include "kma/kmaC_OptionListShortcuts.h"
 #include "kma/kmaC_UniaxialTestData.h"
 #include "platform/model/ddr_Model.h"
-#include "platform/persist/cls_Record.h"
 #include "tests/kma/kmaT_Support.h"
 
 namespace {
@@ -49,16 +48,11 @@ TEST_F(KmaListShortcut, EachListRefusesAnOwnerOfAnotherKindWithItsMessage) {
       {kmaC_UniaxialTestsListInMaterialOptionShortcut(elastic), "uniaxial tests exists only for Mullins Effect object."},
       {kmaC_BiaxialTestsListInMaterialOptionShortcut(elastic), "biaxial tests exists only for Mullins Effect object."},
       {kmaC_PlanarTestsListInMaterialOptionShortcut(elastic), "planar tests exists only for Mullins Effect object."},
-      {kmaC_MaterialOptionListInMullinsEffectShortcut(elastic, "planarTests"),
-       "planar tests exists only for Mullins Effect object."},
-      {kmaC_DamageEvolutionListInMaterialOptionShortcut(elastic),
-       "damage evolution list exists only for damage initiation object."},
-      {kmaC_ElectrodeParticleListInMaterialOptionShortcut(elastic),
-       "electrodeparticle list exists only for electrode object."},
-      {kmaC_ElectrodeParticleLayerListInMaterialOptionShortcut(elastic),
-       "electrodeparticleLayer list exists only for electrode object."},
-      {kmaC_DamageEvolutionListInMaterialOptionShortcut(Slot("mullinsEffect")),
-       "damage evolution list exists only for damage initiation object."},
+      {kmaC_MaterialOptionListInMullinsEffectShortcut(elastic, "planarTests"), "planar tests exists only for Mullins Effect object."},
+      {kmaC_DamageEvolutionListInMaterialOptionShortcut(elastic), "damage evolution list exists only for damage initiation object."},
+      {kmaC_ElectrodeParticleListInMaterialOptionShortcut(elastic), "electrodeparticle list exists only for electrode object."},
+      {kmaC_ElectrodeParticleLayerListInMaterialOptionShortcut(elastic), "electrodeparticleLayer list exists only for electrode object."},
+      {kmaC_DamageEvolutionListInMaterialOptionShortcut(Slot("mullinsEffect")), "damage evolution list exists only for damage initiation object."},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.second);
@@ -95,14 +89,6 @@ TEST_F(KmaListShortcut, TheRightOwnerReachesItsListAndSeparatesItOnModification)
   ASSERT_NE(evolutions.ConstGet(model), nullptr);
   EXPECT_EQ(evolutions.ConstGet(model)->size(), 1u);
   EXPECT_TRUE((*evolutions.ConstGet(model))[0]->IsA(kmaC_DamageEvolution::TypeId()));
-
-  for (const kmaC_MaterialOptionListShortcut& s : {sc, biaxial}) {
-    cls_RecordWriter w;
-    s.DBWrite(w);
-    const cls_Record rec = w.Take();
-    const kmaC_MaterialOptionListShortcut back = kmaC_MaterialOptionListShortcut::Ctor(cls_RecordReader(rec));
-    EXPECT_TRUE(back == s);
-  }
 }
 
 }  // namespace

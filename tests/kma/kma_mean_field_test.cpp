@@ -11,15 +11,12 @@
 
 #include "command/cmd_Session.h"
 #include "dbfile/dbf_File.h"
-#include "kma/QMXOdbKmaC.h"
-#include "kma/kmaC_FCWrapper.h"
 #include "kma/kmaC_FieldConstituentInFieldConstituentContainerShortcut.h"
 #include "kma/kmaC_FieldConstituentShortcut.h"
 #include "kma/kmaC_MeanFieldHomogenization.h"
 #include "platform/model/ddr_Database.h"
 #include "platform/model/ddr_Model.h"
 #include "platform/model/omu_ChangeHistory.h"
-#include "platform/persist/cls_Record.h"
 #include "tests/kma/kmaT_Support.h"
 
 namespace {
@@ -43,19 +40,6 @@ FC Inclusion(FC::ShapeEnm shape, double ratio) {
   c.SetShape(shape);
   c.SetAspectRatio(ratio);
   return c;
-}
-
-TEST(KmaFieldConstituent, DefaultsAreABlankSphericalRandomInclusion) {
-  kmaT_Start();
-  const FC c;
-  EXPECT_EQ(c.GetType(), FC::TypeEnm::INCLUSION);
-  EXPECT_EQ(c.GetShape(), FC::ShapeEnm::SPHERE);
-  EXPECT_EQ(c.GetOrientation(), FC::OrientationEnm::RANDOM_3D);
-  EXPECT_EQ(c.GetVolumeFraction(), kBlank);
-  EXPECT_EQ(c.GetAspectRatio(), kBlank);
-  EXPECT_EQ(c.GetIsotropizationCoefficient(), kBlank);
-  EXPECT_EQ(c.GetMaterial(), "");
-  EXPECT_NO_THROW(c.AssertValid());
 }
 
 TEST(KmaFieldConstituent, RulesFireAtTheirBoundariesWithTheirMessages) {
@@ -88,11 +72,9 @@ TEST(KmaFieldConstituent, RulesFireAtTheirBoundariesWithTheirMessages) {
       {"matrix cylinder", [] { FC c = Inclusion(S::CYLINDER, 3.0); c.SetType(FC::TypeEnm::MATRIX); return c; }, nullptr},
       {"fixed without table", [] { FC c; c.SetOrientation(FC::OrientationEnm::FIXED); return c; }, kTable},
       {"fixed with two columns",
-       [] { FC c; c.SetOrientation(FC::OrientationEnm::FIXED); c.SetTable(kmaC_MaterialTable(cow_2DArray<double>{{1, 0}})); return c; },
-       kTable},
+       [] { FC c; c.SetOrientation(FC::OrientationEnm::FIXED); c.SetTable(kmaC_MaterialTable(cow_2DArray<double>{{1, 0}})); return c; }, kTable},
       {"fixed with a direction",
-       [] { FC c; c.SetOrientation(FC::OrientationEnm::FIXED); c.SetTable(kmaC_MaterialTable(cow_2DArray<double>{{1, 0, 0}})); return c; },
-       nullptr},
+       [] { FC c; c.SetOrientation(FC::OrientationEnm::FIXED); c.SetTable(kmaC_MaterialTable(cow_2DArray<double>{{1, 0, 0}})); return c; }, nullptr},
       {"tensor with five columns",
        [] {
          FC c;
@@ -133,11 +115,6 @@ TEST(KmaFieldConstituent, RulesFireAtTheirBoundariesWithTheirMessages) {
 
 TEST(KmaMeanFieldHomogenization, AngleIncrementMustBePositiveAfterTheDependencies) {
   kmaT_Start();
-  const kmaC_MeanFieldHomogenization defaults;
-  EXPECT_EQ(defaults.GetFormulation(), kmaC_MeanFieldHomogenization::FormulationEnm::MT);
-  EXPECT_EQ(defaults.GetIsotropization(), kmaC_MeanFieldHomogenization::IsotropizationEnm::ALLISO);
-  EXPECT_EQ(defaults.GetAngleIncrement(), 15);
-  EXPECT_NO_THROW(defaults.AssertValid());
   const char* const kAngle = "The value of angle subdivision increment must be positive.";
   struct Case {
     int angle;
@@ -153,10 +130,10 @@ TEST(KmaMeanFieldHomogenization, AngleIncrementMustBePositiveAfterTheDependencie
     if (c.message) kmaT_ExpectFailure([&] { m.AssertValid(); }, c.message);
     else EXPECT_NO_THROW(m.AssertValid());
   }
-  EXPECT_STREQ(defaults.UnknownSubOptionMessage(), "Material option has no suboptions");
+  EXPECT_STREQ(kmaC_MeanFieldHomogenization().UnknownSubOptionMessage(), "Material option has no suboptions");
 }
 
-TEST(KmaFieldConstituentShortcut, ReachesTheConstituentByNameAndRoundTripsThroughARecord) {
+TEST(KmaFieldConstituentShortcut, ReachesTheConstituentByNameAndSeparatesItOnModification) {
   kmaT_Start();
   ddr_Model model;
   auto& constituents = dynamic_cast<kmaC_FieldConstituentContainer&>(*model.ModifyRepository("fieldConstituents"));
@@ -177,18 +154,6 @@ TEST(KmaFieldConstituentShortcut, ReachesTheConstituentByNameAndRoundTripsThroug
   EXPECT_EQ(omu_ChangeHistory::Instance().Entries(), expected);
   EXPECT_EQ(kmaC_FieldConstituentShortcut(kmaC_FieldConstituentInFieldConstituentContainerShortcut("Resin")).ConstGet(model),
             nullptr);
-
-  cls_RecordWriter w;
-  sc.DBWrite(w);
-  const cls_Record rec = w.Take();
-  const kmaC_FieldConstituentShortcut back = kmaC_FieldConstituentShortcut::Ctor(cls_RecordReader(rec));
-  EXPECT_TRUE(back == sc);
-  EXPECT_EQ(back.ConstGet(model), sc.ConstGet(model));
-
-  const typ_ArchCompEntry entry = kmaC_ArchEntry();
-  EXPECT_EQ(entry.RowOf("kmaC_FieldConstituent"), 140);
-  EXPECT_EQ(FC::TypeId(), (568u << 16) | 140u);
-  EXPECT_EQ(kmaC_FCWrapper::TypeId(), (568u << 16) | static_cast<unsigned>(entry.RowOf("kmaC_FCWrapper")));
 }
 
 cmd_Json Ok(cmd_Session& s, const std::string& line) {

@@ -58,23 +58,6 @@ void Check(const std::vector<Case<O>>& cases) {
   }
 }
 
-TEST(KmaElastic, DefaultsAreIsotropicLongTermAndValid) {
-  kmaC_Elastic e;
-  EXPECT_EQ(e.GetType(), Type::ISOTROPIC);
-  EXPECT_EQ(e.GetModuli(), Moduli::LONG_TERM);
-  EXPECT_FALSE(e.GetNoCompression());
-  EXPECT_FALSE(e.GetNoTension());
-  EXPECT_FALSE(e.GetTemperatureDependency());
-  EXPECT_EQ(e.GetDependencies(), 0);
-  EXPECT_EQ(e.GetTable().Rows(), 0u);
-  EXPECT_FALSE(e.HasFailStress());
-  EXPECT_FALSE(e.HasFailStrain());
-  EXPECT_NO_THROW(e.AssertValid());
-  EXPECT_EQ(kmaC_Elastic::constructorCmd(), "Elastic");
-  EXPECT_EQ(kmaC_Elastic::moduliCmd(), "moduli");
-  EXPECT_EQ(kmaC_Elastic::failStrainCmd(), "failStrain");
-}
-
 TEST(KmaElastic, LiteralsAreExactAndInOrder) {
   const char* types[] = {"ISOTROPIC", "ORTHOTROPIC", "ANISOTROPIC", "ENGINEERING_CONSTANTS", "LAMINA", "TRACTION",
                          "COUPLED_TRACTION", "SHORT_FIBER", "SHEAR", "BILAMINA", "TRANSVERSELY_ISOTROPIC"};
@@ -116,68 +99,37 @@ TEST(KmaElastic, RulesInOrder) {
   });
 }
 
-TEST(KmaElastic, SubOptionSlotsRefuseOtherClasses) {
-  // The slot an elastic option keeps its fail-stress in, offered an option of another class.
-  kmaC_OptionSlot<kmaC_OptionClass::FailStress> slot;
-  const kmaC_Elastic other;
-  auto err = qmx_Catch<nex_CmdError>([&] { slot.Set(other, "failStress"); });
-  EXPECT_EQ(err.Message(), "The option slot \"failStress\" holds a kmaC_FailStress, not a kmaC_Elastic");
-  EXPECT_TRUE(slot.IsNull());
-}
-
-TEST(KmaPlastic, DefaultsAndLiterals) {
-  kmaC_Plastic p;
-  EXPECT_EQ(p.GetHardening(), Hardening::ISOTROPIC);
-  EXPECT_FALSE(p.GetRate());
-  EXPECT_EQ(p.GetDataType(), DataType::HALF_CYCLE);
-  EXPECT_EQ(p.GetNumBackstresses(), 1);
-  EXPECT_EQ(p.GetProperties(), 0);
-  EXPECT_EQ(p.GetScaleStress(), 1.7976931348623157e308);
-  EXPECT_EQ(p.GetExtrapolation(), kmaC_Plastic::ExtrapolationEnm::CONSTANT);
-  EXPECT_EQ(p.GetTensileFailure(), nullptr);
+TEST(KmaPlastic, LiteralsAreExactAndInOrder) {
   const char* hardening[] = {"ISOTROPIC", "KINEMATIC", "MULTILINEAR_KINEMATIC", "COMBINED", "JOHNSON_COOK", "USER"};
   for (int i = 0; i < 6; ++i) EXPECT_STREQ(HardeningEnum::Name(i), hardening[i]);
   const char* data[] = {"HALF_CYCLE", "PARAMETERS", "STABILIZED"};
   for (int i = 0; i < 3; ++i) EXPECT_STREQ(DataTypeEnum::Name(i), data[i]);
   EXPECT_STREQ(ExtrapolationEnum::Name(1), "LINEAR");
-  EXPECT_EQ(kmaC_Plastic::constructorCmd(), "Plastic");
-  EXPECT_EQ(kmaC_Plastic::tensileFailureCmd(), "tensileFailure");
 }
 
 TEST(KmaPlastic, RulesInOrder) {
   auto yield = [](kmaC_Plastic& p) { p.SetTable(Table({{250.0, 0.0}, {300.0, 0.1}})); };
   Check<kmaC_Plastic>({
       {"a valid isotropic table", yield, ""},
-      {"dependencies first", [&](auto& p) { yield(p), p.SetDependencies(-1), p.SetTable(Table({{0.0, 1.0}})); },
-       kDependencies},
+      {"dependencies first", [&](auto& p) { yield(p), p.SetDependencies(-1), p.SetTable(Table({{0.0, 1.0}})); }, kDependencies},
       {"zero row", [](auto& p) { p.SetTable(Table({{250.0, 0.0}, {0.0, 0.0}})); }, kBlankRow},
       {"blank row before first yield", [](auto& p) { p.SetTable(Table({{0.0, 0.0}, {300.0, 0.1}})); }, kBlankRow},
       {"first yield strain not zero", [](auto& p) { p.SetTable(Table({{250.0, 0.01}})); }, kFirstYield},
       {"empty table reads as no zero first yield", [](auto&) {}, kFirstYield},
       {"one column", [](auto& p) { p.SetTable(Table({{250.0}})); }, kFirstYield},
-      {"kinematic", [](auto& p) { p.SetHardening(Hardening::KINEMATIC), p.SetTable(Table({{250.0, 0.2}})); },
-       kFirstYield},
+      {"kinematic", [](auto& p) { p.SetHardening(Hardening::KINEMATIC), p.SetTable(Table({{250.0, 0.2}})); }, kFirstYield},
       {"multilinear kinematic",
-       [](auto& p) { p.SetHardening(Hardening::MULTILINEAR_KINEMATIC), p.SetTable(Table({{250.0, 0.2}})); },
-       kFirstYield},
-      {"combined half cycle", [](auto& p) { p.SetHardening(Hardening::COMBINED), p.SetTable(Table({{250.0, 0.2}})); },
-       kFirstYield},
+       [](auto& p) { p.SetHardening(Hardening::MULTILINEAR_KINEMATIC), p.SetTable(Table({{250.0, 0.2}})); }, kFirstYield},
+      {"combined half cycle", [](auto& p) { p.SetHardening(Hardening::COMBINED), p.SetTable(Table({{250.0, 0.2}})); }, kFirstYield},
       {"combined stabilized",
-       [](auto& p) {
-         p.SetHardening(Hardening::COMBINED), p.SetDataType(DataType::STABILIZED), p.SetTable(Table({{250.0, 0.2}}));
-       },
-       kFirstYield},
+       [](auto& p) { p.SetHardening(Hardening::COMBINED), p.SetDataType(DataType::STABILIZED), p.SetTable(Table({{250.0, 0.2}})); }, kFirstYield},
       {"combined parameters need no zero strain",
-       [](auto& p) {
-         p.SetHardening(Hardening::COMBINED), p.SetDataType(DataType::PARAMETERS), p.SetTable(Table({{250.0, 0.2}}));
-       },
-       ""},
+       [](auto& p) { p.SetHardening(Hardening::COMBINED), p.SetDataType(DataType::PARAMETERS), p.SetTable(Table({{250.0, 0.2}})); }, ""},
       {"johnson-cook needs no zero strain",
        [](auto& p) { p.SetHardening(Hardening::JOHNSON_COOK), p.SetTable(Table({{250.0, 0.2}})); }, ""},
       {"user skips the blank-row and first-yield checks",
        [](auto& p) { p.SetHardening(Hardening::USER), p.SetTable(Table({{0.0, 0.0}, {1.0, 0.5}})); }, ""},
-      {"user still checks dependencies", [](auto& p) { p.SetHardening(Hardening::USER), p.SetDependencies(-1); },
-       kDependencies},
+      {"user still checks dependencies", [](auto& p) { p.SetHardening(Hardening::USER), p.SetDependencies(-1); }, kDependencies},
       {"rate with two columns", [&](auto& p) { yield(p), p.SetRate(true); }, kIncomplete},
       {"rate with three columns",
        [](auto& p) { p.SetRate(true), p.SetTable(Table({{250.0, 0.0, 0.1}, {300.0, 0.1, 0.1}})); }, ""},

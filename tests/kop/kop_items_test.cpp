@@ -1,14 +1,11 @@
 // Validation of the items a task holds, alone and as parts of their task.
 #include "kop/kopC_CombinedTermDesignResponse.h"
-#include "kop/kopC_BeadPlanarSymmetry.h"
 #include "kop/kopC_CyclicSymmetry.h"
 #include "kop/kopC_DemoldControl.h"
 #include "kop/kopC_DrillControl.h"
 #include "kop/kopC_GrowthRestriction.h"
-#include "kop/kopC_PlanarSymmetry.h"
 #include "kop/kopC_ShapeDemoldControl.h"
 #include "kop/kopC_ShapeMemberSize.h"
-#include "kop/kopC_SizingPlanarSymmetry.h"
 #include "kop/kopC_ThicknessControl.h"
 #include "kop/kopC_TranslationalSymmetry.h"
 #include "kop/kopC_FixedRegion.h"
@@ -18,7 +15,6 @@
 #include "kop/kopC_OrimConstraint.h"
 #include "kop/kopC_OrimObjectiveFunction.h"
 #include "kop/kopC_OrimStopCondition.h"
-#include "kop/kopC_RibControl.h"
 #include "kop/kopC_RotationalSymmetry.h"
 #include "kop/kopC_ShapeTask.h"
 #include "kop/kopC_SingleTermDesignResponse.h"
@@ -133,7 +129,8 @@ TEST(KopRequests, CombinedTermCountsByMethod) {
       });
 }
 
-TEST(KopRestrictions, OwnRules) {
+// Which task takes which restriction kind is checked for every kind in the command tests.
+TEST(KopRestrictions, OwnRulesOfEachKind) {
   kop_Start();
   kopC_MemberSize size;
   size.SetMinThickness(0);
@@ -155,6 +152,35 @@ TEST(KopRestrictions, OwnRules) {
   kopC_RotationalSymmetry rotation;
   rotation.SetAngle(2);
   EXPECT_EQ(kop_Failure([&] { rotation.AssertValid(); }), "The angle must be greater than 2 and less than 360 degrees.");
+  kopC_GrowthRestriction growth;
+  EXPECT_EQ(kop_Failure([&] { growth.AssertValid(); }), "Either growth or shrink value must be specified.");
+  growth.SetShrink(-1);
+  EXPECT_EQ(kop_Failure([&] { growth.AssertValid(); }), "Shrink value size must be greater than or equal to zero.");
+  growth.SetShrink(0), growth.SetGrowth(-1);
+  EXPECT_EQ(kop_Failure([&] { growth.AssertValid(); }), "Growth value must be greater than or equal to zero.");
+  kopC_ThicknessControl thickness;
+  EXPECT_EQ(kop_Failure([&] { thickness.AssertValid(); }),
+            "At least one of the thickness restriction values need to be specified to create thickness control restriction.");
+  thickness.SetMaxThickness(0);
+  EXPECT_EQ(kop_Failure([&] { thickness.AssertValid(); }), "Maximum thickness must be greater than zero.");
+  kopC_ShapeDemoldControl draw;
+  draw.SetDrawAngle(45);
+  EXPECT_EQ(kop_Failure([&] { draw.AssertValid(); }),
+            "The draw angle must be greater than or equal to zero degrees and less than 45 degrees.");
+  kopC_ShapeMemberSize shapeSize;
+  shapeSize.SetSizeRestriction(kopC_ShapeMemberSize::SizeRestrictionEnm::NONE);
+  EXPECT_EQ(kop_Failure([&] { shapeSize.AssertValid(); }), "The size restriction must be either minimum or maximum.");
+  kopC_CyclicSymmetry cyclic;
+  cyclic.SetAngle(360);
+  EXPECT_EQ(kop_Failure([&] { cyclic.AssertValid(); }),
+            "The angle must be greater than or equal to zero and less than 360 degrees.");
+  kopC_TranslationalSymmetry translation;
+  translation.SetTranslation(0);
+  EXPECT_EQ(kop_Failure([&] { translation.AssertValid(); }), "The translation cannot be zero.");
+  kopC_DrillControl drill;
+  drill.SetTechnique(kopC_DrillControl::TechniqueEnm::POINT);
+  EXPECT_EQ(kop_Failure([&] { drill.AssertValid(); }),
+            "When using the point technique you must specify a region that contains a vertex.");
 }
 
 // A topology task holding a strain-energy response, a volume response, an objective and a
@@ -263,6 +289,11 @@ TEST(KopTaskContents, ItemsAreCheckedAgainstTheirTask) {
              t.GetGeometricRestrictionContainer().Insert("Fixed", f);
            }, "The specified geometric restriction cannot be used with this type of Task"},
           {"a frozen area", [](T& t) { t.GetGeometricRestrictionContainer().Insert("Frozen", kopC_FrozenArea()); }, ""},
+          {"a restriction with an error", [](T& t) {
+             kopC_MemberSize m;
+             m.SetMinThickness(0);
+             t.GetGeometricRestrictionContainer().Insert("Size", m);
+           }, "Minimum thickness must be greater than zero."},
           {"a local stop condition in a topology task", [](T& t) {
              kopC_LocalStopCondition s;
              s.SetIdentifier("SIG_MISES"), s.SetReferenceFactor(0.9);
@@ -294,68 +325,6 @@ TEST(KopTaskContents, LocalStopConditionsBelongToShapeTasks) {
   kopC_SizingTask sizing;
   sizing.GetStopConditionContainer().Insert("Stop", s);
   EXPECT_EQ(kop_Failure([&] { sizing.AssertValid(); }), "Local Stop conditions are valid only for Shape optimization.");
-  kopC_RibControl rib;
-  shape.GetGeometricRestrictionContainer().Insert("Rib", rib);
-  EXPECT_EQ(kop_Failure([&] { shape.AssertValid(); }),
-            "The specified geometric restriction cannot be used with this type of Task");
-}
-
-}  // namespace
-
-namespace {
-
-TEST(KopRestrictions, KindsOfEveryTaskAndTheirRules) {
-  kop_Start();
-  kopC_GrowthRestriction growth;
-  EXPECT_EQ(kop_Failure([&] { growth.AssertValid(); }), "Either growth or shrink value must be specified.");
-  growth.SetShrink(-1);
-  EXPECT_EQ(kop_Failure([&] { growth.AssertValid(); }), "Shrink value size must be greater than or equal to zero.");
-  growth.SetShrink(0), growth.SetGrowth(-1);
-  EXPECT_EQ(kop_Failure([&] { growth.AssertValid(); }), "Growth value must be greater than or equal to zero.");
-  kopC_ThicknessControl thickness;
-  EXPECT_EQ(kop_Failure([&] { thickness.AssertValid(); }),
-            "At least one of the thickness restriction values need to be specified to create thickness control restriction.");
-  thickness.SetMaxThickness(0);
-  EXPECT_EQ(kop_Failure([&] { thickness.AssertValid(); }), "Maximum thickness must be greater than zero.");
-  kopC_ShapeDemoldControl demold;
-  demold.SetDrawAngle(45);
-  EXPECT_EQ(kop_Failure([&] { demold.AssertValid(); }),
-            "The draw angle must be greater than or equal to zero degrees and less than 45 degrees.");
-  kopC_ShapeMemberSize size;
-  size.SetSizeRestriction(kopC_ShapeMemberSize::SizeRestrictionEnm::NONE);
-  EXPECT_EQ(kop_Failure([&] { size.AssertValid(); }), "The size restriction must be either minimum or maximum.");
-  kopC_CyclicSymmetry cyclic;
-  cyclic.SetAngle(360);
-  EXPECT_EQ(kop_Failure([&] { cyclic.AssertValid(); }),
-            "The angle must be greater than or equal to zero and less than 360 degrees.");
-  kopC_TranslationalSymmetry translation;
-  translation.SetTranslation(0);
-  EXPECT_EQ(kop_Failure([&] { translation.AssertValid(); }), "The translation cannot be zero.");
-  kopC_DrillControl drill;
-  drill.SetTechnique(kopC_DrillControl::TechniqueEnm::POINT);
-  EXPECT_EQ(kop_Failure([&] { drill.AssertValid(); }),
-            "When using the point technique you must specify a region that contains a vertex.");
-
-  // Each kind serves its own task; a frozen area serves all.
-  kopC_SizingTask sizing;
-  sizing.GetGeometricRestrictionContainer().Insert("Thickness", kopC_ThicknessControl());
-  EXPECT_EQ(kop_Failure([&] { sizing.AssertValid(); }),
-            "At least one of the thickness restriction values need to be specified to create thickness control restriction.");
-  kopC_ThicknessControl bounded;
-  bounded.SetMinThickness(1);
-  sizing.GetGeometricRestrictionContainer().Insert("Thickness", bounded);
-  sizing.GetGeometricRestrictionContainer().Insert("Frozen", kopC_FrozenArea());
-  sizing.GetGeometricRestrictionContainer().Insert("Symmetry", kopC_SizingPlanarSymmetry());
-  EXPECT_EQ(kop_Failure([&] { sizing.AssertValid(); }), "");
-  sizing.GetGeometricRestrictionContainer().Insert("Topology-Symmetry", kopC_PlanarSymmetry());
-  EXPECT_EQ(kop_Failure([&] { sizing.AssertValid(); }),
-            "The specified geometric restriction cannot be used with this type of Task");
-  kopC_TopologyTask topology;
-  topology.GetGeometricRestrictionContainer().Insert("Symmetry", kopC_PlanarSymmetry());
-  EXPECT_EQ(kop_Failure([&] { topology.AssertValid(); }), "");
-  topology.GetGeometricRestrictionContainer().Insert("Bead-Symmetry", kopC_BeadPlanarSymmetry());
-  EXPECT_EQ(kop_Failure([&] { topology.AssertValid(); }),
-            "The specified geometric restriction cannot be used with this type of Task");
 }
 
 }  // namespace

@@ -1,9 +1,6 @@
-// Registration, round trips through records and the database file, copy-on-write separation
+// Registration, items inside tasks through the database file, copy-on-write separation
 // and the task container's copying of task kinds.
-#include <algorithm>
-
 #include "dbfile/dbf_File.h"
-#include "kop/kopC_BeadTask.h"
 #include "kop/kopC_CombinedTermDesignResponse.h"
 #include "kop/kopC_LocalStopCondition.h"
 #include "kop/kopC_MemberSize.h"
@@ -12,14 +9,11 @@
 #include "kop/kopC_OrimStopCondition.h"
 #include "kop/kopC_ShapeTask.h"
 #include "kop/kopC_SingleTermDesignResponse.h"
-#include "kop/kopC_SizingTask.h"
-#include "kop/kopC_TCWrapper.h"
 #include "kop/kopC_TaskContainer.h"
 #include "kop/kopC_TopologyTask.h"
 #include "platform/model/ddr_Database.h"
 #include "platform/model/omu_ChangeHistory.h"
 #include "platform/persist/cls_ClassRegistrar.h"
-#include "platform/persist/cls_Record.h"
 #include "tests/kop/kop_test.h"
 
 namespace {
@@ -33,26 +27,22 @@ std::vector<std::string> AttributeNames(const char* className) {
   return names;
 }
 
-TEST(KopRegistration, IdentitiesParentsAndAttributes) {
+TEST(KopRegistration, ParentsAndStoredFieldOrder) {
   kop_Start();
   const auto& reg = cls_ClassRegistrar::Instance();
   struct Case {
     const char* name;
-    unsigned id;
     const char* parent;
   };
-  for (const Case& c : {Case{"kopC_OrimTask", 0x03A40007, "kopC_Task"}, Case{"kopC_TopologyTask", 0x03A40008, "kopC_OrimTask"},
-                        Case{"kopC_ShapeTask", 0x03A40009, "kopC_OrimTask"}, Case{"kopC_SizingTask", 0x03A40069, "kopC_OrimTask"},
-                        Case{"kopC_BeadTask", 0x03A40078, "kopC_OrimTask"}}) {
+  for (const Case& c : {Case{"kopC_OrimTask", "kopC_Task"}, Case{"kopC_TopologyTask", "kopC_OrimTask"},
+                        Case{"kopC_ShapeTask", "kopC_OrimTask"}, Case{"kopC_SizingTask", "kopC_OrimTask"},
+                        Case{"kopC_BeadTask", "kopC_OrimTask"}}) {
     SCOPED_TRACE(c.name);
     const cls_ClassMetadata* md = reg.ByName(c.name);
     ASSERT_NE(md, nullptr);
-    EXPECT_EQ(md->TypeId(), c.id);
-    EXPECT_EQ(reg.ByTypeId(c.id), md);
     EXPECT_TRUE(md->IsA(*reg.ByName(c.parent)));
     EXPECT_TRUE(md->IsA(*reg.ByName("kopC_BaseOptimization")));
   }
-  EXPECT_EQ(reg.ByName("kopC_Task")->TypeId(), 0x03A40004u);
   EXPECT_EQ(reg.ByName("kopC_OrimTask")->Version(), 2204);
   EXPECT_FALSE(reg.ByName("kopC_OrimTask")->CanConstruct());
   EXPECT_EQ(AttributeNames("kopC_OrimTask"), (std::vector<std::string>{"algorithm", "tessarSensitivities", "groupOperator"}));
@@ -76,42 +66,15 @@ TEST(KopRegistration, IdentitiesParentsAndAttributes) {
                      "softDeletionRegion", "modeTrackingRegion", "stepSize", "firstCycleDeletedVolumeTechnique",
                      "densityUpdateStrategy", "materialInterpolationTechnique", "softDeletionMethod",
                      "softDeletionThreshold"}));
-
-  // Scripting names that differ from the persistent ones.
-  const cls_ClassMetadata* md = reg.ByName("kopC_TopologyTask");
-  struct Name {
-    const char* script;
-    const char* persistent;
-  };
-  for (const Name& n : {Name{"numDesignCycles", "numIterations"}, Name{"softDeletionRadius", "softDeletionAverageEdgeLength"},
-                        Name{"stopCriteriaDesignCycle", "stopCriteriaIteration"},
-                        Name{"designResponses", "designResponseContainer"},
-                        Name{"optimizationConstraints", "constraintContainer"},
-                        Name{"softDeletionMethod", "softDeletionMethod"}}) {
-    const cls_ScriptField* f = md->FindScriptField(n.script);
-    ASSERT_NE(f, nullptr) << n.script;
-    EXPECT_STREQ(f->persistentName, n.persistent);
-  }
-  EXPECT_EQ(md->FindScriptField("numIterations"), nullptr);
-  EXPECT_EQ(md->FindAttribute("numDesignCycles"), nullptr);
-  EXPECT_EQ(reg.ByName("kopC_BeadTask")->FindScriptField("minStress")->persistentName, std::string("beadMinStress"));
-  EXPECT_STREQ(reg.ByName("kopC_TopologyTask")->ScriptName(), "TopologyTask");
-  EXPECT_STREQ(reg.ByName("kopC_OrimConstraint")->ScriptName(), "OptimizationConstraint");
+  // The one scripting name the command tests do not reach with a value of its own.
+  EXPECT_STREQ(reg.ByName("kopC_BeadTask")->FindScriptField("minStress")->persistentName, "beadMinStress");
 }
 
-// Every kind, filled away from its defaults, with items in every container.
+// A topology task with items of every kind in its containers (the generic round trips store
+// tasks with empty containers only).
 kopC_TopologyTask FilledTopology() {
   kopC_TopologyTask t;
   t.SetRegion(rgnC_Region("Design"));
-  t.SetNumIterations(40);
-  t.SetInitialDensity(0.5);
-  t.SetStepSize(kopC_TopologyTask::StepSizeEnm::MODERATE);
-  t.SetFirstCycleDeletedVolumeTechnique(kopC_TopologyTask::DeletedVolumeTechniqueEnm::PERCENTAGE);
-  t.SetSoftDeletionMethod(kopC_TopologyTask::SoftDeletionMethodEnm::VOLUMETRIC_STRAIN_COMPRESSION);
-  t.SetSoftDeletionThreshold(-0.1);
-  t.SetModeTrackingRegion(rgnC_Region("Modes"));
-  t.SetTessarSensitivities(true);
-  t.SetGroupOperator(true);
   kopC_SingleTermDesignResponse energy;
   kopC_SingleTermRequest r;
   r.SetIdentifier("STRAIN_ENERGY");
@@ -151,70 +114,26 @@ kopC_TopologyTask FilledTopology() {
   return t;
 }
 
-ddr_Database Database() {
+TEST(KopPersistence, ItemsInsideTasksRoundTripThroughTheFile) {
+  kop_Start();
   ddr_Database db;
   auto& tasks = dynamic_cast<kopC_TaskContainer&>(*db.CreateModel("Model-1").ModifyRepository("optimizationTasks"));
   tasks.Insert("Topology", FilledTopology());
   kopC_ShapeTask shape;
-  shape.SetTriMinAngle(10);
-  shape.SetAdditionalDurabilityFiles(cow_List<cow_String>(std::vector<cow_String>{"a.inp", "b.inp"}));
   kopC_LocalStopCondition local;
   local.SetIdentifier("SIG_MISES");
   local.SetReferenceFactor(0.8);
   shape.GetStopConditionContainer().Insert("Local", local);
   tasks.Insert("Shape", shape);
-  kopC_SizingTask sizing;
-  sizing.SetThicknessMoveLimit(0.5);
-  tasks.Insert("Sizing", sizing);
-  kopC_BeadTask bead;
-  bead.SetBeadWidth(3);
-  tasks.Insert("Bead", bead);
-  tasks.Insert("Default", kopC_TopologyTask());
-  return db;
-}
-
-const kopC_TaskContainer& Tasks(const ddr_Database& db) {
-  return dynamic_cast<const kopC_TaskContainer&>(*db.FindModel("Model-1")->FindRepository("optimizationTasks"));
-}
-
-TEST(KopPersistence, TasksOfEveryKindRoundTripThroughRecordAndFile) {
-  kop_Start();
-  const ddr_Database db = Database();
-  const kopC_TaskContainer& tasks = Tasks(db);
-  kopC_TaskContainer back{cls_RecordReader(cls_ToRecord(tasks))};
-  EXPECT_EQ(back, tasks);
   const std::string file = qmx_TempDir("kop-persistence") + "/tasks.odb";
   dbf_Save(db, file);
-  const ddr_Database reopened = dbf_Open(file);
-  EXPECT_TRUE(reopened == db);
-  const kopC_TaskContainer& read = Tasks(reopened);
-  ASSERT_EQ(read.Size(), 5u);
-  auto* topology = dynamic_cast<const kopC_TopologyTask*>(read.ConstGet("Topology"));
-  ASSERT_NE(topology, nullptr);
-  EXPECT_EQ(topology->GetUid(), tasks.ConstGet("Topology")->GetUid());
-  EXPECT_EQ(topology->GetNumIterations(), 40);
-  EXPECT_EQ(topology->GetDesignResponseContainer().Size(), 2u);
-  auto* combined = dynamic_cast<const kopC_CombinedTermDesignResponse*>(topology->GetDesignResponseContainer().ConstGet("Combined"));
-  ASSERT_NE(combined, nullptr);
-  EXPECT_EQ(combined->GetRequest().GetWeights()[1], 0.25);
-  EXPECT_NE(dynamic_cast<const kopC_ShapeTask*>(read.ConstGet("Shape")), nullptr);
-  EXPECT_NE(dynamic_cast<const kopC_SizingTask*>(read.ConstGet("Sizing")), nullptr);
-  EXPECT_NE(dynamic_cast<const kopC_BeadTask*>(read.ConstGet("Bead")), nullptr);
-  // A change anywhere inside a task makes it differ.
+  EXPECT_TRUE(dbf_Open(file) == db);
+  // A change deep inside a task makes the databases differ, so the equality above compares items.
   ddr_Database changed = db;
   auto& t = dynamic_cast<kopC_TopologyTask&>(
       dynamic_cast<kopC_TaskContainer&>(*changed.ModifyModel("Model-1")->ModifyRepository("optimizationTasks")).Get("Topology"));
   dynamic_cast<kopC_OrimConstraint&>(t.GetConstraintContainer().Get("Volume-30")).SetRestrictionValue(0.31);
   EXPECT_FALSE(changed == db);
-}
-
-TEST(KopPersistence, AnUnknownStoredLiteralIsRefused) {
-  kop_Start();
-  cls_Record rec = cls_ToRecord(kopC_TopologyTask());
-  rec.Set("stepSize", cow_String("dynamic"));
-  auto e = qmx_Catch<nex_CmdError>([&] { kopC_TopologyTask{cls_RecordReader(rec)}; });
-  EXPECT_EQ(e.Message(), "omu_PrimEnum(const cow_String&) - str not allowed: dynamic  Permissible: "
-                         "DYNAMIC, VERY_SMALL, SMALL, MODERATE, MEDIUM, LARGE");
 }
 
 TEST(KopPersistence, CopiesShareItemsUntilOneIsModified) {

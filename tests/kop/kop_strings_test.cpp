@@ -1,12 +1,8 @@
 // Display texts of the optimization settings, the label maps and the strategy mapping.
-#include "kop/kopC_BeadTask.h"
 #include "kop/kopC_Labels.h"
 #include "kop/kopC_OrimConstraint.h"
 #include "kop/kopC_OrimObjectiveFunction.h"
-#include "kop/kopC_ShapeTask.h"
-#include "kop/kopC_SizingTask.h"
 #include "kop/kopC_Strings.h"
-#include "kop/kopC_TopologyTask.h"
 #include "tests/kop/kop_test.h"
 
 namespace {
@@ -103,10 +99,6 @@ TEST(KopLabels, TaskKindsHaveTheirLabelsInOrderAndNothingElseHasOne) {
     EXPECT_EQ(shortened.Entries()[i].first, ids[i]);
     EXPECT_EQ(shortened.Label(ids[i]), shortLabels[i]);
   }
-  EXPECT_EQ(kopC_TopologyTask::TypeId(), ids[0]);
-  EXPECT_EQ(kopC_ShapeTask::TypeId(), ids[1]);
-  EXPECT_EQ(kopC_SizingTask::TypeId(), ids[2]);
-  EXPECT_EQ(kopC_BeadTask::TypeId(), ids[3]);
   for (unsigned other : {0x03A40007u, 0x03A40004u, 0x03A40001u, 0u})
     EXPECT_EQ(full.Label(other), "") << other;
   // Released and built again.

@@ -1,7 +1,5 @@
-// Validation of the four task kinds: defaults, boundaries, the order of the rules and the
+// Validation of the four task kinds: boundaries, the order of the rules and the
 // general-only settings every kind checks last.
-#include <limits>
-
 #include "kop/kopC_BeadTask.h"
 #include "kop/kopC_ShapeTask.h"
 #include "kop/kopC_SizingTask.h"
@@ -38,38 +36,6 @@ const std::string kThreshold =
     "For the specified soft deletion method threshold value must be greater than or equal to zero.";
 const std::string kTessar = "Tessar sensitivities are currently supported only for general optimization.";
 const std::string kGroup = "Group Operator is currently supported only for general optimization.";
-
-TEST(KopTopologyTask, DefaultsAreTheStatedOnesAndValid) {
-  kop_Start();
-  Topo t;
-  EXPECT_EQ(t.GetAlgorithm(), General::GENERAL_OPTIMIZATION);
-  EXPECT_EQ(t.GetStepSize(), Topo::StepSizeEnm::DYNAMIC);
-  EXPECT_EQ(static_cast<int>(t.GetFirstCycleDeletedVolumeTechnique()), 0);
-  EXPECT_EQ(t.GetNumIterations(), 15);
-  EXPECT_EQ(t.GetFirstCycleDeletedVolume(), 5.0);
-  EXPECT_EQ(t.GetInitialDensity(), 1.7976931348623157e308);
-  EXPECT_EQ(t.GetMinDensity(), 0.001);
-  EXPECT_EQ(t.GetMaxDensity(), 1.0);
-  EXPECT_EQ(t.GetDensityMoveLimit(), 0.25);
-  EXPECT_EQ(t.GetFilterRadius(), std::numeric_limits<double>::max());
-  EXPECT_EQ(t.GetMaterialInterpolationPenalty(), 3.0);
-  EXPECT_EQ(t.GetNumFulfilledStopCriteria(), 2);
-  EXPECT_EQ(t.GetObjectiveFunctionDeltaStopCriteria(), 0.001);
-  EXPECT_EQ(t.GetElementDensityDeltaStopCriteria(), 0.005);
-  EXPECT_EQ(t.GetStopCriteriaIteration(), 4);
-  EXPECT_EQ(t.GetSoftDeletionAverageEdgeLength(), std::numeric_limits<double>::max());
-  EXPECT_FALSE(t.GetMultipleProcessors());
-  EXPECT_EQ(t.GetStructuralMassDamping(), std::numeric_limits<double>::max());
-  EXPECT_EQ(t.GetViscousStiffnessDamping(), std::numeric_limits<double>::max());
-  EXPECT_EQ(t.GetFrequencySpectrumWeight(), 6.0);
-  EXPECT_EQ(t.GetNumTrackedModes(), 0);
-  EXPECT_EQ(static_cast<int>(t.GetSoftDeletionMethod()), 0);
-  EXPECT_EQ(t.GetSoftDeletionThreshold(), 0.05);
-  EXPECT_TRUE(t.GetSoftDeletionRegion().Name().empty());
-  EXPECT_FALSE(t.GetTessarSensitivities());
-  EXPECT_FALSE(t.GetGroupOperator());
-  EXPECT_EQ(kop_Failure([&] { t.AssertValid(); }), "");
-}
 
 TEST(KopTopologyTask, EachRuleAtItsBoundary) {
   kop_Start();
@@ -278,23 +244,15 @@ TEST(KopBeadTask, RulesInOrder) {
   });
 }
 
+// The messages behind the table's codes are checked by the rules that raise them; here, the
+// codes outside the table and one text no validation of these tests reaches.
 TEST(KopAssert, CodesOutsideTheTableThrowAnEmptyMessage) {
   EXPECT_EQ(kop_Failure([] { kopC_Assert(false, static_cast<kopC_ErrorEnm>(138)); }), "");
   EXPECT_EQ(kop_Failure([] { kopC_Assert(false, static_cast<kopC_ErrorEnm>(-1)); }), "");
   EXPECT_EQ(kop_Failure([] { kopC_Assert(true, kopC_UnknownTaskCopy); }), "");
-  EXPECT_EQ(kop_Failure([] { kopC_Assert(false, static_cast<kopC_ErrorEnm>(0)); }),
-            "The specified design response cannot be used with the constraint");
-  EXPECT_EQ(kop_Failure([] { kopC_Assert(false, static_cast<kopC_ErrorEnm>(4)); }),
-            "For a condition-based Optimization Task, only 1 entry is allowed in the \nobjective list when the target "
-            "is MINIMIZE or MAXIMIZE. \n\nSuppress the other entries, or change the target, or use a \nCombined-Term "
-            "Design Response, or use a general Optimization Task.");
   EXPECT_EQ(kop_Failure([] { kopC_Assert(false, static_cast<kopC_ErrorEnm>(98)); }),
             "The region must be small, not exceeding 500 nodes, when used with the selected variable and operation is "
             "set to MINIMUM or MAXIMUM.  Whole model is not permitted.");
-  EXPECT_EQ(kop_Failure([] { kopC_Assert(false, static_cast<kopC_ErrorEnm>(137)); }),
-            "The specified geometric restriction cannot be used with this type of Task");
-  EXPECT_EQ(kop_Failure([] { kopC_Assert(false, static_cast<kopC_ErrorEnm>(92)); }),
-            "The minimum operation cannot used be with the given identifier.");
 }
 
 }  // namespace

@@ -6,17 +6,13 @@
 #include "dbfile/dbf_File.h"
 #include "dbfile/dbf_Format.h"
 #include "dbfile/dbf_Vfs.h"
-#include "kop/kopC_OrimTask_1554.h"
-#include "kop/kopC_OrimTask_1562.h"
-#include "kop/kopC_OrimTask_1629.h"
-#include "kop/kopC_OrimTask_1859.h"
 #include "kop/kopC_ShapeTask.h"
 #include "kop/kopC_TaskContainer.h"
 #include "kop/kopC_TopologyTask.h"
-#include "kop/kopC_TopologyTask_1554.h"
 #include "platform/model/ddr_Database.h"
 #include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/persist/cls_Record.h"
+#include "platform/persist/dbc_Converter.h"
 #include "tests/kop/kop_test.h"
 
 namespace {
@@ -136,13 +132,6 @@ TEST(KopUpgrade, TaskRowsOfEveryOlderLayoutReachTodaysLayout) {
     const ddr_Database upgraded = dbf_Open(file);
     EXPECT_TRUE(upgraded == expected);
     EXPECT_FALSE(upgraded == db);
-    for (int i = 0; i < 4; ++i) {
-      const auto& tasks = dynamic_cast<const kopC_TaskContainer&>(*upgraded.FindModel("Model-1")->FindRepository("optimizationTasks"));
-      auto* t = dynamic_cast<const kopC_TopologyTask*>(tasks.ConstGet("T-" + std::to_string(i)));
-      ASSERT_NE(t, nullptr);
-      EXPECT_EQ(t->GetAlgorithm(), l.expected[i]) << i;
-      EXPECT_EQ(t->GetNumIterations(), 20 + i);
-    }
     // Upgrading writes today's layout, which reads back the same.
     dbf_Upgrade(file, dir + "/upgraded.odb");
     EXPECT_TRUE(dbf_Open(dir + "/upgraded.odb") == expected);
@@ -160,57 +149,6 @@ TEST(KopUpgrade, AVersionOlderThanEveryLayoutIsRefused) {
                              "\": class kopC_TopologyTask is stored at version 1500, from which no chain of upgrade "
                              "steps reaches its current version 2204");
 }
-
-// Each conversion on its own row: what it changes and what it keeps.
-TEST(KopUpgrade, EachConversionFunction) {
-  auto convert = [](void* (*fn)(const dbc_Row&, dbc_Row&, int), const char* algorithm) {
-    cls_Record old;
-    old.Set("algorithm", cow_String(algorithm));
-    cls_Record next = old;
-    dbc_Row oldRow(static_cast<const cls_Record&>(old));
-    dbc_Row newRow(next);
-    EXPECT_EQ(fn(oldRow, newRow, 0), nullptr);
-    return next;
-  };
-  auto algorithm = [](const cls_Record& r) { return std::get<cow_String>(*r.Find("algorithm")).str(); };
-  EXPECT_EQ(algorithm(convert(&Upgrade_kopC_OrimTask_1554, "CONTROLLER_BASED")), "STIFFNESS_OPTIMIZATION");
-  EXPECT_EQ(algorithm(convert(&Upgrade_kopC_OrimTask_1554, "SENSITIVITY_BASED")), "GENERAL_OPTIMIZATION");
-  EXPECT_EQ(algorithm(convert(&Upgrade_kopC_OrimTask_1554, "STIFFNESS_OPTIMIZATION")), "STIFFNESS_OPTIMIZATION");
-  EXPECT_EQ(algorithm(convert(&Upgrade_kopC_OrimTask_1562, "STIFFNESS_OPTIMIZATION")), "CONDITION_BASED_OPTIMIZATION");
-  EXPECT_EQ(algorithm(convert(&Upgrade_kopC_OrimTask_1562, "CONTROLLER_BASED")), "CONTROLLER_BASED");
-  EXPECT_EQ(algorithm(convert(&Upgrade_kopC_OrimTask_1562, "GENERAL_OPTIMIZATION")), "GENERAL_OPTIMIZATION");
-  cls_Record r = convert(&Upgrade_kopC_OrimTask_1629, "GENERAL_OPTIMIZATION");
-  EXPECT_EQ(std::get<bool>(*r.Find("tessarSensitivities")), false);
-  EXPECT_EQ(r.Find("groupOperator"), nullptr);
-  r = convert(&Upgrade_kopC_OrimTask_1859, "GENERAL_OPTIMIZATION");
-  EXPECT_EQ(std::get<bool>(*r.Find("groupOperator")), false);
-  r = convert(&Upgrade_kopC_TopologyTask_1554, "GENERAL_OPTIMIZATION");
-  EXPECT_EQ(std::get<cow_String>(*r.Find("softDeletionMethod")), "STANDARD");
-  EXPECT_EQ(std::get<double>(*r.Find("softDeletionThreshold")), 0.05);
-
-  // The steps the descriptors declare: from each retired version to the version that retired it.
-  dbc_DatabaseConverter steps;
-  kopC_OrimTask_1554().SchemaChanges(steps);
-  kopC_OrimTask_1562().SchemaChanges(steps);
-  kopC_OrimTask_1629().SchemaChanges(steps);
-  kopC_OrimTask_1859().SchemaChanges(steps);
-  kopC_TopologyTask_1554().SchemaChanges(steps);
-  std::vector<std::tuple<std::string, int, int>> declared;
-  for (const auto& [target, converter] : steps.Converters())
-    for (const auto& step : converter->Steps()) {
-      declared.emplace_back(step->ClassName(), step->From(), step->Target());
-      EXPECT_EQ(step->TypeId(), step->ClassName() == "kopC_OrimTask" ? 0x03A40007u : 0x03A40008u);
-    }
-  EXPECT_EQ(declared, (std::vector<std::tuple<std::string, int, int>>{{"kopC_OrimTask", 1554, 1562},
-                                                                      {"kopC_OrimTask", 1562, 1629},
-                                                                      {"kopC_TopologyTask", 1554, 1629},
-                                                                      {"kopC_OrimTask", 1629, 1859},
-                                                                      {"kopC_OrimTask", 1859, 2204}}));
-}
-
-}  // namespace
-
-namespace {
 
 std::vector<std::string> order;
 void* Mark(const dbc_Row&, dbc_Row&, int arg) {

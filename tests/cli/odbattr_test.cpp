@@ -1,10 +1,15 @@
-// The odbattr tool, run as a program: its output lines, exit codes and the files it writes.
+// The odbattr tool, run as a program: its output lines, exit codes, the files it writes, database
+// targets that are not plain files, its version and upgrade, and the schema of the script format
+// checked against every example script. What each bad line says is checked where the command
+// layer reads lines; here one script shows the tool reporting them.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -28,31 +33,35 @@ struct Outcome {
     for (std::string l; std::getline(in, l);) lines.push_back(l);
     return lines;
   }
+  std::vector<Json> Results() const {
+    std::vector<Json> r;
+    std::istringstream in(out);
+    for (std::string l; std::getline(in, l);) r.push_back(Json::parse(l));
+    return r;
+  }
 };
 
 std::string Slurp(const fs::path& p) {
-  std::ifstream in(p);
+  std::ifstream in(p, std::ios::binary);
   std::stringstream s;
   s << in.rdbuf();
   return s.str();
 }
 
-void Write(const fs::path& p, const std::string& text) { std::ofstream(p) << text; }
+void Write(const fs::path& p, const std::string& text) { std::ofstream(p, std::ios::binary) << text; }
 
-class OdbattrTest : public ::testing::Test {
+class ToolLines : public ::testing::Test {
  protected:
   void SetUp() override { dir = qmx_TempDir(::testing::UnitTest::GetInstance()->current_test_info()->name()); }
-
   // Runs the tool with the arguments (already quoted for the shell) from `cwd`.
   Outcome Tool(const std::string& args, const fs::path& cwd = {}) {
     const fs::path out = dir / "stdout", err = dir / "stderr";
-    std::string cmd = (cwd.empty() ? "" : "cd '" + cwd.string() + "' && ") + "'" + ODBATTR_EXE + "' " + args + " > '" +
-                      out.string() + "' 2> '" + err.string() + "'";
+    const std::string cmd = (cwd.empty() ? "" : "cd '" + cwd.string() + "' && ") + "'" + ODBATTR_EXE + "' " + args +
+                            " > '" + out.string() + "' 2> '" + err.string() + "'";
     const int status = std::system(cmd.c_str());
     return Outcome{WIFEXITED(status) ? WEXITSTATUS(status) : -1, Slurp(out), Slurp(err)};
   }
   std::string Q(const fs::path& p) { return "'" + p.string() + "'"; }
-
   fs::path dir;
 };
 
@@ -65,7 +74,7 @@ const char* kScript = R"(# a control, a refused change, a change that goes throu
 {"op":"get","path":["Model-1","adaptiveMeshControls","C-1","initialFeatureAngle"]}
 )";
 
-TEST_F(OdbattrTest, RunReportsEachCommandAndSavesWhatSucceeded) {
+TEST_F(ToolLines, RunReportsEachCommandAndSavesWhatSucceeded) {
   Write(dir / "script.jsonl", kScript);
   const fs::path db = dir / "model.db";
   const Outcome r = Tool("run --db " + Q(db) + " " + Q(dir / "script.jsonl"));
@@ -89,13 +98,16 @@ TEST_F(OdbattrTest, RunReportsEachCommandAndSavesWhatSucceeded) {
   EXPECT_EQ(c["initialFeatureAngle"], 30.0);
   EXPECT_EQ(c["transitionFeatureAngle"], 20.0);
   EXPECT_EQ(c["remapping"], "SECOND_ORDER_ADVECTION");
+  const Outcome none = Tool("dump " + Q(db) + " Model-1/adaptiveMeshControls/C-9");
+  EXPECT_EQ(none.code, 1);
+  EXPECT_EQ(none.err, "odbattr: There is no \"C-9\" in adaptiveMeshControls\n");
   Write(dir / "more.jsonl", R"({"op":"set","path":["Model-1","adaptiveMeshControls","C-1","remapping"],"value":0})" "\n");
   EXPECT_EQ(Tool("run --db " + Q(db) + " " + Q(dir / "more.jsonl")).code, 0);
   EXPECT_EQ(Json::parse(Tool("dump " + Q(db) + R"( '["Model-1","adaptiveMeshControls","C-1","remapping"]')").out),
             "FIRST_ORDER_ADVECTION");
 }
 
-TEST_F(OdbattrTest, RunReadsStandardInputAndRefusesAMissingScript) {
+TEST_F(ToolLines, RunReadsStandardInputAndRefusesAMissingScript) {
   Write(dir / "script.jsonl", "{\"op\":\"create\",\"path\":[\"M\"]}\n{\"op\":\"list\",\"path\":[]}\n");
   const Outcome r = Tool("run - < " + Q(dir / "script.jsonl"));
   EXPECT_EQ(r.code, 0) << r.err;
@@ -107,7 +119,7 @@ TEST_F(OdbattrTest, RunReadsStandardInputAndRefusesAMissingScript) {
   EXPECT_TRUE(missing.out.empty());
 }
 
-TEST_F(OdbattrTest, CheckListsEveryInvalidObjectWithItsPath) {
+TEST_F(ToolLines, CheckListsEveryInvalidObjectWithItsPath) {
   Write(dir / "script.jsonl", R"({"op":"create","path":["Model-1"]}
 {"op":"create","path":["Model-1","adaptiveMeshControls","Bad-1"],"type":"AdaptiveMeshControl","values":{"meshConstraintAngle":181}}
 {"op":"create","path":["Model-1","adaptiveMeshControls","Good"],"type":"AdaptiveMeshControl"}
@@ -132,7 +144,7 @@ TEST_F(OdbattrTest, CheckListsEveryInvalidObjectWithItsPath) {
   EXPECT_EQ(ok.out, "1 object checked, 0 invalid\n");
 }
 
-TEST_F(OdbattrTest, AnUnusableFileIsRefusedAndLeftAlone) {
+TEST_F(ToolLines, AnUnusableFileIsRefusedAndLeftAlone) {
   const fs::path junk = dir / "junk.db";
   Write(junk, "this is not a database");
   for (const char* verb : {"check", "dump"}) {
@@ -151,31 +163,7 @@ TEST_F(OdbattrTest, AnUnusableFileIsRefusedAndLeftAlone) {
   EXPECT_FALSE(fs::exists(dir / "out.db"));
 }
 
-TEST_F(OdbattrTest, DumpAPathThatNamesNothing) {
-  Write(dir / "script.jsonl", "{\"op\":\"create\",\"path\":[\"Model-1\"]}\n");
-  const fs::path db = dir / "model.db";
-  ASSERT_EQ(Tool("run --db " + Q(db) + " " + Q(dir / "script.jsonl")).code, 0);
-  const Outcome r = Tool("dump " + Q(db) + " Model-1/adaptiveMeshControls/C-9");
-  EXPECT_EQ(r.code, 1);
-  EXPECT_EQ(r.err, "odbattr: There is no \"C-9\" in adaptiveMeshControls\n");
-  const Outcome all = Tool("dump " + Q(db));
-  EXPECT_EQ(all.code, 0);
-  EXPECT_EQ(Json::parse(all.out)["Model-1"]["adaptiveMeshControls"], Json::object());
-}
-
-TEST_F(OdbattrTest, UpgradeWritesAFileThatChecks) {
-  Write(dir / "script.jsonl", R"({"op":"create","path":["Model-1"]}
-{"op":"create","path":["Model-1","adaptiveMeshControls","C-1"],"type":"AdaptiveMeshControl","values":{"smoothingAlgorithm":"STANDARD"}}
-)");
-  const fs::path in = dir / "in.db", out = dir / "out.db";
-  ASSERT_EQ(Tool("run --db " + Q(in) + " " + Q(dir / "script.jsonl")).code, 0);
-  const Outcome r = Tool("upgrade " + Q(in) + " " + Q(out));
-  EXPECT_EQ(r.code, 0) << r.err;
-  EXPECT_EQ(Tool("check " + Q(out)).code, 0);
-  EXPECT_EQ(Json::parse(Tool("dump " + Q(out)).out), Json::parse(Tool("dump " + Q(in)).out));
-}
-
-TEST_F(OdbattrTest, ClassesListTheRegisteredClasses) {
+TEST_F(ToolLines, ClassesListTheRegisteredClasses) {
   const Outcome r = Tool("classes");
   ASSERT_EQ(r.code, 0) << r.err;
   const Json all = Json::parse(r.out);
@@ -193,7 +181,7 @@ TEST_F(OdbattrTest, ClassesListTheRegisteredClasses) {
 }
 
 // README's main job: the example, from the repository root.
-TEST_F(OdbattrTest, TheExampleBuildsSavesAndChecks) {
+TEST_F(ToolLines, TheExampleBuildsSavesAndChecks) {
   const fs::path db = dir / "example.db";
   const Outcome r = Tool("example --db " + Q(db), fs::path(QMX_EXAMPLES_DIR).parent_path());
   EXPECT_EQ(r.code, 0) << r.out << r.err;
@@ -206,6 +194,212 @@ TEST_F(OdbattrTest, TheExampleBuildsSavesAndChecks) {
   const Outcome none = Tool("example --dir " + Q(dir) + " --db " + Q(dir / "x.db"));
   EXPECT_EQ(none.code, 2);
   EXPECT_EQ(none.err, "odbattr: there are no example scripts (*.jsonl) in " + dir.string() + "\n");
+}
+
+TEST_F(ToolLines, TargetsThatAreNotRegularFilesAreRefusedAndLinksAreWrittenThrough) {
+  Write(dir / "script.jsonl", "{\"op\":\"create\",\"path\":[\"M\"]}\n");
+  const fs::path fifo = dir / "pipe.db";
+  ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+  const Outcome r = Tool("run --db " + Q(fifo) + " " + Q(dir / "script.jsonl"));
+  EXPECT_EQ(r.code, 2);
+  EXPECT_EQ(r.err, "odbattr: cannot use \"" + fifo.string() + "\" as the database: it is a FIFO, not a regular file\n");
+  EXPECT_TRUE(r.out.empty());  // nothing ran
+  EXPECT_TRUE(fs::is_fifo(fifo));
+  const Outcome nodir = Tool("run --db " + Q(dir / "missing" / "m.db") + " " + Q(dir / "script.jsonl"));
+  EXPECT_EQ(nodir.code, 2);
+  EXPECT_EQ(nodir.err, "odbattr: cannot use \"" + (dir / "missing" / "m.db").string() + "\" as the database: the directory \"" +
+                           (dir / "missing").string() + "\" does not exist\n");
+  EXPECT_TRUE(nodir.out.empty());
+
+  // save in a script: the line fails, the others run
+  Write(dir / "save.jsonl", "{\"op\":\"create\",\"path\":[\"M\"]}\n{\"op\":\"save\",\"file\":\"" + fifo.string() +
+                                "\"}\n{\"op\":\"save\",\"file\":\"/dev/null\"}\n{\"op\":\"list\",\"path\":[]}\n");
+  const Outcome s = Tool("run " + Q(dir / "save.jsonl"));
+  EXPECT_EQ(s.code, 1);
+  const std::vector<Json> results = s.Results();
+  ASSERT_EQ(results.size(), 4u);
+  EXPECT_EQ(results[1]["error"]["message"],
+            "Cannot save the model database \"" + fifo.string() + "\": it is a FIFO, not a regular file");
+  EXPECT_EQ(results[2]["error"]["message"], "Cannot save the model database \"/dev/null\": it is a device, not a regular file");
+  EXPECT_EQ(results[3]["result"], Json::parse(R"(["M"])"));
+  EXPECT_TRUE(fs::is_fifo(fifo));
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+
+  // a symbolic link: its target is replaced, the link stays, and both the tool and the command say so
+  const fs::path target = dir / "real.db", link = dir / "link.db";
+  ASSERT_EQ(Tool("run --db " + Q(target) + " " + Q(dir / "script.jsonl")).code, 0);
+  fs::create_symlink("real.db", link);
+  Write(dir / "more.jsonl", "{\"op\":\"create\",\"path\":[\"N\"]}\n{\"op\":\"save\",\"file\":\"" + link.string() + "\"}\n");
+  const Outcome l = Tool("run --db " + Q(link) + " " + Q(dir / "more.jsonl"));
+  EXPECT_EQ(l.code, 0) << l.err;
+  EXPECT_EQ(l.err, "odbattr: " + link.string() + " is a symbolic link; saved " + target.string() + ", which it leads to\n");
+  EXPECT_EQ(l.Results()[1]["result"],
+            Json({{"file", link.string()}, {"models", 2}, {"target", target.string()}}));
+  EXPECT_TRUE(fs::is_symlink(link));
+  EXPECT_EQ(Json::parse(Tool("dump " + Q(target)).out).size(), 2u);
+}
+
+TEST_F(ToolLines, VersionAndUpgradeOfACurrentFile) {
+  const Outcome v = Tool("--version");
+  EXPECT_EQ(v.code, 0);
+  EXPECT_TRUE(std::regex_match(v.out, std::regex("odbattr [0-9]+\\.[0-9]+\\.[0-9]+ \\(database version [0-9]+\\)\n")))
+      << v.out;
+  const std::string version = std::regex_replace(v.out, std::regex(".*database version ([0-9]+)\\)\n"), "$1");
+
+  Write(dir / "script.jsonl", "{\"op\":\"create\",\"path\":[\"M\"]}\n");
+  const fs::path in = dir / "in.db", out = dir / "out.db";
+  ASSERT_EQ(Tool("run --db " + Q(in) + " " + Q(dir / "script.jsonl")).code, 0);
+  const std::string bytes = Slurp(in);
+  const Outcome u = Tool("upgrade " + Q(in) + " " + Q(out));
+  EXPECT_EQ(u.code, 0) << u.err;
+  EXPECT_EQ(u.out, in.string() + " is already at database version " + version + "; written unchanged as " +
+                       out.string() + "\n");
+  EXPECT_EQ(Tool("check " + Q(out)).code, 0);
+  EXPECT_EQ(Json::parse(Tool("dump " + Q(out)).out), Json::parse(Tool("dump " + Q(in)).out));
+
+  // IN as OUT, by the same name, another spelling or a link: refused, IN untouched
+  fs::create_symlink("in.db", dir / "alias.db");
+  for (const std::string& same : std::vector<std::string>{Q(in), Q(dir / "." / "in.db"), Q(dir / "alias.db")}) {
+    SCOPED_TRACE(same);
+    const Outcome r = Tool("upgrade " + Q(in) + " " + same);
+    EXPECT_EQ(r.code, 2);
+    EXPECT_NE(r.err.find("IN and OUT are the same file"), std::string::npos) << r.err;
+    EXPECT_TRUE(r.out.empty());
+  }
+  EXPECT_EQ(Slurp(in), bytes);
+}
+
+// --- a small validator of the JSON Schema keywords that the schema uses ------------------------
+
+class Validator {
+ public:
+  explicit Validator(const Json& root) : root_(root) {}
+  // The first violation as "where: what", or empty when the value fits.
+  std::string Check(const Json& v, const Json& s, const std::string& at = "") const {
+    if (s.is_boolean()) return s.get<bool>() ? "" : at + ": nothing is allowed here";
+    if (s.contains("$ref")) {
+      const std::string ref = s["$ref"];
+      const std::string prefix = "#/$defs/";
+      if (ref.rfind(prefix, 0) != 0 || !root_["$defs"].contains(ref.substr(prefix.size())))
+        return at + ": unresolved reference " + ref;
+      if (auto e = Check(v, root_["$defs"][ref.substr(prefix.size())], at); !e.empty()) return e;
+    }
+    if (s.contains("type") && !TypeFits(v, s["type"])) return at + ": not of type " + s["type"].dump() + ": " + v.dump();
+    if (s.contains("const") && v != s["const"]) return at + ": not " + s["const"].dump();
+    if (s.contains("enum") && std::find(s["enum"].begin(), s["enum"].end(), v) == s["enum"].end())
+      return at + ": " + v.dump() + " is none of " + s["enum"].dump();
+    if (v.is_number()) {
+      if (s.contains("minimum") && v.get<double>() < s["minimum"].get<double>()) return at + ": below the minimum";
+      if (s.contains("maximum") && v.get<double>() > s["maximum"].get<double>()) return at + ": above the maximum";
+    }
+    if (v.is_string() && s.contains("minLength") && v.get<std::string>().size() < s["minLength"].get<std::size_t>())
+      return at + ": too short";
+    if (v.is_object()) {
+      if (s.contains("required"))
+        for (const auto& k : s["required"])
+          if (!v.contains(k.get<std::string>())) return at + ": lacks " + k.dump();
+      for (const auto& [k, e] : v.items()) {
+        if (s.contains("properties") && s["properties"].contains(k)) {
+          if (auto r = Check(e, s["properties"][k], at + "/" + k); !r.empty()) return r;
+        } else if (s.contains("additionalProperties")) {
+          if (auto r = Check(e, s["additionalProperties"], at + "/" + k); !r.empty()) return r;
+        }
+      }
+    }
+    if (v.is_array()) {
+      if (s.contains("minItems") && v.size() < s["minItems"].get<std::size_t>()) return at + ": too few items";
+      if (s.contains("maxItems") && v.size() > s["maxItems"].get<std::size_t>()) return at + ": too many items";
+      std::size_t first = 0;
+      if (s.contains("prefixItems"))
+        for (; first < s["prefixItems"].size() && first < v.size(); ++first)
+          if (auto r = Check(v[first], s["prefixItems"][first], at + "/" + std::to_string(first)); !r.empty()) return r;
+      if (s.contains("items"))
+        for (std::size_t i = first; i < v.size(); ++i)
+          if (auto r = Check(v[i], s["items"], at + "/" + std::to_string(i)); !r.empty()) return r;
+    }
+    if (s.contains("allOf"))
+      for (const auto& sub : s["allOf"])
+        if (auto r = Check(v, sub, at); !r.empty()) return r;
+    if (s.contains("anyOf")) {
+      std::string last;
+      bool any = false;
+      for (const auto& sub : s["anyOf"]) {
+        last = Check(v, sub, at);
+        if (last.empty()) any = true;
+      }
+      if (!any) return at + ": fits none of anyOf (last: " + last + ")";
+    }
+    if (s.contains("oneOf")) {
+      int fits = 0;
+      for (const auto& sub : s["oneOf"]) fits += Check(v, sub, at).empty() ? 1 : 0;
+      if (fits != 1) return at + ": fits " + std::to_string(fits) + " of oneOf";
+    }
+    if (s.contains("if")) {
+      const bool cond = Check(v, s["if"], at).empty();
+      if (cond && s.contains("then")) return Check(v, s["then"], at);
+      if (!cond && s.contains("else")) return Check(v, s["else"], at);
+    }
+    return "";
+  }
+
+ private:
+  static bool TypeFits(const Json& v, const Json& type) {
+    if (type.is_array()) return std::any_of(type.begin(), type.end(), [&](const Json& t) { return TypeFits(v, t); });
+    const std::string t = type;
+    if (t == "object") return v.is_object();
+    if (t == "array") return v.is_array();
+    if (t == "string") return v.is_string();
+    if (t == "integer") return v.is_number_integer();
+    if (t == "number") return v.is_number();
+    if (t == "boolean") return v.is_boolean();
+    if (t == "null") return v.is_null();
+    return false;
+  }
+  const Json& root_;
+};
+
+TEST_F(ToolLines, EveryLineOfEveryExampleFitsTheSchemaAndWrongLinesDoNot) {
+  const Outcome r = Tool("schema");
+  ASSERT_EQ(r.code, 0) << r.err;
+  const Json schema = Json::parse(r.out);
+  const Validator v(schema);
+
+  // What the schema says of the adaptive mesh control, checked against the class's own terms.
+  const Json& ctrl = schema["$defs"]["AdaptiveMeshControl"]["properties"];
+  EXPECT_EQ(ctrl["remapping"]["default"], "SECOND_ORDER_ADVECTION");
+  EXPECT_EQ(ctrl["remapping"]["anyOf"][0]["enum"], Json::parse(R"(["FIRST_ORDER_ADVECTION","SECOND_ORDER_ADVECTION"])"));
+  EXPECT_EQ(ctrl["initialFeatureAngle"], Json::parse(R"({"type":"number","default":30.0})"));
+  EXPECT_EQ(schema["x-repositories"]["adaptiveMeshDomains"], Json::parse(R"(["AdaptiveMeshDomain"])"));
+  EXPECT_EQ(schema["x-repositories"]["adaptiveMeshControls"], Json::parse(R"(["AdaptiveMeshControl"])"));
+
+  std::size_t checked = 0;
+  for (const auto& e : fs::directory_iterator(QMX_EXAMPLES_DIR)) {
+    if (e.path().extension() != ".jsonl") continue;
+    std::ifstream in(e.path());
+    std::size_t number = 0;
+    for (std::string line; std::getline(in, line);) {
+      ++number;
+      const auto first = line.find_first_not_of(" \t\r");
+      if (first == std::string::npos || line[first] == '#') continue;
+      EXPECT_EQ(v.Check(Json::parse(line), schema), "") << e.path().filename() << ":" << number;
+      ++checked;
+    }
+  }
+  EXPECT_GT(checked, 10u);
+
+  // Lines the tool refuses, the schema refuses too.
+  const char* wrong[] = {
+      R"({"op":"create","path":["Model-1","adaptiveMeshControls","C-9"],"type":"AdaptiveMeshControl","values":{"remapping":"THIRD"}})",
+      R"({"op":"create","path":["Model-1","adaptiveMeshControls","C-9"],"type":"AdaptiveMeshControl","values":{"advection":"FIRST_ORDER_ADVECTION"}})",
+      R"({"op":"create","path":["Model-1","adaptiveMeshControls","C-9"],"type":"AdaptiveMeshDomain"})",
+      R"({"op":"create","path":["Model-1","adaptiveMeshDomains","D-9"],"type":"AdaptiveMeshDomain","values":{"frequency":1.5}})",
+      R"({"op":"create","path":["Model-1","adaptiveMeshDomains","D-9"],"type":"AdaptiveMeshDomain","values":{"frequency":3000000000}})",
+      R"({"op":"get","path":["Model-1"],"file":"x"})",
+      R"({"op":"explode","path":[]})",
+      R"({"op":"save"})",
+      R"({"op":"get","path":[1.5]})",
+  };
+  for (const char* line : wrong) EXPECT_NE(v.Check(Json::parse(line), schema), "") << line;
 }
 
 }  // namespace

@@ -67,13 +67,8 @@ class cmdT_Holder : public mem_Allocated {
   kadC_AdptMeshDomCont& Domains() { return domains; }
   const kadC_AdptMeshDomCont& Domains() const { return domains; }
   const ControlHandle& Control() const { return control; }
-  void SetControl(const kadC_AdptMeshCtrl& c) { control = ControlHandle(c); }
   const cow_List<ControlHandle>& Controls() const { return controls; }
-  void SetControls(cow_List<ControlHandle> v) { controls = std::move(v); }
-  const cow_List<double>& Weights() const { return weights; }
   const cow_2DArray<double>& Table() const { return table; }
-  std::int32_t GetCount() const { return count; }
-  void SetCount(std::int32_t v) { count = v; }
 
  private:
   cow_String label;

@@ -108,6 +108,10 @@ TEST_F(ErrorPathTest, ValidateReportsEveryFailureUnderThePathFirstFirst) {
   const cmd_Json h = cmdT_Fails(s, R"({"op":"validate","path":["M","holders"]})");
   EXPECT_EQ(h["failures"].size(), 2u);
   EXPECT_EQ(h["message"], "Count must not be negative.");
+  // An object alone, failing and passing.
+  EXPECT_EQ(cmdT_Fails(s, R"({"op":"validate","path":["M","adaptiveMeshControls","C-3"]})")["message"],
+            "Mesh constraint angle must be greater than or equal to zero and less than or equal to 180.");
+  EXPECT_EQ(cmdT_Ok(s, R"({"op":"validate","path":["M","adaptiveMeshControls","C-1"]})"), cmd_Json::parse(R"({"validated":1})"));
 }
 
 TEST_F(ErrorPathTest, AdaptiveMeshDomainsAreReachableFromAModelAndSurviveTheFile) {

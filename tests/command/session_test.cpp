@@ -63,27 +63,6 @@ TEST_F(SessionTest, TheJournalRecordsInsertModifyRemoveOfCommandsThatSucceed) {
   EXPECT_EQ(s.Failed(), 1u);
 }
 
-TEST_F(SessionTest, AFailedCommandChangesNothing) {
-  const ddr_Database before = s.Database();
-  const std::size_t history = omu_ChangeHistory::Instance().Size();
-  // The first value is set before the second is refused: the whole command is undone.
-  const cmd_Json e = cmdT_Fails(s, R"({"op":"set","path":["M","adaptiveMeshControls","C-1"],
-      "values":{"initialFeatureAngle":10,"remapping":"first_order_advection"}})");
-  EXPECT_EQ(e, cmd_Json::parse(R"({"kind":"CmdException",
-      "message":"omu_PrimEnum(const cow_String&) - str not allowed: first_order_advection  Permissible: FIRST_ORDER_ADVECTION, SECOND_ORDER_ADVECTION",
-      "file":"QMXAbuTessarUtilities/ProtectedInterfaces/omu_PrimEnum","line":103,
-      "path":["M","adaptiveMeshControls","C-1"],"member":"remapping"})"));
-  EXPECT_EQ(Control("C-1").GetInitialFeatureAngle(), 30.0);
-  EXPECT_TRUE(s.Database() == before);
-  EXPECT_EQ(omu_ChangeHistory::Instance().Size(), history);
-
-  // A create that fails on its values leaves no element behind.
-  cmdT_Fails(s, R"({"op":"create","path":["M","adaptiveMeshControls","C-2"],"type":"AdaptiveMeshControl",
-                   "values":{"smoothingPriority":"graded"}})");
-  EXPECT_EQ(cmdT_Ok(s, R"({"op":"list","path":["M","adaptiveMeshControls"]})"), cmd_Json::parse(R"(["C-1"])"));
-  EXPECT_TRUE(s.Database() == before);
-}
-
 // Commands change their element in place: the container is not copied for each command (which
 // would make a script quadratic in the size of its containers), failed or not.
 TEST_F(SessionTest, CommandsDoNotCopyTheContainer) {
@@ -96,7 +75,7 @@ TEST_F(SessionTest, CommandsDoNotCopyTheContainer) {
   EXPECT_EQ(Control("C-1").GetCurvatureRefinement(), 3);
 }
 
-TEST_F(SessionTest, FailuresInsidePositionsAndNestedContainersAreUndone) {
+TEST_F(SessionTest, AFailedCommandChangesNothing) {
   for (int f : {1, 2, 3})
     cmdT_Ok(s, R"({"op":"create","path":["M","domainList",)" + std::to_string(f - 1) +
                    R"(],"type":"AdaptiveMeshDomain","values":{"frequency":)" + std::to_string(f) + "}}");
@@ -104,8 +83,10 @@ TEST_F(SessionTest, FailuresInsidePositionsAndNestedContainersAreUndone) {
   cmdT_Ok(s, R"({"op":"create","path":["M","holders","H","domains","D-1"],"type":"AdaptiveMeshDomain"})");
   const ddr_Database before = s.Database();
   const std::size_t history = omu_ChangeHistory::Instance().Size();
+  // A refused command is undone whole, also when part of it was done before the refusal.
   const char* failing[] = {
-      // the first value goes in before the second is refused
+      R"({"op":"set","path":["M","adaptiveMeshControls","C-1"],"values":{"initialFeatureAngle":10,"remapping":"first_order_advection"}})",
+      R"({"op":"create","path":["M","adaptiveMeshControls","C-2"],"type":"AdaptiveMeshControl","values":{"smoothingPriority":"graded"}})",
       R"({"op":"set","path":["M","domainList",1],"values":{"frequency":7,"meshSweeps":"x"}})",
       R"({"op":"create","path":["M","domainList",1],"type":"AdaptiveMeshDomain","values":{"meshSweeps":"x"}})",
       R"({"op":"set","path":["M","domainList",1],"type":"AdaptiveMeshDomain","values":{"nothing":1}})",
@@ -123,6 +104,8 @@ TEST_F(SessionTest, FailuresInsidePositionsAndNestedContainersAreUndone) {
 }
 
 TEST_F(SessionTest, EnumerationsTakeTheirLiteralOrTheirValue) {
+  // A string goes to the enumeration's literal, a number to its value; the enumeration's own
+  // refusals are checked with it, here only that each kind reaches its own.
   struct Case {
     const char* value;
     const char* message;  // empty: accepted
@@ -133,9 +116,7 @@ TEST_F(SessionTest, EnumerationsTakeTheirLiteralOrTheirValue) {
       {R"(0)", "", 0},
       {R"("Graded")",
        "omu_PrimEnum(const cow_String&) - str not allowed: Graded  Permissible: UNIFORM, GRADED", 103},
-      {R"("")", "omu_PrimEnum(const cow_String&) - str not allowed:   Permissible: UNIFORM, GRADED", 103},
       {R"(2)", "omu_PrimEnum(ENUMTYPE) - Enum value not allowed: 2  Permissible: UNIFORM, GRADED", 76},
-      {R"(-1)", "omu_PrimEnum(ENUMTYPE) - Enum value not allowed: -1  Permissible: UNIFORM, GRADED", 76},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.value);
@@ -273,26 +254,6 @@ TEST_F(SessionTest, MalformedCommandsAreRefused) {
   }
   const cmd_Json bad = cmdT_Fails(s, R"({"op":"get",)");
   EXPECT_EQ(bad["message"].get<std::string>().rfind("The command is not valid JSON: ", 0), 0u) << bad.dump();
-}
-
-TEST_F(SessionTest, ValidationReportsTheModulesMessageAndTheFailingObject) {
-  EXPECT_EQ(cmdT_Ok(s, R"({"op":"validate","path":["M"]})"), cmd_Json::parse(R"({"validated":1})"));
-  cmdT_Ok(s, R"({"op":"create","path":["M","adaptiveMeshControls","C-2"],"type":"AdaptiveMeshControl",
-                 "values":{"standardVolumetricSmoothingWeight":-0.5}})");
-  cmdT_Ok(s, R"({"op":"create","path":["M","adaptiveMeshControls","C-3"],"type":"AdaptiveMeshControl",
-                 "values":{"initialFeatureAngle":180.0001}})");
-  const cmd_Json e = cmdT_Fails(s, R"({"op":"validate","path":["M"]})");
-  EXPECT_EQ(e, cmd_Json::parse(R"({"kind":"PrimException",
-      "message":"Volumetric smoothing weight must be greater than or equal to zero.",
-      "file":"QMXOdbKadC.m/src/kadC_assert","line":71,"path":["M","adaptiveMeshControls","C-2"],"failures":[
-      {"kind":"PrimException","message":"Volumetric smoothing weight must be greater than or equal to zero.",
-       "file":"QMXOdbKadC.m/src/kadC_assert","line":71,"path":["M","adaptiveMeshControls","C-2"]},
-      {"kind":"PrimException","message":"Initial feature angle must be greater than or equal to zero and less than or equal to 180.",
-       "file":"QMXOdbKadC.m/src/kadC_assert","line":71,"path":["M","adaptiveMeshControls","C-3"]}]})"));
-  EXPECT_EQ(cmdT_Fails(s, R"({"op":"validate","path":["M","adaptiveMeshControls","C-3"]})")["message"],
-            "Initial feature angle must be greater than or equal to zero and less than or equal to 180.");
-  EXPECT_EQ(cmdT_Ok(s, R"({"op":"validate","path":["M","adaptiveMeshControls","C-1"]})"),
-            cmd_Json::parse(R"({"validated":1})"));
 }
 
 }  // namespace

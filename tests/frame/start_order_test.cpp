@@ -1,7 +1,6 @@
 // The exact start order of the framework libraries and modules, and the exact reverse on stop.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -31,10 +30,6 @@ const std::vector<std::string> kStopOrder = {
     "stop QMXAbuGeom",       "stop QMXRomCore",       "stop QMXRomDiagEx", "stop QMXShpCore",
     "stop QMXOdbCoreGeom",
 };
-
-std::size_t IndexOf(const std::vector<std::string>& v, const std::string& s) {
-  return static_cast<std::size_t>(std::find(v.begin(), v.end(), s) - v.begin());
-}
 }  // namespace
 
 // Runs before any fixture of this program has stopped the library: the journal's first entries
@@ -61,18 +56,6 @@ TEST_F(frame_StoppedLibrary, StartsInTheFixedOrderAndStopsInExactlyTheReverse) {
   QMXOdbAttrEO2_finalize(tally);
   EXPECT_EQ(frame_StartsAndStops(mark), kStopOrder);
   EXPECT_EQ(tally, 0);
-}
-
-TEST_F(frame_StoppedLibrary, TheAdaptiveMeshContainerIsRegisteredWithinItsModulesStart) {
-  int tally = 0;
-  std::size_t mark = bas_StartJournal::Mark();
-  QMXOdbAttrEO2_initialize(tally);
-  std::vector<std::string> entries = bas_StartJournal::Since(mark);
-  std::size_t kad = IndexOf(entries, "start QMXOdbKadC");
-  ASSERT_LT(kad + 1, entries.size());
-  EXPECT_EQ(entries[kad + 1], "register kadC_ACWrapper");
-  EXPECT_EQ(std::count(entries.begin(), entries.end(), "register kadC_ACWrapper"), 1);
-  QMXOdbAttrEO2_finalize(tally);
 }
 
 TEST_F(frame_StoppedLibrary, TheLoaderHookStartsOnAttachStopsOnDetachAndIgnoresThreads) {

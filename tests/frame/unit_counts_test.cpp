@@ -8,7 +8,6 @@
 
 #include "frame/QMXOdbAttrEO2.h"
 #include "kam/QMXOdbKamC.h"
-#include "platform/QMXFrameworkLibraries.h"
 #include "platform/base/bas_StartJournal.h"
 #include "tests/frame/frame_units.h"
 
@@ -48,64 +47,42 @@ TEST_F(frame_StoppedLibrary, EveryUnitCountsItsStartsAndStops) {
   }
 }
 
-TEST_F(frame_StoppedLibrary, AModuleStartedDirectlyIsNotStartedAgainByTheLibrary) {
-  int tally = 0;
-  QMXOdbKamC_initialize(tally);
-  EXPECT_EQ(tally, 1);
+// A module the caller started directly, or stopped behind the library's back (count below zero),
+// is neither started nor stopped by the library, whose start and stop only count on it; the
+// library's stop brings it back to where it was.
+TEST_F(frame_StoppedLibrary, AModuleStartedOrStoppedDirectlyIsOnlyCountedByTheLibrary) {
+  struct Case {
+    const char* what;
+    bool ownStart;
+    int before;  // the module's count before and after the library's start and stop
+    int during;
+  };
+  const Case cases[] = {{"started directly", true, 1, 2}, {"driven negative", false, -1, 0}};
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    int own = 0;
+    (c.ownStart ? QMXOdbKamC_initialize : QMXOdbKamC_finalize)(own);
+    EXPECT_EQ(own, c.ownStart ? 1 : 0);
+    EXPECT_EQ(QMXOdbKamC_count(), c.before);
 
-  std::size_t mark = bas_StartJournal::Mark();
-  QMXOdbAttrEO2_initialize(tally);
-  Strings started = frame_StartsAndStops(mark);
-  EXPECT_EQ(started.size(), 23u);
-  EXPECT_FALSE(Contains(started, "start QMXOdbKamC"));
-  EXPECT_EQ(QMXOdbKamC_count(), 2);
-  EXPECT_EQ(tally, 1 + kFullTally - 1);
+    int tally = 0;
+    std::size_t mark = bas_StartJournal::Mark();
+    QMXOdbAttrEO2_initialize(tally);
+    Strings started = frame_StartsAndStops(mark);
+    EXPECT_EQ(started.size(), 23u);
+    EXPECT_FALSE(Contains(started, "start QMXOdbKamC"));
+    EXPECT_EQ(QMXOdbKamC_count(), c.during);
+    EXPECT_EQ(tally, kFullTally - 1);
 
-  // The library's stop releases its own start of the module only.
-  mark = bas_StartJournal::Mark();
-  QMXOdbAttrEO2_finalize(tally);
-  Strings stopped = frame_StartsAndStops(mark);
-  EXPECT_EQ(stopped.size(), 23u);
-  EXPECT_FALSE(Contains(stopped, "stop QMXOdbKamC"));
-  EXPECT_EQ(QMXOdbKamC_count(), 1);
-  EXPECT_EQ(tally, 1);
+    mark = bas_StartJournal::Mark();
+    QMXOdbAttrEO2_finalize(tally);
+    Strings stopped = frame_StartsAndStops(mark);
+    EXPECT_EQ(stopped.size(), 23u);
+    EXPECT_FALSE(Contains(stopped, "stop QMXOdbKamC"));
+    EXPECT_EQ(QMXOdbKamC_count(), c.before);
+    EXPECT_EQ(tally, 0);
 
-  QMXOdbKamC_finalize(tally);
-  EXPECT_EQ(tally, 0);
-  EXPECT_EQ(QMXOdbKamC_count(), 0);
-}
-
-TEST_F(frame_StoppedLibrary, AFrameworkLibraryStartedDirectlyIsNotStartedAgainByTheLibrary) {
-  int own = 0;
-  QMXRomDiagEx_initialize(own);
-  int tally = 0;
-  QMXOdbAttrEO2_initialize(tally);
-  EXPECT_EQ(tally, kFullTally - 1);
-  EXPECT_EQ(QMXRomDiagEx_count(), 2);
-  QMXOdbAttrEO2_finalize(tally);
-  EXPECT_EQ(tally, 0);
-  EXPECT_EQ(QMXRomDiagEx_count(), 1);
-  QMXRomDiagEx_finalize(own);
-  EXPECT_EQ(own, 0);
-}
-
-// A module stopped behind the library's back (count below zero) stays stopped through a library
-// start, and the library's stop brings it back to where it was.
-TEST_F(frame_StoppedLibrary, AModuleDrivenNegativeIsNotStartedByTheLibrary) {
-  int own = 0;
-  QMXOdbKamC_finalize(own);
-  EXPECT_EQ(QMXOdbKamC_count(), -1);
-  int tally = 0;
-  std::size_t mark = bas_StartJournal::Mark();
-  QMXOdbAttrEO2_initialize(tally);
-  EXPECT_FALSE(Contains(frame_StartsAndStops(mark), "start QMXOdbKamC"));
-  EXPECT_EQ(QMXOdbKamC_count(), 0);
-  EXPECT_EQ(tally, kFullTally - 1);
-  mark = bas_StartJournal::Mark();
-  QMXOdbAttrEO2_finalize(tally);
-  EXPECT_FALSE(Contains(frame_StartsAndStops(mark), "stop QMXOdbKamC"));
-  EXPECT_EQ(QMXOdbKamC_count(), -1);
-  EXPECT_EQ(tally, 0);
-  QMXOdbKamC_initialize(own);
-  EXPECT_EQ(own, 0);
+    (c.ownStart ? QMXOdbKamC_finalize : QMXOdbKamC_initialize)(own);
+    EXPECT_EQ(own, 0);
+  }
 }

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "platform/base/nex_Exception.h"
 #include "platform/base/omu_PrimEnum.h"
 #include "tests/support/qmx_test.h"
@@ -35,6 +37,16 @@ TEST(PrimEnum, StringRefusals) {
     EXPECT_EQ(e.Message(), c.message);
     EXPECT_STREQ(e.File(), kSource);
     EXPECT_EQ(e.Line(), 103);
+  }
+}
+
+// A text with a NUL inside is not its prefix: lookups compare the whole text.
+TEST(PrimEnum, ATextWithAnEmbeddedNulMatchesNoLiteral) {
+  for (const std::string& text : {std::string("USER\0X", 6), std::string("USER\0", 5), std::string("\0USER", 5)}) {
+    SCOPED_TRACE(text.size());
+    auto e = qmx_Catch<nex_CmdError>([&] { Noise n{cow_String(text)}; });
+    EXPECT_EQ(e.Line(), 103);
+    EXPECT_EQ(std::string(e.Message()).rfind("omu_PrimEnum(const cow_String&) - str not allowed: ", 0), 0u);
   }
 }
 

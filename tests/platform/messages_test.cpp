@@ -7,10 +7,6 @@
 namespace {
 
 TEST(SubstituteFormat, PlaceholdersFillInOrder) {
-  struct Case {
-    const char* format;
-    const char* expected;
-  };
   atr_SubstituteFormat two(atr_translate("first %d then %s."));
   two.Substitute(1, 42).Substitute(2, "text");
   EXPECT_EQ(two.Result().Text(), "first 42 then text.");

@@ -1,6 +1,6 @@
 // Round trips through the database file: every registered class, default and filled, through the
-// generic object path; the layout a person sees with the sqlite3 shell; opening changes nothing;
-// upgrade copies a file forward.
+// generic object path and inside model containers (read through their family roots); the layout
+// a person sees with the sqlite3 shell; opening changes nothing; upgrade copies a file forward.
 #include <gtest/gtest.h>
 
 #include <bit>
@@ -13,6 +13,7 @@
 #include "dbfile/dbf_File.h"
 #include "dbfile/dbf_Format.h"
 #include "dbfile/dbf_Roots.h"
+#include "platform/model/mdl_Repository.h"
 #include "platform/base/nex_Exception.h"
 #include "tests/dbfile/dbtT_Files.h"
 #include "tests/dbfile/dbtT_Fill.h"
@@ -65,6 +66,37 @@ TEST_F(DbRoundTrip, EveryRegisteredClassThroughTheGenericObjectPath) {
     ASSERT_EQ(&back[i].object.Class(), roots[i].cls);
     EXPECT_TRUE(roots[i].cls->Equal(back[i].object.Get(), roots[i].object));
     EXPECT_EQ(roots[i].cls->UidOf(back[i].object.Get()), roots[i].cls->UidOf(roots[i].object));
+  }
+}
+
+TEST_F(DbRoundTrip, EveryElementClassInsideTheModelContainers) {
+  ddr_Database db;
+  ddr_Model& model = db.CreateModel("Model-1");
+  std::set<std::string> stored;
+  for (const cow_String& repoName : model.RepositoryNames()) {
+    mdl_Repository* repo = model.ModifyRepository(repoName.view());
+    for (const cls_ClassMetadata* md : cls_ClassRegistrar::Instance().All()) {
+      if (!md->CanConstruct() || !md->IsA(repo->ElementClass())) continue;
+      int fields = 0;
+      repo->InsertNew(std::to_string(repo->Keys().size()), md->NewDefault());
+      repo->InsertNew(std::to_string(repo->Keys().size()), dbtT_NewFilled(*md, fields));
+      stored.insert(md->Name().str());
+    }
+  }
+  EXPECT_TRUE(stored.count("kadC_AdptMeshCtrl"));
+  EXPECT_GE(stored.size(), 3u);
+  EXPECT_TRUE(stored.count("dbtT_Sample"));
+  db.CreateModel("Model-2");  // empty containers
+  dbf_Save(db, Path("models.odb"));
+  ddr_Database back = dbf_Open(Path("models.odb"));
+  EXPECT_TRUE(back == db);
+  EXPECT_EQ(back.ModelNames(), db.ModelNames());
+  // The catalog lists the element classes that were stored, each with its type id and version.
+  for (const std::string& name : stored) {
+    const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByName(name);
+    EXPECT_EQ(dbtT_Query(Path("models.odb"), "SELECT typeId || '/' || version FROM dbf_Catalog WHERE name = '" + name + "'"),
+              std::to_string(md->TypeId()) + "/" + std::to_string(md->Version()))
+        << name;
   }
 }
 

@@ -45,18 +45,21 @@ struct HexTable {
 };
 constexpr HexTable kHex;
 
-// A uid as its 32 lower-case hex digits; one test for a bad digit at the end, not one per digit.
+// A uid as its 32 lower-case hex digits; one test for a bad digit at the end, not one per digit,
+// and the two halves built side by side in registers.
 bool ParseUid(std::string_view t, cls_Uid& out) {
   if (t.size() != 32) return false;
-  std::uint64_t half[2] = {0, 0};
+  const auto* p = reinterpret_cast<const unsigned char*>(t.data());
+  std::uint64_t high = 0, low = 0;
   unsigned bad = 0;
-  for (std::size_t i = 0; i < 32; ++i) {
-    const unsigned d = kHex.value[static_cast<unsigned char>(t[i])];
-    bad |= d;
-    half[i / 16] = (half[i / 16] << 4) | (d & 0xF);
+  for (std::size_t i = 0; i < 16; ++i) {
+    const unsigned h = kHex.value[p[i]], l = kHex.value[p[16 + i]];
+    bad |= h | l;
+    high = (high << 4) | (h & 0xF);
+    low = (low << 4) | (l & 0xF);
   }
   if (bad & 0xF0) return false;
-  out = cls_Uid(half[0], half[1]);
+  out = cls_Uid(high, low);
   return true;
 }
 
@@ -146,17 +149,25 @@ void dbf_Reader::CheckFile(const std::string& path) {
 void dbf_Reader::VerifyPages(std::ifstream& in, std::uint32_t pageSize, std::uintmax_t pages) {
   // SQLite never writes the page that holds the byte at offset 2^30 (its lock byte).
   const std::uintmax_t lockPage = (std::uintmax_t(1) << 30) / pageSize + 1;
-  std::vector<unsigned char> page(pageSize);
+  // Read a mebibyte of pages at a time: one read call per page would cost more than the checks.
+  const std::uintmax_t perChunk = std::max<std::uintmax_t>(1, (std::uintmax_t(1) << 20) / pageSize);
+  std::vector<unsigned char> chunk(static_cast<std::size_t>(std::min(perChunk, pages) * pageSize));
   in.clear();
   in.seekg(0);
   const std::size_t body = pageSize - dbf_kChecksumBytes;
-  for (std::uintmax_t number = 1; number <= pages; ++number) {
-    if (!in.read(reinterpret_cast<char*>(page.data()), pageSize)) nex_ThrowCmd("the file cannot be read");
-    if (number == lockPage) continue;
-    std::uint64_t stored = 0;
-    for (int i = dbf_kChecksumBytes - 1; i >= 0; --i) stored = (stored << 8) | page[body + static_cast<std::size_t>(i)];
-    if (dbf_PageChecksum(page.data(), body, static_cast<std::int64_t>(number)) != stored)
-      Damaged(std::string("page ") + std::to_string(number) + " fails its checksum");
+  for (std::uintmax_t first = 1; first <= pages; first += perChunk) {
+    const std::uintmax_t count = std::min(perChunk, pages - first + 1);
+    if (!in.read(reinterpret_cast<char*>(chunk.data()), static_cast<std::streamsize>(count * pageSize)))
+      nex_ThrowCmd("the file cannot be read");
+    for (std::uintmax_t k = 0; k < count; ++k) {
+      const std::uintmax_t number = first + k;
+      if (number == lockPage) continue;
+      const unsigned char* page = chunk.data() + k * pageSize;
+      std::uint64_t stored = 0;
+      for (int i = dbf_kChecksumBytes - 1; i >= 0; --i) stored = (stored << 8) | page[body + static_cast<std::size_t>(i)];
+      if (dbf_PageChecksum(page, body, static_cast<std::int64_t>(number)) != stored)
+        Damaged(std::string("page ") + std::to_string(number) + " fails its checksum");
+    }
   }
 }
 
@@ -261,6 +272,10 @@ void dbf_Reader::ReadCatalog() {
       t->steps = driver_.StepsFor(t->className, t->storedVersion, current);
     }
     for (std::size_t i = 0; i < t->fields.size(); ++i) {
+      if (t->fields[i].type == cls_AttrEnum) {
+        t->fields[i].literals.reserve(dbf_ReadField::kMaxLiterals);
+        t->fields[i].codes.reserve(dbf_ReadField::kMaxLiterals);
+      }
       t->fields[i].key = cow_String(t->fields[i].name);
       t->byName.emplace(t->fields[i].name, i);
     }
@@ -380,7 +395,7 @@ cls_Record dbf_Reader::RawRecord(const dbf_LoadedRow& row) {
       rec.fields.emplace_back(f.name + "#OID", std::move(oids));
       rec.fields.emplace_back(f.name + "#ClassID", std::move(ids));
     } else {
-      rec.fields.emplace_back(f.name, row.values[i]);
+      rec.fields.emplace_back(f.name, ValueOf(row, i));
     }
   }
   return rec;
@@ -449,6 +464,8 @@ void dbf_Reader::Rename(dbf_LoadedRow& row) {
 
 void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) {
   const std::size_t n = t.fields.size();
+  row.cells.resize(n);
+  row.texts.resize(n);
   row.values.resize(n);
   row.refs.clear();
   if (t.hasObjects) row.spans.assign(n, {0, 0});
@@ -459,45 +476,50 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
     // a mutex, so the column's value needs no protected copy.
     sqlite3_value* cv = sqlite3_column_value(s, col);
     const int type = sqlite3_value_type(cv);
-    cls_Value& v = row.values[i];
+    cls_ReadCell& c = row.cells[i];
     switch (f.kind) {
       case dbf_Kind::Int: {
         std::int64_t x = sqlite3_value_int64(cv);
         if (type != SQLITE_INTEGER || x < INT32_MIN || x > INT32_MAX) DamagedField(t, row.oid, f.name, "no 32-bit integer");
-        v = static_cast<std::int32_t>(x);
+        c.integer = x;
         break;
       }
       case dbf_Kind::Double:
-        if (type == SQLITE_FLOAT || type == SQLITE_INTEGER) v = sqlite3_value_double(cv);
-        else if (type == SQLITE_NULL) v = std::numeric_limits<double>::quiet_NaN();
+        if (type == SQLITE_FLOAT || type == SQLITE_INTEGER) c.number = sqlite3_value_double(cv);
+        else if (type == SQLITE_NULL) c.number = std::numeric_limits<double>::quiet_NaN();
         else DamagedField(t, row.oid, f.name, "no number");
         break;
       case dbf_Kind::Bool: {
         std::int64_t x = sqlite3_value_int64(cv);
         if (type != SQLITE_INTEGER || (x != 0 && x != 1)) DamagedField(t, row.oid, f.name, "no boolean");
-        v = x == 1;
+        c.integer = x;
         break;
       }
       case dbf_Kind::Text: {
         if (type != SQLITE_TEXT) DamagedField(t, row.oid, f.name, "no text");
         std::string_view text = Text(cv);
-        if (f.type != cls_AttrEnum) {
-          CheckUtf8(t, row.oid, f, text);
-          v = cow_String(text);
-          break;
-        }
-        // Enumeration literals repeat from row to row: share one string per literal.
-        const cow_String* known = nullptr;
-        for (const auto& lit : f.literals)
-          if (lit.view() == text) known = &lit;
-        if (known) {
-          v = *known;
+        c.code = nullptr;
+        if (f.type == cls_AttrEnum) {
+          // Enumeration literals repeat from row to row: one string per literal, shared.
+          std::size_t k = 0;
+          while (k < f.literals.size() && f.literals[k].view() != text) ++k;
+          if (k == f.literals.size()) {
+            CheckUtf8(t, row.oid, f, text);  // a literal met again was checked when first met
+            if (k < dbf_ReadField::kMaxLiterals) {
+              f.literals.emplace_back(text);
+              f.codes.emplace_back();
+            }
+          }
+          if (k < f.literals.size()) {
+            c.text = &f.literals[k];
+            c.code = &f.codes[k];
+            break;
+          }
         } else {
-          CheckUtf8(t, row.oid, f, text);  // a literal met again was checked when first met
-          cow_String lit(text);
-          if (f.literals.size() < 64) f.literals.push_back(lit);
-          v = std::move(lit);
+          CheckUtf8(t, row.oid, f, text);
         }
+        row.texts[i] = cow_String(text);
+        c.text = &row.texts[i];
         break;
       }
       case dbf_Kind::Table: {
@@ -505,7 +527,8 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
         if (type != SQLITE_BLOB ||
             !dbf_DecodeTable(sqlite3_value_blob(cv), static_cast<std::size_t>(sqlite3_value_bytes(cv)), table))
           DamagedField(t, row.oid, f.name, "no table of doubles");
-        v = std::move(table);
+        row.values[i] = std::move(table);
+        c.value = &row.values[i];
         break;
       }
       case dbf_Kind::Object: {
@@ -521,12 +544,13 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
         }
         row.spans[i] = {static_cast<std::uint32_t>(row.refs.size()), 1};
         row.refs.push_back(ref);
-        v = std::monostate{};
         break;
       }
       default: {  // lists, stored as JSON text
         if (type != SQLITE_TEXT) DamagedField(t, row.oid, f.name, "no list text");
         std::string_view text = Text(cv);
+        cls_Value& v = row.values[i];
+        c.value = &v;
         bool ok = false;
         switch (f.kind) {
           case dbf_Kind::IntList: ok = dbf_ParseIntList(text, v.emplace<std::vector<std::int32_t>>()); break;
@@ -538,17 +562,45 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
               for (const cow_String& e : std::get<std::vector<cow_String>>(v)) CheckUtf8(t, row.oid, f, e.view());
             break;
           default: {
-            std::vector<dbf_Ref> refs;
-            ok = dbf_ParseRefList(text, refs);
-            row.spans[i] = {static_cast<std::uint32_t>(row.refs.size()), static_cast<std::uint32_t>(refs.size())};
-            row.refs.insert(row.refs.end(), refs.begin(), refs.end());
+            // The first list of a row is parsed straight into the row's references.
+            if (row.refs.empty()) {
+              ok = dbf_ParseRefList(text, row.refs);
+              row.spans[i] = {0, static_cast<std::uint32_t>(row.refs.size())};
+            } else {
+              std::vector<dbf_Ref> refs;
+              ok = dbf_ParseRefList(text, refs);
+              row.spans[i] = {static_cast<std::uint32_t>(row.refs.size()), static_cast<std::uint32_t>(refs.size())};
+              row.refs.insert(row.refs.end(), refs.begin(), refs.end());
+            }
             v = std::monostate{};
+            c.value = nullptr;
           }
         }
         if (!ok) DamagedField(t, row.oid, f.name, "malformed list text");
       }
     }
   }
+}
+
+cls_Value dbf_Reader::ValueOf(const dbf_LoadedRow& row, std::size_t i) {
+  const cls_ReadCell& c = row.cells[i];
+  switch (row.table->fields[i].kind) {
+    case dbf_Kind::Int: return static_cast<std::int32_t>(c.integer);
+    case dbf_Kind::Double: return c.number;
+    case dbf_Kind::Bool: return c.integer != 0;
+    case dbf_Kind::Text: return *c.text;
+    default: return row.values[i];
+  }
+}
+
+bool dbf_Reader::Positional(dbf_ReadTable& t, const cls_FieldLayout& layout) {
+  for (const auto& [known, matches] : t.layouts)
+    if (known == &layout) return matches;
+  bool matches = !t.upgrade && !t.rename && t.fields.size() == layout.count;
+  for (std::size_t i = 0; matches && i < layout.count; ++i)
+    matches = t.fields[i].type == layout.types[i] && t.fields[i].name == layout.names[i];
+  t.layouts.emplace_back(&layout, matches);
+  return matches;
 }
 
 // The row as a record at its stored version, member objects as stub records of their classes,
@@ -575,7 +627,7 @@ void dbf_Reader::Upgrade(dbf_LoadedRow& row) {
       for (std::uint32_t k = 0; k < row.spans[i].second; ++k) list.push_back(stub(row.refs[row.spans[i].first + k]));
       up->record.fields.emplace_back(f.key, std::move(list));
     } else {
-      up->record.fields.emplace_back(f.key, std::move(row.values[i]));
+      up->record.fields.emplace_back(f.key, ValueOf(row, i));
     }
   }
   dbc_UpgradeDriver::Run(t.steps, up->record);

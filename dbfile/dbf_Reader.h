@@ -31,7 +31,11 @@ struct dbf_ReadField {
   int type = 0;  // attribute type as stored
   dbf_Kind kind = dbf_Kind::Int;
   int column = 0;  // the first result column of the field
-  std::vector<cow_String> literals;  // enumeration literals seen so far, shared by every row
+  // Enumeration literals seen so far, shared by every row, each with its value once a class has
+  // read it; at most kMaxLiterals, reserved so that rows may point at them.
+  std::vector<cow_String> literals;
+  std::vector<cls_LiteralCode> codes;
+  static constexpr std::size_t kMaxLiterals = 64;
 };
 
 struct dbf_ReadTable {
@@ -49,6 +53,9 @@ struct dbf_ReadTable {
   dbf_Statement scan;   // every row in OID order
   dbf_Statement point;  // one row by OID, prepared from pointSql when first needed
   std::string pointSql;
+  // The field layouts of classes that asked to read rows by position, each with whether the
+  // stored fields are exactly that layout (a current-version table stored in the same order).
+  std::vector<std::pair<const cls_FieldLayout*, bool>> layouts;
   bool scanStarted = false;
   bool scanDone = false;
   std::int64_t scanOid = 0;
@@ -70,7 +77,12 @@ struct dbf_LoadedRow {
   dbf_ReadTable* table = nullptr;
   std::int64_t oid = 0;
   cls_Uid uid = cls_Uid::Null();
-  std::vector<cls_Value> values;  // by stored field; objects are in refs
+  // By stored field: plain values in cells, which point at the row's texts (or a literal of the
+  // table) and at its lists and tables in values; objects are in refs. A row is never copied,
+  // so the cells' pointers stay valid until its next load.
+  std::vector<cls_ReadCell> cells;
+  std::vector<cow_String> texts;
+  std::vector<cls_Value> values;
   std::vector<dbf_Ref> refs;
   std::vector<std::pair<std::uint32_t, std::uint32_t>> spans;  // by stored field: first ref, count
   std::unique_ptr<Upgraded> upgraded;  // set when the row was stored at an older version
@@ -104,6 +116,10 @@ class dbf_Reader {
   static constexpr int kMaxDepth = 256;
   // Today's type id of a stored class id.
   unsigned CurrentTypeId(std::uint32_t storedClassId) const;
+  // Whether the table's rows, as stored, hold exactly the layout's fields in its order.
+  static bool Positional(dbf_ReadTable& t, const cls_FieldLayout& layout);
+  // A stored field of a loaded row as a record value.
+  static cls_Value ValueOf(const dbf_LoadedRow& row, std::size_t field);
 
  private:
   void CheckFile(const std::string& path);

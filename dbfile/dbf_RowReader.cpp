@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <string>
+#include <type_traits>
 
 #include "platform/base/nex_Exception.h"
 
@@ -32,16 +33,6 @@ const cls_Value* dbf_RowReader::FindUpgraded(const char* name) const {
   return nullptr;
 }
 
-const cls_Value* dbf_RowReader::Find(const char* name) const {
-  if (row_.upgraded) return FindUpgraded(name);
-  long i = Index(name);
-  if (i < 0) return nullptr;
-  dbf_Kind kind = row_.table->fields[static_cast<std::size_t>(i)].kind;
-  if (kind == dbf_Kind::Object || kind == dbf_Kind::ObjectList)
-    Refuse(name, kind == dbf_Kind::Object ? "an object" : "a list of objects", "plain value");
-  return &row_.values[static_cast<std::size_t>(i)];
-}
-
 void dbf_RowReader::Refuse(const char* name, const char* holds, const char* kind) const {
   nex_ThrowCmd(std::string("the field \"") + std::string(name) + "\" of row " + std::to_string(row_.oid) + " of class " +
                row_.table->className + " holds " + holds + ", not " + cls_WithArticle(kind));
@@ -52,14 +43,67 @@ bool dbf_RowReader::Has(const char* name) const {
   return Index(name) >= 0;
 }
 
+namespace {
+
+// What a stored field holds, as the refusals name it.
+const char* KindName(dbf_Kind kind) {
+  switch (kind) {
+    case dbf_Kind::Int: return "int";
+    case dbf_Kind::Double: return "double";
+    case dbf_Kind::Bool: return "bool";
+    case dbf_Kind::Text: return "string";
+    case dbf_Kind::IntList: return "list of ints";
+    case dbf_Kind::DoubleList: return "list of doubles";
+    case dbf_Kind::BoolList: return "list of bools";
+    case dbf_Kind::TextList: return "list of strings";
+    case dbf_Kind::Table: return "table of doubles";
+    case dbf_Kind::Object: return "object";
+    case dbf_Kind::ObjectList: return "list of objects";
+  }
+  return "value";
+}
+
+}  // namespace
+
 template <class T>
-const T& dbf_RowReader::Get(const char* name, const char* kind) const {
-  const cls_Value* v = Find(name);
-  if (!v)
-    nex_ThrowCmd(std::string("row ") + std::to_string(row_.oid) + " of class " + row_.table->className + " has no field \"" + name + "\"");
-  const T* t = std::get_if<T>(v);
-  if (!t) Refuse(name, cls_WithArticle(cls_ValueKindName(*v)).c_str(), kind);
-  return *t;
+T dbf_RowReader::Get(const char* name, const char* kind) const {
+  if (row_.upgraded) {
+    const cls_Value* v = FindUpgraded(name);
+    if (!v)
+      nex_ThrowCmd(std::string("row ") + std::to_string(row_.oid) + " of class " + row_.table->className +
+                   " has no field \"" + name + "\"");
+    const T* t = std::get_if<T>(v);
+    if (!t) Refuse(name, cls_WithArticle(cls_ValueKindName(*v)).c_str(), kind);
+    return *t;
+  }
+  const long found = Index(name);
+  if (found < 0)
+    nex_ThrowCmd(std::string("row ") + std::to_string(row_.oid) + " of class " + row_.table->className + " has no field \"" +
+                 name + "\"");
+  const auto i = static_cast<std::size_t>(found);
+  const dbf_Kind stored = row_.table->fields[i].kind;
+  if (stored == dbf_Kind::Object || stored == dbf_Kind::ObjectList)
+    Refuse(name, stored == dbf_Kind::Object ? "an object" : "a list of objects", "plain value");
+  const cls_ReadCell& c = row_.cells[i];
+  if constexpr (std::is_same_v<T, std::int32_t>) {
+    if (stored == dbf_Kind::Int) return static_cast<std::int32_t>(c.integer);
+  } else if constexpr (std::is_same_v<T, double>) {
+    if (stored == dbf_Kind::Double) return c.number;
+  } else if constexpr (std::is_same_v<T, bool>) {
+    if (stored == dbf_Kind::Bool) return c.integer != 0;
+  } else if constexpr (std::is_same_v<T, cow_String>) {
+    if (stored == dbf_Kind::Text) return *c.text;
+  } else {
+    if (c.value && stored != dbf_Kind::Int && stored != dbf_Kind::Double && stored != dbf_Kind::Bool &&
+        stored != dbf_Kind::Text)
+      if (const T* t = std::get_if<T>(c.value)) return *t;
+  }
+  Refuse(name, cls_WithArticle(KindName(stored)).c_str(), kind);
+}
+
+const cls_ReadCell* dbf_RowReader::Positional(const cls_FieldLayout& layout) const {
+  if (row_.upgraded || row_.cells.empty() || !dbf_Reader::Positional(*row_.table, layout)) return nullptr;
+  return row_.cells.data();
 }
 
 std::int32_t dbf_RowReader::ReadInt(const char* name) const { return Get<std::int32_t>(name, "int"); }

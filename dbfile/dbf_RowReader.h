@@ -24,14 +24,14 @@ class dbf_RowReader final : public cls_ReadVisitor {
   cow_2DArray<double> ReadDoubleTable(const char* name) const override;
   bool ReadObject(const char* name, const cls_ReadFn& fn) const override;
   std::size_t ReadObjectList(const char* name, const cls_ReadListFn& fn) const override;
+  const cls_ReadCell* Positional(const cls_FieldLayout& layout) const override;
 
  private:
   // The stored field's index, or -1.
   long Index(const char* name) const;
-  const cls_Value* Find(const char* name) const;
   const cls_Value* FindUpgraded(const char* name) const;
   template <class T>
-  const T& Get(const char* name, const char* kind) const;
+  T Get(const char* name, const char* kind) const;
   [[noreturn]] void Refuse(const char* name, const char* holds, const char* kind) const;
   // Loads the referenced row and calls fn with its reader.
   template <class F>

@@ -1,5 +1,6 @@
 #include "dbfile/dbf_RowWriter.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -44,14 +45,36 @@ bool dbf_RowWriter::StartWrite(unsigned typeId, const cls_Uid& uid) const {
   table_ = &t;
   oid_ = t.nextOid++;
   HexUid(uid, uid_);
-  if (cells_.size() < t.fields.size()) cells_.resize(t.fields.size());
+  if (cells_.size() < t.fields.size()) {
+    cells_.resize(t.fields.size());
+    plain_.resize(t.fields.size());
+  }
   written_.assign(t.fields.size(), 0);
   cursor_ = 0;
   return true;
 }
 
+cls_WriteCell* dbf_RowWriter::Positional(const cls_FieldLayout& layout) const {
+  if (!table_) return nullptr;
+  dbf_WriteTable& t = *table_;
+  const auto known = std::find_if(t.layouts.begin(), t.layouts.end(), [&](const auto& l) { return l.first == &layout; });
+  bool matches;
+  if (known != t.layouts.end()) {
+    matches = known->second;
+  } else {
+    matches = t.fields.size() == layout.count;
+    for (std::size_t i = 0; matches && i < layout.count; ++i)
+      matches = t.cls->Attributes()[i].type == layout.types[i] && t.fields[i].name == layout.names[i] &&
+                (!layout.cells[i] || t.plain[i]);
+    t.layouts.emplace_back(&layout, matches);
+  }
+  if (!matches) return nullptr;
+  for (std::size_t i = 0; i < t.fields.size(); ++i) written_[i] = static_cast<char>(written_[i] | layout.cells[i]);
+  return plain_.data();
+}
+
 // Fields come in the order of the class's attributes, so the next one is tried first.
-dbf_RowWriter::Cell& dbf_RowWriter::Slot(const char* name, dbf_Kind kind) const {
+std::size_t dbf_RowWriter::Slot(const char* name, dbf_Kind kind) const {
   if (!table_) nex_ThrowCmd(std::string("the field \"") + name + "\" was written before its object started a record");
   const auto& fields = table_->fields;
   std::size_t i = cursor_;
@@ -67,42 +90,49 @@ dbf_RowWriter::Cell& dbf_RowWriter::Slot(const char* name, dbf_Kind kind) const 
   if (written_[i]) nex_ThrowCmd("class " + ClassName() + " wrote its field \"" + name + "\" twice");
   written_[i] = 1;
   cursor_ = i + 1;
-  return cells_[i];
+  return i;
 }
 
-void dbf_RowWriter::WriteInt(const char* name, std::int32_t v) const { Slot(name, dbf_Kind::Int).i = v; }
-void dbf_RowWriter::WriteDouble(const char* name, double v) const { Slot(name, dbf_Kind::Double).d = v; }
-void dbf_RowWriter::WriteBool(const char* name, bool v) const { Slot(name, dbf_Kind::Bool).i = v ? 1 : 0; }
-void dbf_RowWriter::WriteString(const char* name, const cow_String& v) const { Slot(name, dbf_Kind::Text).text = v; }
+void dbf_RowWriter::WriteInt(const char* name, std::int32_t v) const { plain_[Slot(name, dbf_Kind::Int)].integer = v; }
+void dbf_RowWriter::WriteDouble(const char* name, double v) const { plain_[Slot(name, dbf_Kind::Double)].number = v; }
+void dbf_RowWriter::WriteBool(const char* name, bool v) const {
+  plain_[Slot(name, dbf_Kind::Bool)].integer = v ? 1 : 0;
+}
+void dbf_RowWriter::WriteString(const char* name, const cow_String& v) const {
+  const std::size_t i = Slot(name, dbf_Kind::Text);
+  cells_[i].hold = v;
+  plain_[i].text = v.c_str();
+  plain_[i].size = v.size();
+}
 
 void dbf_RowWriter::WriteIntList(const char* name, const std::vector<std::int32_t>& v) const {
-  Cell& c = Slot(name, dbf_Kind::IntList);
+  Cell& c = cells_[Slot(name, dbf_Kind::IntList)];
   c.bytes.clear();
   dbf_AppendIntList(c.bytes, v);
 }
 void dbf_RowWriter::WriteDoubleList(const char* name, const std::vector<double>& v) const {
-  Cell& c = Slot(name, dbf_Kind::DoubleList);
+  Cell& c = cells_[Slot(name, dbf_Kind::DoubleList)];
   c.bytes.clear();
   dbf_AppendDoubleList(c.bytes, v);
 }
 void dbf_RowWriter::WriteStringList(const char* name, const std::vector<cow_String>& v) const {
-  Cell& c = Slot(name, dbf_Kind::TextList);
+  Cell& c = cells_[Slot(name, dbf_Kind::TextList)];
   c.bytes.clear();
   dbf_AppendTextList(c.bytes, v);
 }
 void dbf_RowWriter::WriteBoolList(const char* name, const std::vector<bool>& v) const {
-  Cell& c = Slot(name, dbf_Kind::BoolList);
+  Cell& c = cells_[Slot(name, dbf_Kind::BoolList)];
   c.bytes.clear();
   dbf_AppendBoolList(c.bytes, v);
 }
 void dbf_RowWriter::WriteDoubleTable(const char* name, const cow_2DArray<double>& v) const {
-  dbf_EncodeTable(v, Slot(name, dbf_Kind::Table).bytes);
+  dbf_EncodeTable(v, cells_[Slot(name, dbf_Kind::Table)].bytes);
 }
 
-void dbf_RowWriter::WriteNull(const char* name) const { Slot(name, dbf_Kind::Object).ref = dbf_Ref{}; }
+void dbf_RowWriter::WriteNull(const char* name) const { cells_[Slot(name, dbf_Kind::Object)].ref = dbf_Ref{}; }
 
 void dbf_RowWriter::WriteObject(const char* name, const void* obj, cls_WriteFn fn) const {
-  Cell& c = Slot(name, dbf_Kind::Object);
+  Cell& c = cells_[Slot(name, dbf_Kind::Object)];
   c.ref = dbf_Ref{};
   if (!obj) return;
   dbf_RowWriter& child = writer_.WriterAt(depth_ + 1);
@@ -111,7 +141,7 @@ void dbf_RowWriter::WriteObject(const char* name, const void* obj, cls_WriteFn f
 }
 
 void dbf_RowWriter::WriteObjectList(const char* name, const std::vector<const void*>& objs, cls_WriteFn fn) const {
-  Cell& c = Slot(name, dbf_Kind::ObjectList);
+  Cell& c = cells_[Slot(name, dbf_Kind::ObjectList)];
   c.bytes.clear();
   c.bytes += '[';
   dbf_RowWriter& child = writer_.WriterAt(depth_ + 1);
@@ -137,15 +167,16 @@ dbf_Ref dbf_RowWriter::Finish() {
   sqlite3_bind_text(s, 2, uid_, 32, SQLITE_STATIC);
   for (std::size_t i = 0; i < fields.size(); ++i) {
     const Cell& c = cells_[i];
+    const cls_WriteCell& v = plain_[i];
     const int p = fields[i].param;
     switch (fields[i].kind) {
       case dbf_Kind::Int:
-      case dbf_Kind::Bool: sqlite3_bind_int64(s, p, c.i); break;
+      case dbf_Kind::Bool: sqlite3_bind_int64(s, p, v.integer); break;
       case dbf_Kind::Double:
-        if (std::isnan(c.d)) sqlite3_bind_null(s, p);  // SQLite would store NULL anyway
-        else sqlite3_bind_double(s, p, c.d);
+        if (std::isnan(v.number)) sqlite3_bind_null(s, p);  // SQLite would store NULL anyway
+        else sqlite3_bind_double(s, p, v.number);
         break;
-      case dbf_Kind::Text: sqlite3_bind_text(s, p, c.text.c_str(), static_cast<int>(c.text.size()), SQLITE_STATIC); break;
+      case dbf_Kind::Text: sqlite3_bind_text(s, p, v.text, static_cast<int>(v.size), SQLITE_STATIC); break;
       case dbf_Kind::Table: sqlite3_bind_blob(s, p, c.bytes.data(), static_cast<int>(c.bytes.size()), SQLITE_STATIC); break;
       case dbf_Kind::Object:
         if (c.ref.oid == 0) {

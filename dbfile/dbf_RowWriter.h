@@ -26,20 +26,21 @@ class dbf_RowWriter final : public cls_WriteVisitor {
   void WriteNull(const char* name) const override;
   void WriteObject(const char* name, const void* obj, cls_WriteFn fn) const override;
   void WriteObjectList(const char* name, const std::vector<const void*>& objs, cls_WriteFn fn) const override;
+  cls_WriteCell* Positional(const cls_FieldLayout& layout) const override;
 
   // Stores the row written since StartWrite and returns its reference. Refuses an object that
   // started no record or left a declared field unwritten.
   dbf_Ref Finish();
 
  private:
+  // By field: plain values in plain_ (texts as bytes that live until Finish: a string written by
+  // name is held in hold), the rest in Cell.
   struct Cell {
-    std::int64_t i = 0;
-    double d = 0;
-    cow_String text;
+    cow_String hold;
     std::string bytes;  // list text and table blobs
     dbf_Ref ref;
   };
-  Cell& Slot(const char* name, dbf_Kind kind) const;
+  std::size_t Slot(const char* name, dbf_Kind kind) const;
   std::string ClassName() const;
 
   dbf_Writer& writer_;
@@ -47,6 +48,7 @@ class dbf_RowWriter final : public cls_WriteVisitor {
   mutable dbf_WriteTable* table_ = nullptr;
   mutable std::int64_t oid_ = 0;
   mutable char uid_[32] = {};
+  mutable std::vector<cls_WriteCell> plain_;
   mutable std::vector<Cell> cells_;
   mutable std::vector<char> written_;
   mutable std::size_t cursor_ = 0;

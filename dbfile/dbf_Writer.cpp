@@ -102,6 +102,8 @@ dbf_WriteTable& dbf_Writer::CreateTable(const cls_ClassMetadata& cls) {
       names += ", " + dbf_Quote(name);
     }
     table->fields.push_back(dbf_WriteField{std::move(name), kind, param});
+    table->plain.push_back(kind == dbf_Kind::Int || kind == dbf_Kind::Double || kind == dbf_Kind::Bool ||
+                           kind == dbf_Kind::Text);
     param += kind == dbf_Kind::Object ? 2 : 1;
   }
   for (std::size_t i = 0; i < table->fields.size(); ++i) table->byName.emplace(table->fields[i].name, i);

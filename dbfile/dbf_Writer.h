@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "platform/persist/cls_ClassMetadata.h"
+#include "platform/persist/cls_Visitor.h"
 #include "dbfile/dbf_Format.h"
 #include "dbfile/dbf_ListText.h"
 #include "dbfile/dbf_Sqlite.h"
@@ -29,6 +30,10 @@ struct dbf_WriteTable {
   const cls_ClassMetadata* cls = nullptr;
   std::vector<dbf_WriteField> fields;
   std::unordered_map<std::string_view, std::size_t> byName;  // views into fields' names
+  std::vector<char> plain;  // by field: whether its kind is written into a plain cell
+  // The field layouts classes offered to write by position, each with whether it is exactly
+  // this table's fields in order.
+  std::vector<std::pair<const cls_FieldLayout*, bool>> layouts;
   dbf_Statement insert;
   std::int64_t nextOid = 1;
   std::int64_t rows = 0;

@@ -2,6 +2,7 @@
 // The generic half of the one-declaration-per-class pattern: given a class's field table, this
 // writes, reads, compares, registers metadata and offers scripting access. Include it only from
 // a class's .cpp file, which instantiates what the class needs.
+#include <array>
 #include <cstddef>
 #include <set>
 #include <string>
@@ -56,21 +57,64 @@ struct fw_MemberType<fw_Field<C, M>> {
 
 // --- the class operations -----------------------------------------------------------------------
 
-// Starts the record (which the visitor may decline) and writes every field in table order.
+// The field table as a visitor sees it: persistent names and attribute types, in write order.
+template <class C>
+struct fw_Layout {
+  static constexpr std::size_t kCount = std::tuple_size_v<decltype(C::Fields())>;
+  static constexpr std::array<const char*, kCount> kNames =
+      std::apply([](const auto&... f) { return std::array<const char*, kCount>{f.name...}; }, C::Fields());
+  static constexpr std::array<int, kCount> kTypes = std::apply(
+      [](const auto&... f) {
+        return std::array<int, kCount>{fw_Traits<typename fw_MemberType<std::remove_cvref_t<decltype(f)>>::type>::kType...};
+      },
+      C::Fields());
+  static constexpr std::array<bool, kCount> kCells = std::apply(
+      [](const auto&... f) {
+        return std::array<bool, kCount>{
+            requires(cls_WriteCell& c, const typename fw_MemberType<std::remove_cvref_t<decltype(f)>>::type& m) {
+              fw_Traits<typename fw_MemberType<std::remove_cvref_t<decltype(f)>>::type>::WriteCell(c, m);
+            }...};
+      },
+      C::Fields());
+  static constexpr cls_FieldLayout kLayout{kCount, kNames.data(), kTypes.data(), kCells.data()};
+};
+
+template <class C, class F>
+void fw_WriteAt(const C& obj, const cls_WriteVisitor& w, const F& f, cls_WriteCell* cells, std::size_t i) {
+  using M = typename fw_MemberType<F>::type;
+  using Tr = fw_Traits<M>;
+  if constexpr (requires(cls_WriteCell& c, const M& m) { Tr::WriteCell(c, m); }) {  // as fw_Layout's kCells
+    if (cells) return Tr::WriteCell(cells[i], obj.*(f.member));
+  }
+  Tr::Write(w, f.name, obj.*(f.member));
+}
+
+template <class C, class F>
+void fw_ReadAt(C& obj, const cls_ReadVisitor& r, const F& f, const cls_ReadCell& cell) {
+  using Tr = fw_Traits<typename fw_MemberType<F>::type>;
+  if constexpr (requires { Tr::ReadCell(f.name, cell, obj.*(f.member)); }) Tr::ReadCell(f.name, cell, obj.*(f.member));
+  else Tr::Read(r, f.name, obj.*(f.member));
+}
+
+// Starts the record (which the visitor may decline) and writes every field in table order:
+// plain fields into the visitor's cells when it offers them for this table, the rest by name.
 template <class C>
 void fw_WriteFields(const C& obj, const cls_WriteVisitor& w) {
   if (!w.StartWrite(C::TypeId(), obj.GetUid())) return;
-  std::apply(
-      [&](const auto&... f) {
-        (fw_Traits<typename fw_MemberType<std::remove_cvref_t<decltype(f)>>::type>::Write(w, f.name, obj.*(f.member)),
-         ...);
-      },
-      C::Fields());
+  cls_WriteCell* cells = w.Positional(fw_Layout<C>::kLayout);
+  std::size_t i = 0;
+  std::apply([&](const auto&... f) { (fw_WriteAt(obj, w, f, cells, i++), ...); }, C::Fields());
 }
 
-// Reads every field by its persistent name (the uid is taken by the reading constructor).
+// Reads every field (the uid is taken by the reading constructor): by position when the visitor
+// holds the row exactly as the table lists it, by persistent name otherwise.
 template <class C>
 void fw_ReadFields(C& obj, const cls_ReadVisitor& r) {
+  if (const cls_ReadCell* cells = r.Positional(fw_Layout<C>::kLayout)) {
+    std::size_t i = 0;
+    std::apply([&](const auto&... f) { (fw_ReadAt(obj, r, f, cells[i++]), ...); }, C::Fields());
+    return;
+  }
   std::apply(
       [&](const auto&... f) {
         (fw_Traits<typename fw_MemberType<std::remove_cvref_t<decltype(f)>>::type>::Read(r, f.name, obj.*(f.member)),

@@ -60,6 +60,8 @@ struct fw_Traits<std::int32_t> {
   static constexpr int kType = cls_AttrInt, kCollection = cls_Single;
   static void Write(const cls_WriteVisitor& w, const char* n, std::int32_t v) { w.WriteInt(n, v); }
   static void Read(const cls_ReadVisitor& r, const char* n, std::int32_t& v) { v = r.ReadInt(n); }
+  static void ReadCell(const char*, const cls_ReadCell& c, std::int32_t& v) { v = static_cast<std::int32_t>(c.integer); }
+  static void WriteCell(cls_WriteCell& c, std::int32_t v) { c.integer = v; }
   static bool Equal(std::int32_t a, std::int32_t b) { return a == b; }
   static cls_Value Get(std::int32_t v) { return v; }
   static void Set(const char* n, std::int32_t& m, const cls_Value& v) {
@@ -73,6 +75,8 @@ struct fw_Traits<double> {
   static constexpr int kType = cls_AttrDouble, kCollection = cls_Single;
   static void Write(const cls_WriteVisitor& w, const char* n, double v) { w.WriteDouble(n, v); }
   static void Read(const cls_ReadVisitor& r, const char* n, double& v) { v = r.ReadDouble(n); }
+  static void ReadCell(const char*, const cls_ReadCell& c, double& v) { v = c.number; }
+  static void WriteCell(cls_WriteCell& c, double v) { c.number = v; }
   // NaN equals NaN here, so that an object holding one still equals its own copy.
   static bool Equal(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); }
   static cls_Value Get(double v) { return v; }
@@ -88,6 +92,8 @@ struct fw_Traits<bool> {
   static constexpr int kType = cls_AttrBool, kCollection = cls_Single;
   static void Write(const cls_WriteVisitor& w, const char* n, bool v) { w.WriteBool(n, v); }
   static void Read(const cls_ReadVisitor& r, const char* n, bool& v) { v = r.ReadBool(n); }
+  static void ReadCell(const char*, const cls_ReadCell& c, bool& v) { v = c.integer != 0; }
+  static void WriteCell(cls_WriteCell& c, bool v) { c.integer = v ? 1 : 0; }
   static bool Equal(bool a, bool b) { return a == b; }
   static cls_Value Get(bool v) { return v; }
   static void Set(const char* n, bool& m, const cls_Value& v) {
@@ -101,6 +107,11 @@ struct fw_Traits<cow_String> {
   static constexpr int kType = cls_AttrString, kCollection = cls_Single;
   static void Write(const cls_WriteVisitor& w, const char* n, const cow_String& v) { w.WriteString(n, v); }
   static void Read(const cls_ReadVisitor& r, const char* n, cow_String& v) { v = r.ReadString(n); }
+  static void ReadCell(const char*, const cls_ReadCell& c, cow_String& v) { v = *c.text; }
+  static void WriteCell(cls_WriteCell& c, const cow_String& v) {
+    c.text = v.c_str();
+    c.size = v.size();
+  }
   static bool Equal(const cow_String& a, const cow_String& b) { return a == b; }
   static cls_Value Get(const cow_String& v) { return v; }
   static void Set(const char* n, cow_String& m, const cls_Value& v) {
@@ -114,6 +125,11 @@ struct fw_Traits<rgnC_Region> {
   static constexpr int kType = cls_AttrRegion, kCollection = cls_Single;
   static void Write(const cls_WriteVisitor& w, const char* n, const rgnC_Region& v) { w.WriteString(n, v.Name()); }
   static void Read(const cls_ReadVisitor& r, const char* n, rgnC_Region& v) { v = rgnC_Region(r.ReadString(n)); }
+  static void ReadCell(const char*, const cls_ReadCell& c, rgnC_Region& v) { v = rgnC_Region(*c.text); }
+  static void WriteCell(cls_WriteCell& c, const rgnC_Region& v) {
+    c.text = v.Name().c_str();
+    c.size = v.Name().size();
+  }
   static bool Equal(const rgnC_Region& a, const rgnC_Region& b) { return a == b; }
   static cls_Value Get(const rgnC_Region& v) { return v.Name(); }
   static void Set(const char* n, rgnC_Region& m, const cls_Value& v) {
@@ -136,6 +152,23 @@ struct fw_Traits<E> {
   }
   static void Write(const cls_WriteVisitor& w, const char* n, E v) { w.WriteString(n, Literal(v)); }
   static void Read(const cls_ReadVisitor& r, const char* n, E& v) { v = omu_PrimEnum<E, 1>(r.ReadString(n)).GetValue(); }
+  // A literal the reader shares between rows is looked up once, and its value kept with it.
+  static void ReadCell(const char*, const cls_ReadCell& c, E& v) {
+    const omu_EnumLiteral* table = omu_LiteralTable(E{});
+    if (c.code && c.code->table == table) return void(v = static_cast<E>(c.code->code));
+    v = omu_PrimEnum<E, 1>(*c.text).GetValue();  // refuses an unknown literal with the enumeration's message
+    if (c.code) *c.code = cls_LiteralCode{table, static_cast<std::int32_t>(v)};
+  }
+  // The literal's text straight from the table, which outlives every write.
+  static void WriteCell(cls_WriteCell& c, E v) {
+    for (const omu_EnumLiteral* l = omu_LiteralTable(E{}); l->text; ++l)
+      if (l->value == static_cast<std::int64_t>(v)) {
+        c.text = l->text;
+        c.size = std::char_traits<char>::length(l->text);
+        return;
+      }
+    omu_PrimEnum<E, 1> refused(v);  // refuses a value outside the enumeration with its message
+  }
   static bool Equal(E a, E b) { return a == b; }
   static cls_Value Get(E v) { return Literal(v); }
   static void Set(const char* n, E& m, const cls_Value& v) { m = FromValue(n, v); }
@@ -151,6 +184,8 @@ struct fw_Traits<fw_OrLiteral<N, E>> {
   static const omu_EnumLiteral* Literals() { return omu_LiteralTable(E{}); }
   static void Write(const cls_WriteVisitor& w, const char* n, const T& v) { fw_Traits<N>::Write(w, n, v.value); }
   static void Read(const cls_ReadVisitor& r, const char* n, T& v) { fw_Traits<N>::Read(r, n, v.value); }
+  static void ReadCell(const char* n, const cls_ReadCell& c, T& v) { fw_Traits<N>::ReadCell(n, c, v.value); }
+  static void WriteCell(cls_WriteCell& c, const T& v) { fw_Traits<N>::WriteCell(c, v.value); }
   static bool Equal(const T& a, const T& b) { return fw_Traits<N>::Equal(a.value, b.value); }
   static cls_Value Get(const T& v) {
     return v.IsLiteral() ? cls_Value(fw_Traits<E>::Literal(E{})) : fw_Traits<N>::Get(v.value);
@@ -167,6 +202,10 @@ struct fw_Traits<cow_2DArray<double>> {
   static constexpr int kType = cls_AttrDoubleTable, kCollection = cls_Array2D;
   static void Write(const cls_WriteVisitor& w, const char* n, const T& v) { w.WriteDoubleTable(n, v); }
   static void Read(const cls_ReadVisitor& r, const char* n, T& v) { v = r.ReadDoubleTable(n); }
+  static void ReadCell(const char* n, const cls_ReadCell& c, T& v) {
+    if (auto p = std::get_if<T>(c.value)) return void(v = *p);
+    fw_RefuseKind(n, *c.value, "a table of numbers");
+  }
   static bool Equal(const T& a, const T& b) { return a == b; }
   static cls_Value Get(const T& v) { return v; }
   static void Set(const char* n, T& m, const cls_Value& v) {
@@ -213,6 +252,10 @@ struct fw_ListTraits {
     else if constexpr (std::is_same_v<Stored, double>) v = FromStored(n, r.ReadDoubleList(n));
     else if constexpr (std::is_same_v<Stored, bool>) v = FromStored(n, r.ReadBoolList(n));
     else v = FromStored(n, r.ReadStringList(n));
+  }
+  static void ReadCell(const char* n, const cls_ReadCell& c, T& v) {
+    if (auto p = std::get_if<std::vector<Stored>>(c.value)) return void(v = FromStored(n, *p));
+    fw_RefuseKind(n, *c.value, cls_AttrTypeName(Type));
   }
   static bool Equal(const T& a, const T& b) {
     if (a.size() != b.size()) return false;

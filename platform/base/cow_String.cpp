@@ -6,12 +6,6 @@
 
 #include "platform/base/bas_Alloc.h"
 
-struct cow_String::Body {
-  std::atomic<int> refs;
-  std::size_t size;
-  char* Data() { return reinterpret_cast<char*>(this + 1); }
-};
-
 
 cow_String::cow_String(const char* s) : cow_String(std::string_view(s ? s : "")) {}
 
@@ -24,30 +18,11 @@ cow_String::cow_String(std::string_view s) {
   body_->Data()[s.size()] = '\0';
 }
 
-cow_String::cow_String(const cow_String& o) noexcept : body_(o.body_) {
-  if (body_) body_->refs.fetch_add(1, std::memory_order_relaxed);
+void cow_String::Free(Body* body) noexcept {
+  body->~Body();
+  mem_Free(body);
 }
 
-cow_String& cow_String::operator=(const cow_String& o) noexcept {
-  cow_String tmp(o);
-  std::swap(body_, tmp.body_);
-  return *this;
-}
-
-cow_String& cow_String::operator=(cow_String&& o) noexcept {
-  std::swap(body_, o.body_);
-  return *this;
-}
-
-cow_String::~cow_String() {
-  if (body_ && body_->refs.fetch_sub(1, std::memory_order_acq_rel) == 1) {
-    body_->~Body();
-    mem_Free(body_);
-  }
-}
-
-const char* cow_String::c_str() const noexcept { return body_ ? body_->Data() : ""; }
-std::size_t cow_String::size() const noexcept { return body_ ? body_->size : 0; }
 int cow_String::UseCount() const noexcept {
   return body_ ? body_->refs.load(std::memory_order_relaxed) : 0;
 }
@@ -57,7 +32,13 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 }  // namespace
 
 int cow_NaturalCompare(std::string_view a, std::string_view b) noexcept {
-  std::size_t i = 0, j = 0;
+  // Keys of one repository mostly share a prefix ("Part-1", "Part-2"): skip it, back to the start
+  // of the run of digits it ends in, since the bytes before that compare equal either way.
+  std::size_t same = 0;
+  const std::size_t shorter = a.size() < b.size() ? a.size() : b.size();
+  while (same < shorter && a[same] == b[same]) ++same;
+  while (same > 0 && IsDigit(a[same - 1])) --same;
+  std::size_t i = same, j = same;
   while (i < a.size() && j < b.size()) {
     if (IsDigit(a[i]) && IsDigit(b[j])) {
       std::size_t si = i, sj = j;

@@ -1,5 +1,6 @@
 #pragma once
 // The framework's reference-counted immutable string: copies share one body.
+#include <atomic>
 #include <compare>
 #include <cstddef>
 #include <iosfwd>
@@ -12,14 +13,27 @@ class cow_String {
   cow_String(const char* s);  // NOLINT: implicit by design, like the framework's
   cow_String(std::string_view s);
   cow_String(const std::string& s) : cow_String(std::string_view(s)) {}
-  cow_String(const cow_String& o) noexcept;
+  // Copies, reads and releases are inline: strings are copied and compared by the million as
+  // files load and repositories sort.
+  cow_String(const cow_String& o) noexcept : body_(o.body_) {
+    if (body_) body_->refs.fetch_add(1, std::memory_order_relaxed);
+  }
   cow_String(cow_String&& o) noexcept : body_(o.body_) { o.body_ = nullptr; }
-  cow_String& operator=(const cow_String& o) noexcept;
-  cow_String& operator=(cow_String&& o) noexcept;
-  ~cow_String();
+  cow_String& operator=(const cow_String& o) noexcept {
+    cow_String tmp(o);
+    std::swap(body_, tmp.body_);
+    return *this;
+  }
+  cow_String& operator=(cow_String&& o) noexcept {
+    std::swap(body_, o.body_);
+    return *this;
+  }
+  ~cow_String() {
+    if (body_ && body_->refs.fetch_sub(1, std::memory_order_acq_rel) == 1) Free(body_);
+  }
 
-  const char* c_str() const noexcept;
-  std::size_t size() const noexcept;
+  const char* c_str() const noexcept { return body_ ? body_->Data() : ""; }
+  std::size_t size() const noexcept { return body_ ? body_->size : 0; }
   bool empty() const noexcept { return size() == 0; }
   std::string_view view() const noexcept { return {c_str(), size()}; }
   std::string str() const { return std::string(view()); }
@@ -36,7 +50,13 @@ class cow_String {
   friend bool operator==(const cow_String& a, const char* b) noexcept { return a.view() == b; }
 
  private:
-  struct Body;
+  // The characters follow the header, NUL-terminated.
+  struct Body {
+    std::atomic<int> refs;
+    std::size_t size;
+    char* Data() noexcept { return reinterpret_cast<char*>(this + 1); }
+  };
+  static void Free(Body* body) noexcept;
   Body* body_ = nullptr;
 };
 

@@ -9,9 +9,45 @@
 #include "platform/persist/cls_Uid.h"
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_String.h"
+#include "platform/persist/cls_Value.h"
 
 class cls_WriteVisitor;
 class cls_ReadVisitor;
+
+// A class's persistent fields as its field table lists them: the key a visitor checks once per
+// stored class before it offers that class's rows by position (no lookups by name).
+struct cls_FieldLayout {
+  std::size_t count = 0;
+  const char* const* names = nullptr;  // persistent names, in write order
+  const int* types = nullptr;          // attribute types
+  const bool* cells = nullptr;         // whether the class writes the field into a plain cell
+};
+
+// One plain field of a row written by position: ints and bools in `integer`, doubles in
+// `number`, texts as bytes that stay valid until the row is stored.
+struct cls_WriteCell {
+  std::int64_t integer = 0;
+  double number = 0;
+  const char* text = "";
+  std::size_t size = 0;
+};
+
+// The value of an enumeration literal that a reader shares between rows, filled in by the first
+// class that reads it, so that each literal is looked up once per file, not once per row.
+struct cls_LiteralCode {
+  const void* table = nullptr;  // the literal table the code belongs to; null until known
+  std::int32_t code = 0;
+};
+
+// One field of a row read by position. Plain values as stored; texts, lists and tables point at
+// values the reader keeps until the row is done; member objects are read by name.
+struct cls_ReadCell {
+  std::int64_t integer = 0;
+  double number = 0;
+  const cow_String* text = nullptr;
+  cls_LiteralCode* code = nullptr;  // for a shared enumeration literal, else null
+  const cls_Value* value = nullptr;  // lists and tables
+};
 
 // Writes one member object (given as an untyped pointer) through a visitor.
 using cls_WriteFn = void (*)(const void* obj, const cls_WriteVisitor& v);
@@ -42,6 +78,13 @@ class cls_WriteVisitor {
   virtual void WriteObject(const char* name, const void* obj, cls_WriteFn fn) const = 0;
   // A list of member objects (null pointers stand for null elements).
   virtual void WriteObjectList(const char* name, const std::vector<const void*>& objs, cls_WriteFn fn) const = 0;
+  // After StartWrite: cells for the plain fields (ints, doubles, bools, texts) by position, when
+  // the record's stored fields are exactly `layout`; the fields the layout marks as cells then
+  // count as written. Null otherwise. The other fields are written by name either way.
+  virtual cls_WriteCell* Positional(const cls_FieldLayout& layout) const {
+    (void)layout;
+    return nullptr;
+  }
 };
 
 class cls_ReadVisitor {
@@ -64,4 +107,10 @@ class cls_ReadVisitor {
   virtual bool ReadObject(const char* name, const cls_ReadFn& fn) const = 0;
   // Calls fn for each element in order; returns the number of elements.
   virtual std::size_t ReadObjectList(const char* name, const cls_ReadListFn& fn) const = 0;
+  // The row's fields by position when they are stored exactly as `layout` lists them; null
+  // otherwise. Member objects are read by name either way.
+  virtual const cls_ReadCell* Positional(const cls_FieldLayout& layout) const {
+    (void)layout;
+    return nullptr;
+  }
 };

@@ -9,8 +9,8 @@
 // BM_UpgradeOpen opens a file whose control rows are one class version old (upgraded through the
 // converter as they are read) against an open of the same file at today's version ("ratio").
 // BM_FirstChangeAfterCopy copies the database (shared, O(1)) and changes one control: the first
-// change separates the model and the control repository, a copy of the repository's key map that
-// shares every element (O(N) handle copies); the counter "ratio" is its cost over a second change.
+// change separates the model, the control repository (its persistent tree stays shared) and the
+// tree's path to the control (O(log N) nodes); the counter "ratio" is its cost over a second change.
 // The program ends with one table of the medians of every ratio.
 // BM_OpenRowsOnly loads the same rows without building objects, to tell the file's share of an
 // open from the classes'. BM_SaveJournal compares the journal modes and page sizes of a whole

@@ -1,5 +1,7 @@
 #pragma once
-// The keyed repositories: copy-on-write objects under keys, in key order. Get for modification
+// The keyed repositories: copy-on-write objects under keys, in key order, in a persistent tree:
+// a copied repository shares it, and its first change copies only the path to the changed key,
+// not one node per element. Get for modification
 // separates a shared element first and records "Modify"; Insert and Remove record theirs, the
 // journal holding the key as text. Persistent fields: "keys" (a list) and "values" (a list of
 // objects). A key policy says what a key is; the names of an instantiation (registered class
@@ -7,7 +9,6 @@
 #include <charconv>
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@
 #include "platform/persist/cls_Record.h"
 #include "platform/persist/cls_TypedMetadata.h"
 #include "platform/base/cow_COW.h"
+#include "platform/base/cow_PersistentMap.h"
 #include "platform/model/mdl_RepositoryFace.h"
 #include "platform/base/nex_Exception.h"
 #include "platform/model/omu_ChangeHistory.h"
@@ -70,7 +72,7 @@ class mdl_KeyedRepository : public mem_Allocated,
   using Key = typename KeyPolicy::Key;
   using Names = NamesT;
   using Handle = cow_COW<T, cow_Virtual<T>>;
-  using Map = std::map<Key, Handle, typename KeyPolicy::Less>;
+  using Map = cow_PersistentMap<Key, Handle, typename KeyPolicy::Less>;
   static constexpr const char* kClassName = NamesT::kClassName;
   static constexpr unsigned TypeId() { return NamesT::TypeId(); }
   static constexpr int kVersion = NamesT::kVersion;
@@ -92,13 +94,21 @@ class mdl_KeyedRepository : public mem_Allocated,
     if (keys.size() != values.size())
       nex_ThrowCmd(std::string("The stored container ") + kClassName + " has " + std::to_string(keys.size()) +
                    " keys for " + std::to_string(values.size()) + " elements");
-    // Keys are stored in the map's order, so each goes at the end: one comparison, not a search.
-    for (std::size_t i = 0; i < keys.size(); ++i) {
-      const std::size_t before = items_.size();
-      auto it = items_.emplace_hint(items_.end(), std::move(keys[i]), std::move(values[i]));
-      if (items_.size() == before)
-        nex_ThrowCmd(std::string("The stored container ") + kClassName + " holds the key " + KeyPolicy::Shown(it->first) +
+    // Keys are stored in the map's order, so the tree is built in one pass, one comparison a key.
+    // Keys out of that order (a file another tool wrote) go in one by one from the first of them.
+    typename Map::Builder sorted;
+    const typename KeyPolicy::Less less;
+    std::size_t i = 0;
+    for (; i < keys.size(); ++i) {
+      if (sorted.Last() && !less(*sorted.Last(), keys[i])) break;
+      sorted.Append(std::move(keys[i]), std::move(values[i]));
+    }
+    items_ = std::move(sorted).Build();
+    for (; i < keys.size(); ++i) {
+      if (items_.count(keys[i]))
+        nex_ThrowCmd(std::string("The stored container ") + kClassName + " holds the key " + KeyPolicy::Shown(keys[i]) +
                      " twice");
+      items_.insert_or_assign(std::move(keys[i]), std::move(values[i]));
     }
   }
   void DBWrite(const cls_WriteVisitor& w) const {
@@ -132,15 +142,14 @@ class mdl_KeyedRepository : public mem_Allocated,
   std::size_t Size() const noexcept { return items_.size(); }
   bool Has(const Key& key) const { return items_.count(key) != 0; }
   const T* ConstGet(const Key& key) const {
-    auto it = items_.find(key);
-    return it == items_.end() ? nullptr : &it->second.Get();
+    const Handle* h = items_.Find(key);
+    return h ? &h->Get() : nullptr;
   }
   // For modification: separates a shared element and records "Modify".
   T& Get(const Key& key) {
-    auto it = items_.find(key);
-    if (it == items_.end())
-      nex_ThrowCmd("There is no \"" + KeyPolicy::Text(key).str() + "\" in " + Names::kRepositoryName);
-    T& obj = it->second.Get();
+    Handle* h = items_.Modify(key);  // copies the path to the key if the tree is shared
+    if (!h) nex_ThrowCmd("There is no \"" + KeyPolicy::Text(key).str() + "\" in " + Names::kRepositoryName);
+    T& obj = h->Get();
     Record("Modify", key);
     return obj;
   }
@@ -157,10 +166,7 @@ class mdl_KeyedRepository : public mem_Allocated,
     return true;
   }
   const Map& Items() const noexcept { return items_; }
-  const Handle* FindHandle(const Key& key) const {
-    auto it = items_.find(key);
-    return it == items_.end() ? nullptr : &it->second;
-  }
+  const Handle* FindHandle(const Key& key) const { return items_.Find(key); }
 
   // --- mdl_Repository: keys as their text; the rest of the face comes from the typed use ---
   std::vector<cow_String> Keys() const override {

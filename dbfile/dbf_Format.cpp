@@ -83,3 +83,20 @@ bool dbf_ParseHeader(const unsigned char* b, std::size_t size, dbf_Header& out) 
   out.applicationId = BigEndian32(b + 68);
   return true;
 }
+
+const char* dbf_KindName(dbf_Kind kind) noexcept {
+  switch (kind) {
+    case dbf_Kind::Int: return "int";
+    case dbf_Kind::Double: return "double";
+    case dbf_Kind::Bool: return "bool";
+    case dbf_Kind::Text: return "string";
+    case dbf_Kind::IntList: return "list of ints";
+    case dbf_Kind::DoubleList: return "list of doubles";
+    case dbf_Kind::BoolList: return "list of bools";
+    case dbf_Kind::TextList: return "list of strings";
+    case dbf_Kind::Table: return "table of doubles";
+    case dbf_Kind::Object: return "object";
+    case dbf_Kind::ObjectList: return "list of objects";
+  }
+  return "value";
+}

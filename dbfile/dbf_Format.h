@@ -46,6 +46,8 @@ enum class dbf_Kind {
 // The kind of an attribute type (cls_AttrType); false for a type the file cannot store.
 bool dbf_KindOf(int attrType, dbf_Kind& kind) noexcept;
 const char* dbf_SqlType(dbf_Kind kind) noexcept;
+// What a field of the kind holds, as messages name it ("list of ints").
+const char* dbf_KindName(dbf_Kind kind) noexcept;
 
 // A stable hash of a field table (name, number, type, count and collection of each attribute,
 // in order), as 16 hexadecimal digits. A stored class whose version equals the library's must

@@ -43,28 +43,6 @@ bool dbf_RowReader::Has(const char* name) const {
   return Index(name) >= 0;
 }
 
-namespace {
-
-// What a stored field holds, as the refusals name it.
-const char* KindName(dbf_Kind kind) {
-  switch (kind) {
-    case dbf_Kind::Int: return "int";
-    case dbf_Kind::Double: return "double";
-    case dbf_Kind::Bool: return "bool";
-    case dbf_Kind::Text: return "string";
-    case dbf_Kind::IntList: return "list of ints";
-    case dbf_Kind::DoubleList: return "list of doubles";
-    case dbf_Kind::BoolList: return "list of bools";
-    case dbf_Kind::TextList: return "list of strings";
-    case dbf_Kind::Table: return "table of doubles";
-    case dbf_Kind::Object: return "object";
-    case dbf_Kind::ObjectList: return "list of objects";
-  }
-  return "value";
-}
-
-}  // namespace
-
 template <class T>
 T dbf_RowReader::Get(const char* name, const char* kind) const {
   if (row_.upgraded) {
@@ -98,7 +76,7 @@ T dbf_RowReader::Get(const char* name, const char* kind) const {
         stored != dbf_Kind::Text)
       if (const T* t = std::get_if<T>(c.value)) return *t;
   }
-  Refuse(name, cls_WithArticle(KindName(stored)).c_str(), kind);
+  Refuse(name, cls_WithArticle(dbf_KindName(stored)).c_str(), kind);
 }
 
 const cls_ReadCell* dbf_RowReader::Positional(const cls_FieldLayout& layout) const {

@@ -9,23 +9,6 @@
 
 namespace {
 
-const char* KindName(dbf_Kind kind) {
-  switch (kind) {
-    case dbf_Kind::Int: return "int";
-    case dbf_Kind::Double: return "double";
-    case dbf_Kind::Bool: return "bool";
-    case dbf_Kind::Text: return "string";
-    case dbf_Kind::IntList: return "list of ints";
-    case dbf_Kind::DoubleList: return "list of doubles";
-    case dbf_Kind::BoolList: return "list of bools";
-    case dbf_Kind::TextList: return "list of strings";
-    case dbf_Kind::Table: return "table of doubles";
-    case dbf_Kind::Object: return "object";
-    case dbf_Kind::ObjectList: return "list of objects";
-  }
-  return "value";
-}
-
 void HexUid(const cls_Uid& uid, char* out) {
   static const char* kHex = "0123456789abcdef";
   std::uint64_t hi = uid.High(), lo = uid.Low();
@@ -85,8 +68,8 @@ std::size_t dbf_RowWriter::Slot(const char* name, dbf_Kind kind) const {
     i = it->second;
   }
   if (fields[i].kind != kind)
-    nex_ThrowCmd("class " + ClassName() + " wrote its field \"" + name + "\" as " + cls_WithArticle(KindName(kind)) +
-                 ", but stores it as " + cls_WithArticle(KindName(fields[i].kind)));
+    nex_ThrowCmd("class " + ClassName() + " wrote its field \"" + name + "\" as " + cls_WithArticle(dbf_KindName(kind)) +
+                 ", but stores it as " + cls_WithArticle(dbf_KindName(fields[i].kind)));
   if (written_[i]) nex_ThrowCmd("class " + ClassName() + " wrote its field \"" + name + "\" twice");
   written_[i] = 1;
   cursor_ = i + 1;

@@ -78,18 +78,19 @@ cmd_Json Run(cmd_Session& s, const cmd_Json& command) {
 }
 }  // namespace
 
-ddr_Database kmaT_ReopenOldLayout(const std::string& file, const char* slot, const char* type, const char* values,
-                                  const char* className, int version, const std::vector<std::string>& absent) {
+namespace {
+
+ddr_Database ReopenOldLayout(const std::string& file, const kmaT_OldLayoutCase& c) {
   cmd_Session s;
   Run(s, {{"op", "create"}, {"path", {"M"}}});
   Run(s, {{"op", "create"}, {"path", {"M", "materials", "A"}}, {"type", "Material"}});
-  Run(s, {{"op", "set"}, {"path", {"M", "materials", "A", slot}}, {"type", type}, {"values", cmd_Json::parse(values)}});
+  Run(s, {{"op", "set"}, {"path", {"M", "materials", "A", c.slot}}, {"type", c.type}, {"values", cmd_Json::parse(c.values)}});
   dbf_Save(s.Database(), file);
-  kmaT_MakeOldLayout(file, className, version, absent);
+  kmaT_MakeOldLayout(file, c.className, c.version, c.absent);
   return dbf_Open(file);
 }
 
-void kmaT_ExpectMembers(const ddr_Database& db, const char* slot, const char* expected) {
+void ExpectMembers(const ddr_Database& db, const char* slot, const std::string& expected) {
   cmd_Session s(db);
   const cmd_Json members = cmd_Json::parse(expected);  // items() refers into it, so it must outlive the loop
   for (const auto& [member, value] : members.items()) {
@@ -103,5 +104,15 @@ void kmaT_ExpectMembers(const ddr_Database& db, const char* slot, const char* ex
       at = end + 1;
     }
     EXPECT_EQ(Run(s, {{"op", "get"}, {"path", path}}), value);
+  }
+}
+
+}  // namespace
+
+void kmaT_ExpectOldLayoutsRead(const std::string& dir, const std::vector<kmaT_OldLayoutCase>& cases) {
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.className) + " " + std::to_string(c.version));
+    const std::string file = dir + "/" + c.className + "-" + std::to_string(c.version) + ".odb";
+    ExpectMembers(ReopenOldLayout(file, c), c.slot, c.expected);
   }
 }

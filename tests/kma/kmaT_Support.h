@@ -26,13 +26,21 @@ std::vector<std::string> kmaT_Query(const std::string& path, const std::string& 
 void kmaT_MakeOldLayout(const std::string& path, const char* className, int version,
                         const std::vector<std::string>& absentFields);
 
-// Saves material "A" of model "M" holding the option `slot` set by script to `type` with `values`
-// (a JSON object), rewrites it with kmaT_MakeOldLayout and opens the file again.
-ddr_Database kmaT_ReopenOldLayout(const std::string& file, const char* slot, const char* type, const char* values,
-                                  const char* className, int version, const std::vector<std::string>& absent);
-// Expects, by script, each member of `expected` (a JSON object keyed by paths such as
-// "uniaxialTests/0/smoothing", below the option in `slot` of material "A") to have its value.
-void kmaT_ExpectMembers(const ddr_Database& db, const char* slot, const char* expected);
+// One older layout of an option class: material "A" of model "M" holding the option `slot` set by
+// script to `type` with `values` (a JSON object) is saved, rewritten with kmaT_MakeOldLayout to
+// `version` without the `absent` fields, and opened again; `expected` (a JSON object keyed by
+// paths below the option such as "uniaxialTests/0/smoothing") holds what must read back.
+struct kmaT_OldLayoutCase {
+  const char* className;
+  int version;
+  std::vector<std::string> absent;
+  const char* slot;
+  const char* type;
+  std::string values;
+  std::string expected;
+};
+// Runs each case with its file in `dir`.
+void kmaT_ExpectOldLayoutsRead(const std::string& dir, const std::vector<kmaT_OldLayoutCase>& cases);
 
 #include "kma/kmaC_MaterialOption.h"
 

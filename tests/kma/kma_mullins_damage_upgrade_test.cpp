@@ -35,15 +35,7 @@ TEST(KmaMullinsDamageUpgrade, OlderLayoutsReadBackWithTheFilledValues) {
     a.insert(a.end(), b);
     return a;
   };
-  const struct {
-    const char* className;
-    int version;
-    std::vector<std::string> absent;
-    const char* slot;
-    const char* type;
-    std::string values;
-    std::string expected;
-  } cases[] = {
+  const std::vector<kmaT_OldLayoutCase> cases = {
       {"kmaC_UniaxialTestData", 203, {"lateralNominalStrain"}, "mullinsEffect", "MullinsEffect", mullins,
        R"({"uniaxialTests/0/lateralNominalStrain":false,"uniaxialTests/0/smoothing":3,
            "biaxialTests/0/lateralNominalStrain":true})"},
@@ -87,13 +79,7 @@ TEST(KmaMullinsDamageUpgrade, OlderLayoutsReadBackWithTheFilledValues) {
        R"({"dependencies":1,"table":[[12,0.5]]})",
        R"({"crushStressVelocityFactor":null,"dependencies":1,"table":[[12,0.5]]})"},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::string(c.className) + " " + std::to_string(c.version));
-    const std::string file = dir + "/" + c.className + "-" + std::to_string(c.version) + ".odb";
-    kmaT_ExpectMembers(
-        kmaT_ReopenOldLayout(file, c.slot, c.type, c.values.c_str(), c.className, c.version, c.absent), c.slot,
-        c.expected.c_str());
-  }
+  kmaT_ExpectOldLayoutsRead(dir, cases);
 }
 
 }  // namespace

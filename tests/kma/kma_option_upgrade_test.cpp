@@ -18,15 +18,7 @@ TEST(KmaOptionUpgrade, OlderLayoutsReadBackWithTheFilledValues) {
   const char* const anneal =
       R"({"table":[[250,0]],"annealTemperature":{"temperatureDependency":true,"dependencies":2,"table":[[900,1]]}})";
   const char* const mohrCoulomb = R"({"deviatoricEccentricity":0.8,"meridionalEccentricity":0.3,"useTensionCutoff":true})";
-  const struct {
-    const char* className;
-    int version;
-    std::vector<std::string> absent;
-    const char* slot;
-    const char* type;
-    const char* values;
-    const char* expected;
-  } cases[] = {
+  const std::vector<kmaT_OldLayoutCase> cases = {
       {"kmaC_AnnealTemperature", 203, {"dependencies", "temperatureDependency"}, "plastic", "Plastic", anneal,
        R"({"annealTemperature/temperatureDependency":false,"annealTemperature/dependencies":0,
            "annealTemperature/table":[[900,1]]})"},
@@ -57,12 +49,7 @@ TEST(KmaOptionUpgrade, OlderLayoutsReadBackWithTheFilledValues) {
        R"({"type":"OGDEN","testData":false,"n":1,"moduliTimeScale":"LONG_TERM","materialType":"ISOTROPIC",
            "poissonRatio":0.0,"behaviorType":"INCOMPRESSIBLE"})"},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::string(c.className) + " " + std::to_string(c.version));
-    const std::string file = dir + "/" + c.className + "-" + std::to_string(c.version) + ".odb";
-    kmaT_ExpectMembers(kmaT_ReopenOldLayout(file, c.slot, c.type, c.values, c.className, c.version, c.absent), c.slot,
-                       c.expected);
-  }
+  kmaT_ExpectOldLayoutsRead(dir, cases);
 }
 
 }  // namespace

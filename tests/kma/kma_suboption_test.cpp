@@ -83,15 +83,7 @@ TEST(KmaSubOptions, AreValidatedAsPartOfTheirOwnerAfterTheOwnersScalarRules) {
 TEST(KmaSubOptionUpgrade, OlderLayoutsReadBackWithTheFilledValues) {
   kmaT_Start();
   const std::string dir = qmx_TempDir("kma-suboption-upgrade");
-  const struct {
-    const char* className;
-    int version;
-    std::vector<std::string> absent;
-    const char* slot;
-    const char* type;
-    const char* values;
-    const char* expected;
-  } cases[] = {
+  const std::vector<kmaT_OldLayoutCase> cases = {
       {"kmaC_CapCreepCohesion", 452, {"time"}, "capPlasticity", "CapPlasticity",
        R"({"capCreepCohesion":{"time":"CREEP","law":"SINGHM","dependencies":1,"table":[[1e-6,2,0.5]]}})",
        R"({"capCreepCohesion/time":"TOTAL","capCreepCohesion/law":"SINGHM","capCreepCohesion/dependencies":1,
@@ -111,12 +103,7 @@ TEST(KmaSubOptionUpgrade, OlderLayoutsReadBackWithTheFilledValues) {
       {"kmaC_ShearRetention", 203, {"type"}, "brittleCracking", "BrittleCracking",
        R"({"shearRetention":{"type":"POWER_LAW"}})", R"({"shearRetention/type":"RETENTION_FACTOR"})"},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::string(c.className) + " " + std::to_string(c.version));
-    const std::string file = dir + "/" + c.className + "-" + std::to_string(c.version) + ".odb";
-    kmaT_ExpectMembers(kmaT_ReopenOldLayout(file, c.slot, c.type, c.values, c.className, c.version, c.absent), c.slot,
-                       c.expected);
-  }
+  kmaT_ExpectOldLayoutsRead(dir, cases);
 }
 
 }  // namespace

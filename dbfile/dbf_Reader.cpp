@@ -365,7 +365,7 @@ void dbf_Reader::Load(const dbf_Ref& ref, dbf_LoadedRow& row) {
   if (!s) Damaged(std::string("row ") + std::to_string(ref.oid) + " of class " + t.className + " is missing");
   row.table = &t;
   row.oid = ref.oid;
-  row.upgraded.reset();
+  if (row.upgraded) row.spare = std::move(row.upgraded);
   if (sqlite3_column_type(s, 1) != SQLITE_TEXT || !ParseUid(Text(s, 1), row.uid))
     DamagedField(t, ref.oid, dbf_kUidColumn, "no uid");
   Extract(t, s, row);
@@ -449,7 +449,7 @@ class dbf_Reader::Source final : public dbc_RowSource {
 void dbf_Reader::Rename(dbf_LoadedRow& row) {
   dbf_ReadTable& t = *row.table;
   const cls_Record old = RawRecord(row);
-  auto up = std::make_unique<dbf_LoadedRow::Upgraded>();
+  auto up = Reuse(row);
   up->record.typeId = t.cls->TypeId();
   up->record.uid = row.uid;
   Source source(*this, *up);
@@ -458,7 +458,7 @@ void dbf_Reader::Rename(dbf_LoadedRow& row) {
   dbc_Row newRow(up->record);
   newRow.SetSource(&source);
   if (dbc_ConversionFn fn = t.rename->Function()) fn(oldRow, newRow, t.rename->Arg());
-  dbc_UpgradeDriver::Run(t.steps, up->record);
+  dbc_UpgradeDriver::Run(t.steps, up->record, up->scratch);
   row.upgraded = std::move(up);
 }
 
@@ -607,9 +607,10 @@ bool dbf_Reader::Positional(dbf_ReadTable& t, const cls_FieldLayout& layout) {
 // carried through the conversions to the class's current version.
 void dbf_Reader::Upgrade(dbf_LoadedRow& row) {
   dbf_ReadTable& t = *row.table;
-  auto up = std::make_unique<dbf_LoadedRow::Upgraded>();
+  auto up = Reuse(row);
   up->record.typeId = t.cls->TypeId();
   up->record.uid = row.uid;
+  up->record.fields.reserve(t.fields.size());
   auto stub = [&](const dbf_Ref& ref) -> cls_RecordPtr {
     if (ref.oid == 0) return nullptr;
     auto rec = std::make_shared<cls_Record>();
@@ -630,8 +631,16 @@ void dbf_Reader::Upgrade(dbf_LoadedRow& row) {
       up->record.fields.emplace_back(f.key, ValueOf(row, i));
     }
   }
-  dbc_UpgradeDriver::Run(t.steps, up->record);
+  dbc_UpgradeDriver::Run(t.steps, up->record, up->scratch);
   row.upgraded = std::move(up);
+}
+
+std::unique_ptr<dbf_LoadedRow::Upgraded> dbf_Reader::Reuse(dbf_LoadedRow& row) {
+  if (!row.spare) return std::make_unique<dbf_LoadedRow::Upgraded>();
+  std::unique_ptr<dbf_LoadedRow::Upgraded> up = std::move(row.spare);
+  up->record.fields.clear();
+  up->stubs.clear();
+  return up;
 }
 
 std::vector<dbf_LoadedRoot> dbf_Reader::LoadRoots(const cls_ClassMetadata* required) {

@@ -73,6 +73,7 @@ struct dbf_LoadedRow {
     // Each stub with the row it stands for. Holding the stub keeps its address from being
     // reused by a record a conversion makes.
     std::unordered_map<const cls_Record*, std::pair<cls_RecordPtr, dbf_Ref>> stubs;
+    cls_Record scratch;  // where the conversions build each new row
   };
   dbf_ReadTable* table = nullptr;
   std::int64_t oid = 0;
@@ -86,6 +87,8 @@ struct dbf_LoadedRow {
   std::vector<dbf_Ref> refs;
   std::vector<std::pair<std::uint32_t, std::uint32_t>> spans;  // by stored field: first ref, count
   std::unique_ptr<Upgraded> upgraded;  // set when the row was stored at an older version
+  // The last row's, kept when the next row is loaded: an upgraded row reuses its storage.
+  std::unique_ptr<Upgraded> spare;
 };
 
 class dbf_Reader {
@@ -131,6 +134,8 @@ class dbf_Reader {
   sqlite3_stmt* Position(dbf_ReadTable& t, std::int64_t oid);
   void Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row);
   void Upgrade(dbf_LoadedRow& row);
+  // The row's spare upgrade storage, emptied, or a new one.
+  static std::unique_ptr<dbf_LoadedRow::Upgraded> Reuse(dbf_LoadedRow& row);
   // Renamed classes: the row built by the rename's conversion, then carried up its new chain.
   void Rename(dbf_LoadedRow& row);
   class Source;

@@ -1,6 +1,7 @@
 #include "platform/persist/dbc_Converter.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/base/nex_Exception.h"
 #include "platform/persist/cls_ClassMetadata.h"
@@ -189,14 +190,19 @@ dbc_UpgradeDriver::Steps dbc_UpgradeDriver::StepsFor(const std::string& classNam
 }
 
 void dbc_UpgradeDriver::Run(const Steps& steps, cls_Record& row) {
+  cls_Record scratch;
+  Run(steps, row, scratch);
+}
+
+void dbc_UpgradeDriver::Run(const Steps& steps, cls_Record& row, cls_Record& scratch) {
   for (const dbc_ClassConverter* step : steps) {
     if (dbc_ConversionFn fn = step->Function()) {
-      cls_Record next = row;  // the new row starts as the old one; the function changes it
+      scratch = row;  // the new row starts as the old one; the function changes it
       const cls_Record& old = row;
       dbc_Row oldRow(old);
-      dbc_Row newRow(next);
+      dbc_Row newRow(scratch);
       fn(oldRow, newRow, step->Arg());
-      row = std::move(next);
+      std::swap(row, scratch);
     }
   }
 }

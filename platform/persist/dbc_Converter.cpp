@@ -175,7 +175,8 @@ bool dbc_UpgradeDriver::HasPath(const std::string& className, int v, int current
 }
 
 void dbc_UpgradeDriver::Upgrade(const std::string& className, int stored, int current, cls_Record& row) const {
-  Run(StepsFor(className, stored, current), row);
+  cls_Record scratch;
+  Run(StepsFor(className, stored, current), row, scratch);
 }
 
 dbc_UpgradeDriver::Steps dbc_UpgradeDriver::StepsFor(const std::string& className, int stored, int current) const {
@@ -187,11 +188,6 @@ dbc_UpgradeDriver::Steps dbc_UpgradeDriver::StepsFor(const std::string& classNam
     nex_ThrowCmd("Class " + className + " is stored at version " + std::to_string(stored) +
                  ", from which no chain of upgrade steps reaches its current version " + std::to_string(current));
   return plan;
-}
-
-void dbc_UpgradeDriver::Run(const Steps& steps, cls_Record& row) {
-  cls_Record scratch;
-  Run(steps, row, scratch);
 }
 
 void dbc_UpgradeDriver::Run(const Steps& steps, cls_Record& row, cls_Record& scratch) {

@@ -148,9 +148,8 @@ class dbc_UpgradeDriver {
   // once (refused as Upgrade refuses), then run over each row.
   using Steps = std::vector<const dbc_ClassConverter*>;
   Steps StepsFor(const std::string& className, int storedVersion, int currentVersion) const;
-  static void Run(const Steps& steps, cls_Record& row);
-  // The same with a record of the caller's to build each new row in: a reader that upgrades row
-  // after row keeps it, so that the rows need no allocation of their own once it has grown.
+  // Each step builds the new row in `scratch`, the caller's: a reader that upgrades row after row
+  // keeps it, so that the rows need no allocation of their own once it has grown.
   static void Run(const Steps& steps, cls_Record& row, cls_Record& scratch);
   // True when the class has a chain of steps from the stored version to the current one.
   bool HasPath(const std::string& className, int storedVersion, int currentVersion) const;

@@ -1,0 +1,63 @@
+"""The JSON Schema that `odbattr schema` prints: every line of every example fits it, and lines the
+tool refuses do not. Checked by a full validator of the schema's own draft."""
+import json
+import os
+import pathlib
+import subprocess
+
+import jsonschema
+import pytest
+
+TOOL = os.environ.get("QMX_ODBATTR")
+EXAMPLES = pathlib.Path(os.environ.get("QMX_EXAMPLES_DIR", pathlib.Path(__file__).parents[2] / "examples"))
+
+pytestmark = pytest.mark.skipif(not TOOL, reason="the odbattr tool is not built")
+
+
+@pytest.fixture(scope="module")
+def schema():
+    out = subprocess.run([TOOL, "schema"], check=True, capture_output=True, text=True).stdout
+    s = json.loads(out)
+    jsonschema.Draft202012Validator.check_schema(s)
+    return s
+
+
+def test_the_schema_states_the_classes_terms(schema):
+    ctrl = schema["$defs"]["AdaptiveMeshControl"]["properties"]
+    assert ctrl["remapping"]["default"] == "SECOND_ORDER_ADVECTION"
+    assert ctrl["remapping"]["anyOf"][0]["enum"] == ["FIRST_ORDER_ADVECTION", "SECOND_ORDER_ADVECTION"]
+    assert ctrl["initialFeatureAngle"] == {"type": "number", "default": 30.0}
+    assert schema["x-repositories"]["adaptiveMeshDomains"] == ["AdaptiveMeshDomain"]
+    assert schema["x-repositories"]["adaptiveMeshControls"] == ["AdaptiveMeshControl"]
+
+
+def test_every_line_of_every_example_fits(schema):
+    validator = jsonschema.Draft202012Validator(schema)
+    checked = 0
+    for path in sorted(EXAMPLES.glob("*.jsonl")):
+        for number, line in enumerate(path.read_text().splitlines(), 1):
+            if not line.strip() or line.lstrip().startswith("#"):
+                continue
+            errors = [e.message for e in validator.iter_errors(json.loads(line))]
+            assert errors == [], f"{path.name}:{number}"
+            checked += 1
+    assert checked > 10
+
+
+CONTROL = '"path":["Model-1","adaptiveMeshControls","C-9"]'
+DOMAIN = '"path":["Model-1","adaptiveMeshDomains","D-9"]'
+
+
+@pytest.mark.parametrize("line", [
+    '{"op":"create",' + CONTROL + ',"type":"AdaptiveMeshControl","values":{"remapping":"THIRD"}}',
+    '{"op":"create",' + CONTROL + ',"type":"AdaptiveMeshControl","values":{"advection":"FIRST_ORDER_ADVECTION"}}',
+    '{"op":"create",' + CONTROL + ',"type":"AdaptiveMeshDomain"}',
+    '{"op":"create",' + DOMAIN + ',"type":"AdaptiveMeshDomain","values":{"frequency":1.5}}',
+    '{"op":"create",' + DOMAIN + ',"type":"AdaptiveMeshDomain","values":{"frequency":3000000000}}',
+    '{"op":"get","path":["Model-1"],"file":"x"}',
+    '{"op":"explode","path":[]}',
+    '{"op":"save"}',
+    '{"op":"get","path":[1.5]}',
+])
+def test_lines_the_tool_refuses_do_not_fit(schema, line):
+    assert not jsonschema.Draft202012Validator(schema).is_valid(json.loads(line))

@@ -1,12 +1,16 @@
 #include "dbfile/dbf_Reader.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <cstring>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <limits>
+#include <memory>
 #include <set>
 
 #include "platform/persist/cls_ClassRegistrar.h"
@@ -78,6 +82,31 @@ void CheckUtf8(const dbf_ReadTable& t, std::int64_t oid, const dbf_ReadField& f,
   }
 }
 
+struct FileDescriptor {
+  int fd;
+  explicit FileDescriptor(int f) : fd(f) {}
+  ~FileDescriptor() {
+    if (fd >= 0) ::close(fd);
+  }
+  FileDescriptor(const FileDescriptor&) = delete;
+  FileDescriptor& operator=(const FileDescriptor&) = delete;
+};
+
+// Up to n bytes from the offset; fewer only at the end of the file. A failed read throws.
+std::size_t ReadAt(int fd, unsigned char* out, std::size_t n, std::uintmax_t offset) {
+  std::size_t done = 0;
+  while (done < n) {
+    const ssize_t r = ::pread(fd, out + done, n - done, static_cast<off_t>(offset + done));
+    if (r == 0) break;
+    if (r < 0) {
+      if (errno == EINTR) continue;
+      nex_ThrowCmd("the file cannot be read");
+    }
+    done += static_cast<std::size_t>(r);
+  }
+  return done;
+}
+
 std::string Hex32(std::uint32_t v) {
   char buf[16];
   std::snprintf(buf, sizeof buf, "0x%08x", v);
@@ -112,10 +141,11 @@ void dbf_Reader::CheckFile(const std::string& path) {
   if (ec) nex_ThrowCmd("its size cannot be read (" + ec.message() + ")");
   if (size == 0) nex_ThrowCmd("the file is empty");
   unsigned char bytes[dbf_kHeaderSize] = {};
-  std::ifstream in(path, std::ios::binary);
-  if (!in) nex_ThrowCmd("the file cannot be read");
-  in.read(reinterpret_cast<char*>(bytes), sizeof bytes);
-  const auto got = static_cast<std::size_t>(in.gcount());
+  // A plain descriptor: a stream's buffer would be one more allocation and one more copy of
+  // every page.
+  FileDescriptor in(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  if (in.fd < 0) nex_ThrowCmd("the file cannot be read");
+  const std::size_t got = ReadAt(in.fd, bytes, sizeof bytes, 0);
   static const char kMagic[] = "SQLite format 3";
   if (got < dbf_kHeaderSize && std::memcmp(bytes, kMagic, std::min(got, sizeof kMagic)) == 0)
     Damaged("truncated: it holds " + std::to_string(got) + " of the " + std::to_string(dbf_kHeaderSize) +
@@ -140,29 +170,29 @@ void dbf_Reader::CheckFile(const std::string& path) {
   if (size % h.pageSize != 0)
     Damaged(std::string("its ") + std::to_string(size) + " bytes are not a whole number of " +
             std::to_string(h.pageSize) + "-byte pages");
-  VerifyPages(in, h.pageSize, size / h.pageSize);
+  VerifyPages(in.fd, h.pageSize, size / h.pageSize);
 }
 
 // Every page, not only those the rows are read from: pages of indexes this library never reads
 // would otherwise keep a changed byte unnoticed for the next tool that reads them. SQLite's own
 // reads then skip the check (dbf_PagesVerified), so each page is checked once.
-void dbf_Reader::VerifyPages(std::ifstream& in, std::uint32_t pageSize, std::uintmax_t pages) {
+void dbf_Reader::VerifyPages(int fd, std::uint32_t pageSize, std::uintmax_t pages) {
   // SQLite never writes the page that holds the byte at offset 2^30 (its lock byte).
   const std::uintmax_t lockPage = (std::uintmax_t(1) << 30) / pageSize + 1;
-  // Read a mebibyte of pages at a time: one read call per page would cost more than the checks.
-  const std::uintmax_t perChunk = std::max<std::uintmax_t>(1, (std::uintmax_t(1) << 20) / pageSize);
-  std::vector<unsigned char> chunk(static_cast<std::size_t>(std::min(perChunk, pages) * pageSize));
-  in.clear();
-  in.seekg(0);
+  // Read 64 KiB of pages at a time: few read calls, and a buffer that stays in the cache and
+  // comes from the heap (a larger one would be mapped afresh, a page fault per 4 KiB, each open).
+  const std::uintmax_t perChunk = std::max<std::uintmax_t>(1, (std::uintmax_t(1) << 16) / pageSize);
+  const std::size_t chunkBytes = static_cast<std::size_t>(std::min(perChunk, pages) * pageSize);
+  std::unique_ptr<unsigned char[]> chunk(new unsigned char[chunkBytes]);  // filled by the reads
   const std::size_t body = pageSize - dbf_kChecksumBytes;
   for (std::uintmax_t first = 1; first <= pages; first += perChunk) {
     const std::uintmax_t count = std::min(perChunk, pages - first + 1);
-    if (!in.read(reinterpret_cast<char*>(chunk.data()), static_cast<std::streamsize>(count * pageSize)))
-      nex_ThrowCmd("the file cannot be read");
+    const auto want = static_cast<std::size_t>(count * pageSize);
+    if (ReadAt(fd, chunk.get(), want, (first - 1) * pageSize) != want) nex_ThrowCmd("the file cannot be read");
     for (std::uintmax_t k = 0; k < count; ++k) {
       const std::uintmax_t number = first + k;
       if (number == lockPage) continue;
-      const unsigned char* page = chunk.data() + k * pageSize;
+      const unsigned char* page = chunk.get() + k * pageSize;
       std::uint64_t stored = 0;
       for (int i = dbf_kChecksumBytes - 1; i >= 0; --i) stored = (stored << 8) | page[body + static_cast<std::size_t>(i)];
       if (dbf_PageChecksum(page, body, static_cast<std::int64_t>(number)) != stored)

@@ -9,7 +9,6 @@
 #include <sqlite3.h>
 
 #include <cstdint>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -126,7 +125,7 @@ class dbf_Reader {
 
  private:
   void CheckFile(const std::string& path);
-  void VerifyPages(std::ifstream& in, std::uint32_t pageSize, std::uintmax_t pages);
+  void VerifyPages(int fd, std::uint32_t pageSize, std::uintmax_t pages);
   void ReadMeta();
   void ReadCatalog();
   void PrepareTable(dbf_ReadTable& t);

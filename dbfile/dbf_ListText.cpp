@@ -123,11 +123,23 @@ class Cursor {
       ++p_;
     return std::string_view(s, static_cast<std::size_t>(p_ - s));
   }
+  // A JSON integer: digits after an optional minus; a fraction, an exponent or a value outside
+  // 64 bits is refused. Read digit by digit: lists of references hold two integers an element.
   bool Int(std::int64_t& v) {
-    std::string_view t = NumberToken();
-    if (t.empty()) return false;
-    auto r = std::from_chars(t.data(), t.data() + t.size(), v);
-    return r.ec == std::errc() && r.ptr == t.data() + t.size();
+    Skip();
+    const bool negative = p_ != end_ && *p_ == '-';
+    if (negative) ++p_;
+    const char* first = p_;
+    std::uint64_t magnitude = 0;
+    const std::uint64_t limit = negative ? std::uint64_t(INT64_MAX) + 1 : std::uint64_t(INT64_MAX);
+    for (; p_ != end_ && *p_ >= '0' && *p_ <= '9'; ++p_) {
+      const auto digit = static_cast<std::uint64_t>(*p_ - '0');
+      if (magnitude > (limit - digit) / 10) return false;
+      magnitude = magnitude * 10 + digit;
+    }
+    if (p_ == first || (p_ != end_ && (*p_ == '.' || *p_ == 'e' || *p_ == 'E'))) return false;
+    v = negative ? static_cast<std::int64_t>(0 - magnitude) : static_cast<std::int64_t>(magnitude);
+    return true;
   }
   bool Double(double& v) {
     if (EatWord("null")) {

@@ -82,16 +82,6 @@ void CheckUtf8(const dbf_ReadTable& t, std::int64_t oid, const dbf_ReadField& f,
   }
 }
 
-struct FileDescriptor {
-  int fd;
-  explicit FileDescriptor(int f) : fd(f) {}
-  ~FileDescriptor() {
-    if (fd >= 0) ::close(fd);
-  }
-  FileDescriptor(const FileDescriptor&) = delete;
-  FileDescriptor& operator=(const FileDescriptor&) = delete;
-};
-
 // Up to n bytes from the offset; fewer only at the end of the file. A failed read throws.
 std::size_t ReadAt(int fd, unsigned char* out, std::size_t n, std::uintmax_t offset) {
   std::size_t done = 0;
@@ -119,14 +109,21 @@ dbf_Reader::dbf_Reader(const std::string& path, const dbc_UpgradeDriver& driver)
   CheckFile(path);
   // Read-only, so opening changes nothing; NOMUTEX, as the connection never leaves this thread.
   conn_ = std::make_unique<dbf_Connection>(path, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, dbf_ChecksumVfs());
-  // CheckFile checked every page; SQLite's reads need not check them again.
-  dbf_PagesVerified(conn_->Get());
+  // SQLite's reads check the pages they read; LoadRoots checks the rest at its end, so that each
+  // page is read and checked once.
+  checked_.assign(static_cast<std::size_t>(pages_), 0);
+  if (!dbf_NoteCheckedPages(conn_->Get(), checked_.data(), static_cast<std::int64_t>(pages_)))
+    nex_ThrowCmd("the file cannot be read through the checksums of its pages");
   ReadMeta();
   ReadCatalog();
 }
 
 dbf_Reader::~dbf_Reader() {
   tables_.clear();  // statements before their connection
+}
+
+dbf_Reader::File::~File() {
+  if (fd >= 0) ::close(fd);
 }
 
 // What the file is, told from its first bytes before SQLite reads it.
@@ -143,9 +140,9 @@ void dbf_Reader::CheckFile(const std::string& path) {
   unsigned char bytes[dbf_kHeaderSize] = {};
   // A plain descriptor: a stream's buffer would be one more allocation and one more copy of
   // every page.
-  FileDescriptor in(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-  if (in.fd < 0) nex_ThrowCmd("the file cannot be read");
-  const std::size_t got = ReadAt(in.fd, bytes, sizeof bytes, 0);
+  file_.fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (file_.fd < 0) nex_ThrowCmd("the file cannot be read");
+  const std::size_t got = ReadAt(file_.fd, bytes, sizeof bytes, 0);
   static const char kMagic[] = "SQLite format 3";
   if (got < dbf_kHeaderSize && std::memcmp(bytes, kMagic, std::min(got, sizeof kMagic)) == 0)
     Damaged("truncated: it holds " + std::to_string(got) + " of the " + std::to_string(dbf_kHeaderSize) +
@@ -170,34 +167,39 @@ void dbf_Reader::CheckFile(const std::string& path) {
   if (size % h.pageSize != 0)
     Damaged(std::string("its ") + std::to_string(size) + " bytes are not a whole number of " +
             std::to_string(h.pageSize) + "-byte pages");
-  VerifyPages(in.fd, h.pageSize, size / h.pageSize);
+  pageSize_ = h.pageSize;
+  pages_ = size / h.pageSize;
 }
 
 // Every page, not only those the rows are read from: pages of indexes this library never reads
-// would otherwise keep a changed byte unnoticed for the next tool that reads them. SQLite's own
-// reads then skip the check (dbf_PagesVerified), so each page is checked once.
-void dbf_Reader::VerifyPages(int fd, std::uint32_t pageSize, std::uintmax_t pages) {
+// would otherwise keep a changed byte unnoticed for the next tool that reads them. Only the
+// pages no read of SQLite checked are read here, in runs of up to 64 KiB (a buffer that stays
+// in the cache and comes from the heap, not mapped afresh a page fault per 4 KiB each open).
+void dbf_Reader::CheckUnreadPages() {
   // SQLite never writes the page that holds the byte at offset 2^30 (its lock byte).
-  const std::uintmax_t lockPage = (std::uintmax_t(1) << 30) / pageSize + 1;
-  // Read 64 KiB of pages at a time: few read calls, and a buffer that stays in the cache and
-  // comes from the heap (a larger one would be mapped afresh, a page fault per 4 KiB, each open).
-  const std::uintmax_t perChunk = std::max<std::uintmax_t>(1, (std::uintmax_t(1) << 16) / pageSize);
-  const std::size_t chunkBytes = static_cast<std::size_t>(std::min(perChunk, pages) * pageSize);
-  std::unique_ptr<unsigned char[]> chunk(new unsigned char[chunkBytes]);  // filled by the reads
-  const std::size_t body = pageSize - dbf_kChecksumBytes;
-  for (std::uintmax_t first = 1; first <= pages; first += perChunk) {
-    const std::uintmax_t count = std::min(perChunk, pages - first + 1);
-    const auto want = static_cast<std::size_t>(count * pageSize);
-    if (ReadAt(fd, chunk.get(), want, (first - 1) * pageSize) != want) nex_ThrowCmd("the file cannot be read");
+  const std::uintmax_t lockPage = (std::uintmax_t(1) << 30) / pageSize_ + 1;
+  const std::uintmax_t perRun = std::max<std::uintmax_t>(1, (std::uintmax_t(1) << 16) / pageSize_);
+  std::unique_ptr<unsigned char[]> run(new unsigned char[static_cast<std::size_t>(perRun * pageSize_)]);
+  const std::size_t body = pageSize_ - dbf_kChecksumBytes;
+  for (std::uintmax_t first = 1; first <= pages_;) {
+    if (checked_[first - 1] || first == lockPage) {
+      ++first;
+      continue;
+    }
+    std::uintmax_t count = 1;
+    while (count < perRun && first + count <= pages_ && !checked_[first + count - 1]) ++count;
+    const auto want = static_cast<std::size_t>(count * pageSize_);
+    if (ReadAt(file_.fd, run.get(), want, (first - 1) * pageSize_) != want) nex_ThrowCmd("the file cannot be read");
     for (std::uintmax_t k = 0; k < count; ++k) {
       const std::uintmax_t number = first + k;
       if (number == lockPage) continue;
-      const unsigned char* page = chunk.get() + k * pageSize;
+      const unsigned char* page = run.get() + k * pageSize_;
       std::uint64_t stored = 0;
       for (int i = dbf_kChecksumBytes - 1; i >= 0; --i) stored = (stored << 8) | page[body + static_cast<std::size_t>(i)];
       if (dbf_PageChecksum(page, body, static_cast<std::int64_t>(number)) != stored)
         Damaged(std::string("page ") + std::to_string(number) + " fails its checksum");
     }
+    first += count;
   }
 }
 
@@ -351,9 +353,11 @@ dbf_Reader::Nesting::Nesting(dbf_Reader& r) : reader_(r) {
 }
 
 dbf_ReadTable& dbf_Reader::TableOf(std::uint32_t storedClassId) const {
+  // The elements of a repository come one class after another: the last table found is tried first.
+  if (lastTable_ && lastTable_->storedTypeId == storedClassId) return *lastTable_;
   auto it = byStoredId_.find(storedClassId);
   if (it == byStoredId_.end()) Damaged(std::string("it refers to class id ") + std::to_string(storedClassId) + ", which its catalog lacks");
-  return *it->second;
+  return *(lastTable_ = it->second);
 }
 
 unsigned dbf_Reader::CurrentTypeId(std::uint32_t storedClassId) const {
@@ -722,5 +726,6 @@ std::vector<dbf_LoadedRoot> dbf_Reader::LoadRoots(const cls_ClassMetadata* requi
     if (t->loaded != t->rows)
       Damaged(std::to_string(t->rows - t->loaded) + " of the " + std::to_string(t->rows) + " rows of class " +
               t->className + " belong to nothing it holds");
+  CheckUnreadPages();
   return out;
 }

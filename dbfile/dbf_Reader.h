@@ -98,7 +98,8 @@ class dbf_Reader {
   dbf_Reader(const dbf_Reader&) = delete;
   dbf_Reader& operator=(const dbf_Reader&) = delete;
 
-  // Reads every root; then refuses rows that no root holds.
+  // Reads every root; then refuses rows that no root holds and any page, of those SQLite did not
+  // read, that fails its checksum.
   std::vector<dbf_LoadedRoot> LoadRoots(const cls_ClassMetadata* required);
 
   // --- for row readers ---
@@ -125,7 +126,7 @@ class dbf_Reader {
 
  private:
   void CheckFile(const std::string& path);
-  void VerifyPages(int fd, std::uint32_t pageSize, std::uintmax_t pages);
+  void CheckUnreadPages();
   void ReadMeta();
   void ReadCatalog();
   void PrepareTable(dbf_ReadTable& t);
@@ -145,9 +146,21 @@ class dbf_Reader {
   static bool MarkLoaded(dbf_ReadTable& t, std::int64_t oid);
 
   const dbc_UpgradeDriver& driver_;
+  struct File {
+    int fd = -1;
+    File() = default;
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+    ~File();
+  };
+  File file_;  // the file, open for the checks of the pages SQLite does not read
+  std::uint32_t pageSize_ = 0;
+  std::uintmax_t pages_ = 0;
+  std::vector<unsigned char> checked_;  // per page: its checksum was verified by a read of SQLite
   std::unique_ptr<dbf_Connection> conn_;
   int databaseVersion_ = 0;
   std::vector<std::unique_ptr<dbf_ReadTable>> tables_;
   std::unordered_map<std::uint32_t, dbf_ReadTable*> byStoredId_;
+  mutable dbf_ReadTable* lastTable_ = nullptr;  // the last one TableOf found
   int depth_ = 0;
 };

@@ -32,7 +32,9 @@ struct CkFile {
   sqlite3_file* real;  // the default VFS's file, placed right after this struct
   std::int64_t badPage;
   int mainDb;
-  int verified;  // every page was checked before SQLite reads any: reads skip the check
+  // Where a reader wants to know which pages a read checked (one byte per page), or null.
+  unsigned char* checked;
+  std::int64_t checkedPages;
 };
 static_assert(sizeof(CkFile) % 8 == 0);
 
@@ -52,7 +54,7 @@ int Close(sqlite3_file* f) {
 
 int Read(sqlite3_file* f, void* buf, int amount, sqlite3_int64 offset) {
   int rc = M(f)->xRead(Real(f), buf, amount, offset);
-  if (rc != SQLITE_OK || !Ck(f)->mainDb || Ck(f)->verified || !IsPage(amount, offset)) return rc;
+  if (rc != SQLITE_OK || !Ck(f)->mainDb || !IsPage(amount, offset)) return rc;
   auto* page = static_cast<const unsigned char*>(buf);
   std::int64_t number = offset / amount + 1;
   std::size_t body = static_cast<std::size_t>(amount - dbf_kChecksumBytes);
@@ -60,6 +62,7 @@ int Read(sqlite3_file* f, void* buf, int amount, sqlite3_int64 offset) {
     Ck(f)->badPage = number;
     return SQLITE_IOERR_DATA;
   }
+  if (Ck(f)->checked && number <= Ck(f)->checkedPages) Ck(f)->checked[number - 1] = 1;
   return SQLITE_OK;
 }
 
@@ -175,11 +178,12 @@ const char* dbf_ChecksumVfs() {
   return vfs.zName;
 }
 
-bool dbf_PagesVerified(sqlite3* db) {
+bool dbf_NoteCheckedPages(sqlite3* db, unsigned char* checked, std::int64_t pages) {
   sqlite3_file* f = nullptr;
   if (sqlite3_file_control(db, "main", SQLITE_FCNTL_FILE_POINTER, &f) != SQLITE_OK || !f || f->pMethods != &kMethods)
     return false;
-  Ck(f)->verified = 1;
+  Ck(f)->checked = checked;
+  Ck(f)->checkedPages = pages;
   return true;
 }
 

@@ -48,7 +48,9 @@ int cow_NaturalCompare(std::string_view a, std::string_view b) noexcept {
       while (ei < a.size() && IsDigit(a[ei])) ++ei;
       while (ej < b.size() && IsDigit(b[ej])) ++ej;
       if (ei - si != ej - sj) return ei - si < ej - sj ? -1 : 1;
-      if (int c = a.substr(si, ei - si).compare(b.substr(sj, ej - sj)); c != 0) return c < 0 ? -1 : 1;
+      // Runs of equal length: the first differing digit decides (a short loop, not a call).
+      for (std::size_t k = 0; k < ei - si; ++k)
+        if (a[si + k] != b[sj + k]) return a[si + k] < b[sj + k] ? -1 : 1;
       i = ei;
       j = ej;
       continue;

@@ -87,6 +87,7 @@ class mdl_KeyedRepository : public mem_Allocated,
   explicit mdl_KeyedRepository(const cls_ReadVisitor& r) : uid_(r.GetUid()) {
     std::vector<Key> keys = KeyPolicy::Read(r);
     std::vector<Handle> values;
+    values.reserve(keys.size());  // a file's keys and elements come in pairs
     r.ReadObjectList("values", [&](std::size_t, const cls_ReadVisitor* e) {
       if (!e) nex_ThrowCmd(std::string("The stored container ") + kClassName + " holds a null element");
       values.emplace_back(cls_NewFromReader<T>(*e));

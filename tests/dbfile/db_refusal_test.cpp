@@ -147,6 +147,21 @@ TEST_F(DbRefusal, EveryFlippedByteIsCaught) {
   EXPECT_EQ(reason.substr(reason.size() - 20), " fails its checksum)") << reason;
 }
 
+// Opening reads no index of the file's own tables; a changed byte there is refused all the same,
+// naming the page.
+TEST_F(DbRefusal, PagesNoRowIsReadFromAreChecked) {
+  const std::vector<std::string> roots =
+      dbtT_QueryColumn(good_, "SELECT rootpage FROM sqlite_master WHERE type = 'index' ORDER BY rootpage");
+  ASSERT_GE(roots.size(), 3u);
+  for (const std::string& root : roots) {
+    const std::size_t page = std::stoul(root);
+    auto flipped = bytes_;
+    flipped[(page - 1) * 16384 + 8000] ^= 0x04;
+    dbtT_WriteBytes(Path("index.odb"), flipped);
+    EXPECT_EQ(Reason(Path("index.odb")), "the file is damaged (page " + root + " fails its checksum)");
+  }
+}
+
 // Files whose pages are sound but whose rows contradict the format: what a faulty tool writing
 // through the checksums could leave.
 TEST_F(DbRefusal, RowsThatContradictTheFormat) {

@@ -180,7 +180,6 @@ void dbf_Reader::CheckUnreadPages() {
   const std::uintmax_t lockPage = (std::uintmax_t(1) << 30) / pageSize_ + 1;
   const std::uintmax_t perRun = std::max<std::uintmax_t>(1, (std::uintmax_t(1) << 16) / pageSize_);
   std::unique_ptr<unsigned char[]> run(new unsigned char[static_cast<std::size_t>(perRun * pageSize_)]);
-  const std::size_t body = pageSize_ - dbf_kChecksumBytes;
   for (std::uintmax_t first = 1; first <= pages_;) {
     if (checked_[first - 1] || first == lockPage) {
       ++first;
@@ -193,10 +192,7 @@ void dbf_Reader::CheckUnreadPages() {
     for (std::uintmax_t k = 0; k < count; ++k) {
       const std::uintmax_t number = first + k;
       if (number == lockPage) continue;
-      const unsigned char* page = run.get() + k * pageSize_;
-      std::uint64_t stored = 0;
-      for (int i = dbf_kChecksumBytes - 1; i >= 0; --i) stored = (stored << 8) | page[body + static_cast<std::size_t>(i)];
-      if (dbf_PageChecksum(page, body, static_cast<std::int64_t>(number)) != stored)
+      if (!dbf_PageIntact(run.get() + k * pageSize_, pageSize_, static_cast<std::int64_t>(number)))
         Damaged(std::string("page ") + std::to_string(number) + " fails its checksum");
     }
     first += count;

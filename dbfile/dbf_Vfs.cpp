@@ -55,10 +55,8 @@ int Close(sqlite3_file* f) {
 int Read(sqlite3_file* f, void* buf, int amount, sqlite3_int64 offset) {
   int rc = M(f)->xRead(Real(f), buf, amount, offset);
   if (rc != SQLITE_OK || !Ck(f)->mainDb || !IsPage(amount, offset)) return rc;
-  auto* page = static_cast<const unsigned char*>(buf);
   std::int64_t number = offset / amount + 1;
-  std::size_t body = static_cast<std::size_t>(amount - dbf_kChecksumBytes);
-  if (dbf_PageChecksum(page, body, number) != LoadLE(page + body)) {
+  if (!dbf_PageIntact(static_cast<const unsigned char*>(buf), static_cast<std::size_t>(amount), number)) {
     Ck(f)->badPage = number;
     return SQLITE_IOERR_DATA;
   }
@@ -150,6 +148,11 @@ std::uint64_t dbf_PageChecksum(const unsigned char* p, std::size_t n, std::int64
   h *= 0xFF51AFD7ED558CCDull;
   h ^= h >> 33;
   return h;
+}
+
+bool dbf_PageIntact(const unsigned char* page, std::size_t pageSize, std::int64_t pageNumber) {
+  const std::size_t body = pageSize - dbf_kChecksumBytes;
+  return dbf_PageChecksum(page, body, pageNumber) == LoadLE(page + body);
 }
 
 const char* dbf_ChecksumVfs() {

@@ -29,3 +29,6 @@ std::int64_t dbf_ChecksumFailedPage(sqlite3* db);
 
 // The checksum of the first `size` bytes of page `pageNumber` (1-based).
 std::uint64_t dbf_PageChecksum(const unsigned char* page, std::size_t size, std::int64_t pageNumber);
+// Whether a whole page as stored (pageSize bytes, its checksum in the last 8) holds the checksum
+// of its bytes and number.
+bool dbf_PageIntact(const unsigned char* page, std::size_t pageSize, std::int64_t pageNumber);

@@ -65,28 +65,3 @@ inline void kco_FillAway(void* obj, const cls_ClassMetadata& md, const cls_Recor
     EXPECT_FALSE(cls_ValueEqual(f.get(obj), now)) << "the filler left " << f.scriptName << " as it was";
   }
 }
-
-// A kind's registered layout: persistent names, numbers and attribute types in write order, and
-// the scripting name of each field.
-struct kco_Field {
-  const char* name;
-  int number;
-  int type;
-  const char* script;
-};
-
-inline void kco_ExpectLayout(const cls_ClassMetadata& md, const std::vector<kco_Field>& fields) {
-  ASSERT_EQ(md.Attributes().size(), fields.size());
-  for (std::size_t i = 0; i < fields.size(); ++i) {
-    SCOPED_TRACE(fields[i].name);
-    const cls_Attribute& a = md.Attributes()[i];
-    EXPECT_EQ(a.handle.Name(), fields[i].name);
-    EXPECT_EQ(a.handle.Number(), fields[i].number);
-    EXPECT_EQ(a.type, fields[i].type);
-    EXPECT_EQ(a.count, 1);
-    const cls_ScriptField* f = md.FindScriptField(fields[i].script);
-    ASSERT_NE(f, nullptr);
-    EXPECT_STREQ(f->persistentName, fields[i].name);
-  }
-  EXPECT_EQ(md.ScriptFields().size(), fields.size());
-}

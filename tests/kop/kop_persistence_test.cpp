@@ -47,25 +47,14 @@ TEST(KopRegistration, ParentsAndStoredFieldOrder) {
   EXPECT_FALSE(reg.ByName("kopC_OrimTask")->CanConstruct());
   EXPECT_EQ(AttributeNames("kopC_OrimTask"), (std::vector<std::string>{"algorithm", "tessarSensitivities", "groupOperator"}));
 
-  // A topology row: the task's part, the optimization module's part, then its own fields in
-  // their registration order (the 1629 soft-deletion fields last).
+  // A topology row starts with the task's part, then the optimization module's part.
   const std::vector<std::string> topology = AttributeNames("kopC_TopologyTask");
-  const std::vector<std::string> own(topology.begin() + 11, topology.end());
+  ASSERT_GT(topology.size(), 11u);
   EXPECT_EQ(std::vector<std::string>(topology.begin(), topology.begin() + 11),
             (std::vector<std::string>{"suppressed", "region", "constraintContainer", "designResponseContainer",
                                       "geometricRestrictionContainer", "objectiveFunctionContainer",
                                       "stopConditionContainer", "variableContainer", "algorithm", "tessarSensitivities",
                                       "groupOperator"}));
-  EXPECT_EQ(own, (std::vector<std::string>{
-                     "freezeLoadRegions", "freezeBoundaryConditionRegions", "multipleProcessors", "numIterations",
-                     "numFulfilledStopCriteria", "stopCriteriaIteration", "numTrackedModes", "firstCycleDeletedVolume",
-                     "initialDensity", "minDensity", "maxDensity", "densityMoveLimit", "filterRadius",
-                     "materialInterpolationPenalty", "objectiveFunctionDeltaStopCriteria",
-                     "elementDensityDeltaStopCriteria", "softDeletionAverageEdgeLength", "structuralMassDamping",
-                     "stiffnessMassDamping", "viscousMassDamping", "viscousStiffnessDamping", "frequencySpectrumWeight",
-                     "softDeletionRegion", "modeTrackingRegion", "stepSize", "firstCycleDeletedVolumeTechnique",
-                     "densityUpdateStrategy", "materialInterpolationTechnique", "softDeletionMethod",
-                     "softDeletionThreshold"}));
   // The one scripting name the command tests do not reach with a value of its own.
   EXPECT_STREQ(reg.ByName("kopC_BeadTask")->FindScriptField("minStress")->persistentName, "beadMinStress");
 }

@@ -1,7 +1,9 @@
 #include "dbfile/dbf_Format.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
+#include <string_view>
 
 #include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/persist/cls_Value.h"
@@ -54,10 +56,18 @@ std::string dbf_FieldTableHash(const std::vector<cls_Attribute>& attributes) {
       h *= 0x100000001b3ull;
     }
   };
+  // Each field as "name|number|type|count|collection\n", its numbers written into a buffer of the
+  // stack: the hash is taken twice per stored class each time a file opens.
+  char line[5 * 12];
   for (const cls_Attribute& a : attributes) {
     add(a.handle.Name().view());
-    add(std::string("|") + std::to_string(a.handle.Number()) + "|" + std::to_string(a.type) + "|" + std::to_string(a.count) +
-        "|" + std::to_string(a.collection) + "\n");
+    char* p = line;
+    for (int v : {a.handle.Number(), a.type, a.count, a.collection}) {
+      *p++ = '|';
+      p = std::to_chars(p, line + sizeof line, v).ptr;
+    }
+    *p++ = '\n';
+    add(std::string_view(line, static_cast<std::size_t>(p - line)));
   }
   static const char* kHex = "0123456789abcdef";
   std::string out(16, '0');

@@ -588,7 +588,9 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
           case dbf_Kind::BoolList: ok = dbf_ParseBoolList(text, v.emplace<std::vector<bool>>()); break;
           case dbf_Kind::TextList:
             ok = dbf_ParseTextList(text, v.emplace<std::vector<cow_String>>());
-            if (ok)
+            // Without escapes every element is a piece of the text between two quotes, so one pass
+            // over valid text clears them all; otherwise each is checked, and the first bad one named.
+            if (ok && (text.find('\\') != std::string_view::npos || dbf_InvalidUtf8At(text)))
               for (const cow_String& e : std::get<std::vector<cow_String>>(v)) CheckUtf8(t, row.oid, f, e.view());
             break;
           default: {

@@ -86,8 +86,8 @@ void dbf_SaveRoots(const std::vector<dbf_Root>& roots, const std::string& path, 
 std::vector<dbf_LoadedRoot> dbf_OpenRoots(const std::string& path, const dbc_UpgradeDriver* driver,
                                           const cls_ClassMetadata* required) {
   try {
-    std::unique_ptr<dbc_UpgradeDriver> own;
-    if (!driver) driver = (own = std::make_unique<dbc_UpgradeDriver>()).get();
+    std::shared_ptr<const dbc_UpgradeDriver> registered;
+    if (!driver) driver = (registered = dbc_UpgradeDriver::Registered()).get();
     dbf_Reader reader(path, *driver);
     return reader.LoadRoots(required);
   } catch (const std::exception& e) {

@@ -72,9 +72,12 @@ T dbf_RowReader::Get(const char* name, const char* kind) const {
   } else if constexpr (std::is_same_v<T, cow_String>) {
     if (stored == dbf_Kind::Text) return *c.text;
   } else {
-    if (c.value && stored != dbf_Kind::Int && stored != dbf_Kind::Double && stored != dbf_Kind::Bool &&
-        stored != dbf_Kind::Text)
+    if (stored != dbf_Kind::Int && stored != dbf_Kind::Double && stored != dbf_Kind::Bool && stored != dbf_Kind::Text) {
+      if (!c.value)  // handed over by TakeStringList
+        nex_ThrowCmd(std::string("row ") + std::to_string(row_.oid) + " of class " + row_.table->className +
+                     " has no field \"" + name + "\" left to read");
       if (const T* t = std::get_if<T>(c.value)) return *t;
+    }
   }
   Refuse(name, cls_WithArticle(dbf_KindName(stored)).c_str(), kind);
 }
@@ -100,6 +103,21 @@ std::vector<cow_String> dbf_RowReader::ReadStringList(const char* name) const {
 }
 std::vector<bool> dbf_RowReader::ReadBoolList(const char* name) const {
   return Get<std::vector<bool>>(name, "list of bools");
+}
+std::vector<cow_String> dbf_RowReader::TakeStringList(const char* name) const {
+  if (row_.upgraded) return ReadStringList(name);
+  const long found = Index(name);
+  if (found >= 0) {
+    const auto i = static_cast<std::size_t>(found);
+    cls_ReadCell& c = row_.cells[i];
+    if (row_.table->fields[i].kind == dbf_Kind::TextList && c.value) {
+      // The cell points into the row's own values: the list is moved out and the cell emptied.
+      auto& list = std::get<std::vector<cow_String>>(row_.values[i]);
+      c.value = nullptr;
+      return std::move(list);
+    }
+  }
+  return ReadStringList(name);  // refuses what is not a list of strings, as a read does
 }
 cow_2DArray<double> dbf_RowReader::ReadDoubleTable(const char* name) const {
   return Get<cow_2DArray<double>>(name, "table of doubles");

@@ -8,7 +8,8 @@
 
 class dbf_RowReader final : public cls_ReadVisitor {
  public:
-  dbf_RowReader(dbf_Reader& reader, const dbf_LoadedRow& row) noexcept : reader_(reader), row_(row) {}
+  // The row is the reader's to hand over lists from (TakeStringList).
+  dbf_RowReader(dbf_Reader& reader, dbf_LoadedRow& row) noexcept : reader_(reader), row_(row) {}
 
   cls_Uid GetUid() const override { return row_.uid; }
   unsigned GetTypeId() const override;
@@ -20,6 +21,7 @@ class dbf_RowReader final : public cls_ReadVisitor {
   std::vector<std::int32_t> ReadIntList(const char* name) const override;
   std::vector<double> ReadDoubleList(const char* name) const override;
   std::vector<cow_String> ReadStringList(const char* name) const override;
+  std::vector<cow_String> TakeStringList(const char* name) const override;
   std::vector<bool> ReadBoolList(const char* name) const override;
   cow_2DArray<double> ReadDoubleTable(const char* name) const override;
   bool ReadObject(const char* name, const cls_ReadFn& fn) const override;
@@ -38,6 +40,6 @@ class dbf_RowReader final : public cls_ReadVisitor {
   void WithChild(const dbf_Ref& ref, dbf_LoadedRow& child, F fn) const;
 
   dbf_Reader& reader_;
-  const dbf_LoadedRow& row_;
+  dbf_LoadedRow& row_;
   mutable std::size_t cursor_ = 0;
 };

@@ -8,6 +8,7 @@
 // private copy holds the same contents), then relinks, which cannot throw. Assigning over a value
 // relies on V's move assignment not throwing. Any change of a map invalidates its iterators.
 #include <atomic>
+#include <cassert>
 #include <cstddef>
 #include <functional>
 #include <iterator>
@@ -91,6 +92,14 @@ class cow_PersistentMap {
       tail_ = n;
       ++count_;
       return true;
+    }
+    // Append for a caller that has already compared: key must be greater than the last key.
+    void AppendGreater(K key, V value) {
+      assert(!tail_ || less_(tail_->kv.first, key));
+      Node* n = mem_New<Node>(std::move(key), std::move(value));
+      (tail_ ? tail_->right : head_) = n;
+      tail_ = n;
+      ++count_;
     }
     const K* Last() const noexcept { return tail_ ? &tail_->kv.first : nullptr; }
     std::size_t Count() const noexcept { return count_; }

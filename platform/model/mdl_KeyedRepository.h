@@ -37,7 +37,7 @@ struct mdl_NameKeys {
   using Key = cow_String;
   using Less = cow_NaturalLess;
   static constexpr int kListType = cls_AttrStringList;
-  static std::vector<Key> Read(const cls_ReadVisitor& r) { return r.ReadStringList("keys"); }
+  static std::vector<Key> Read(const cls_ReadVisitor& r) { return r.TakeStringList("keys"); }
   static void Write(const cls_WriteVisitor& w, const std::vector<Key>& keys) { w.WriteStringList("keys", keys); }
   static const cow_String& Text(const Key& k) { return k; }
   static std::string Shown(const Key& k) { return "\"" + k.str() + "\""; }
@@ -86,6 +86,11 @@ class mdl_KeyedRepository : public mem_Allocated,
   mdl_KeyedRepository& operator=(mdl_KeyedRepository&&) = default;
   explicit mdl_KeyedRepository(const cls_ReadVisitor& r) : uid_(r.GetUid()) {
     std::vector<Key> keys = KeyPolicy::Read(r);
+    // Keys are stored in the map's order, so the tree is built in one pass. How far that order
+    // holds is counted now, while the keys are fresh in the cache, not after the elements load.
+    const typename KeyPolicy::Less less;
+    std::size_t ordered = keys.empty() ? 0 : 1;
+    while (ordered < keys.size() && less(keys[ordered - 1], keys[ordered])) ++ordered;
     std::vector<Handle> values;
     values.reserve(keys.size());  // a file's keys and elements come in pairs
     r.ReadObjectList("values", [&](std::size_t, const cls_ReadVisitor* e) {
@@ -95,15 +100,10 @@ class mdl_KeyedRepository : public mem_Allocated,
     if (keys.size() != values.size())
       nex_ThrowCmd(std::string("The stored container ") + kClassName + " has " + std::to_string(keys.size()) +
                    " keys for " + std::to_string(values.size()) + " elements");
-    // Keys are stored in the map's order, so the tree is built in one pass, one comparison a key.
     // Keys out of that order (a file another tool wrote) go in one by one from the first of them.
     typename Map::Builder sorted;
-    const typename KeyPolicy::Less less;
     std::size_t i = 0;
-    for (; i < keys.size(); ++i) {
-      if (sorted.Last() && !less(*sorted.Last(), keys[i])) break;
-      sorted.Append(std::move(keys[i]), std::move(values[i]));
-    }
+    for (; i < ordered; ++i) sorted.AppendGreater(std::move(keys[i]), std::move(values[i]));
     items_ = std::move(sorted).Build();
     for (; i < keys.size(); ++i) {
       if (items_.count(keys[i]))

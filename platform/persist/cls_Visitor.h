@@ -101,6 +101,10 @@ class cls_ReadVisitor {
   virtual std::vector<std::int32_t> ReadIntList(const char* name) const = 0;
   virtual std::vector<double> ReadDoubleList(const char* name) const = 0;
   virtual std::vector<cow_String> ReadStringList(const char* name) const = 0;
+  // ReadStringList for a caller that reads the field once and keeps what it reads: a reader may
+  // hand over its own list instead of a copy (a repository's keys, by the ten thousand). The
+  // field reads as absent afterwards from a reader that does.
+  virtual std::vector<cow_String> TakeStringList(const char* name) const { return ReadStringList(name); }
   virtual std::vector<bool> ReadBoolList(const char* name) const = 0;
   virtual cow_2DArray<double> ReadDoubleTable(const char* name) const = 0;
   // Calls fn with the member's reader and returns true, or returns false for a null member.

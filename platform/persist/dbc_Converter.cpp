@@ -1,6 +1,7 @@
 #include "platform/persist/dbc_Converter.h"
 
 #include <algorithm>
+#include <mutex>
 #include <utility>
 
 #include "platform/base/nex_Exception.h"
@@ -80,6 +81,21 @@ dbc_UpgradeDriver::dbc_UpgradeDriver() {
 }
 
 dbc_UpgradeDriver::dbc_UpgradeDriver(const dbc_DatabaseConverter& steps) { Load(steps); }
+
+std::shared_ptr<const dbc_UpgradeDriver> dbc_UpgradeDriver::Registered() {
+  // Versions only ever register (a module started again registers its own again), so their
+  // count tells whether the driver made last still holds every step.
+  static std::mutex mutex;
+  static std::shared_ptr<const dbc_UpgradeDriver> driver;
+  static std::size_t versions = 0;
+  std::lock_guard<std::mutex> lock(mutex);
+  const std::size_t now = omi_Singleton<dbc_OldClassRegistrar>::Instance().Entries().size();
+  if (!driver || now != versions) {
+    driver = std::make_shared<const dbc_UpgradeDriver>();  // a refusal leaves the last one in place
+    versions = now;
+  }
+  return driver;
+}
 
 void dbc_UpgradeDriver::Load(const dbc_DatabaseConverter& steps) {
   for (const auto& [target, conv] : steps.Converters()) {

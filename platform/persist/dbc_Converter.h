@@ -4,6 +4,7 @@
 // conversion function that does it. The upgrade driver runs those steps over stored rows before
 // any class reads them.
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -140,6 +141,9 @@ class dbc_UpgradeDriver {
   // Collects the steps of every registered old class version.
   dbc_UpgradeDriver();
   explicit dbc_UpgradeDriver(const dbc_DatabaseConverter& steps);
+  // The driver of every registered old class version, made again only once more versions have
+  // registered since the last one: opening a file then costs no collection of its own.
+  static std::shared_ptr<const dbc_UpgradeDriver> Registered();
 
   // Upgrades the row in place. Refuses a version newer than current and a version from which no
   // chain of steps reaches current, with a nex_CmdException naming the class and versions.

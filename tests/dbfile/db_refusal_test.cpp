@@ -11,6 +11,10 @@
 #include "kad/kadC_AdptMeshCtrl.h"
 #include "dbfile/dbf_File.h"
 #include "dbfile/dbf_Format.h"
+#include "dbfile/dbf_Reader.h"
+#include "dbfile/dbf_RowReader.h"
+#include "platform/persist/cls_Family.h"
+#include "platform/persist/dbc_Converter.h"
 #include "platform/base/nex_Exception.h"
 #include "tests/dbfile/dbtT_Files.h"
 #include "tests/dbfile/dbtT_Sample.h"
@@ -247,6 +251,27 @@ TEST_F(DbRefusal, RowsThatContradictTheFormat) {
     dbtT_Edit(f, c.sql);
     EXPECT_EQ(Reason(f), c.reason);
   }
+}
+
+// A repository takes its keys from the row instead of copying them; a second read of the same
+// field then finds nothing to read, and says so, rather than an empty list.
+TEST_F(DbRefusal, KeysHandedOverByARowAreNotReadTwice) {
+  const dbc_UpgradeDriver driver;
+  dbf_Reader reader(good_, driver);
+  dbf_LoadedRow row;
+  reader.Load(dbf_Ref{1, cls_MetadataOf("kadC_AdptMeshCtrlCont").TypeId()}, row);
+  dbf_RowReader r(reader, row);
+  const std::vector<cow_String> keys = r.TakeStringList("keys");
+  ASSERT_EQ(keys.size(), 300u);
+  EXPECT_EQ(keys.front(), "C-1");
+  EXPECT_EQ(keys.back(), "C-300");
+  EXPECT_EQ(qmx_Catch<nex_CmdError>([&] { r.ReadStringList("keys"); }).Message(),
+            "row 1 of class kadC_AdptMeshCtrlCont has no field \"keys\" left to read");
+  // What is not a list of strings is refused as a read refuses it.
+  EXPECT_EQ(qmx_Catch<nex_CmdError>([&] { r.TakeStringList("values"); }).Message(),
+            "the field \"values\" of row 1 of class kadC_AdptMeshCtrlCont holds a list of objects, not a plain value");
+  EXPECT_EQ(qmx_Catch<nex_CmdError>([&] { r.TakeStringList("names"); }).Message(),
+            "row 1 of class kadC_AdptMeshCtrlCont has no field \"names\"");
 }
 
 TEST_F(DbRefusal, ObjectsNestedDeeperThanAnyModelAreRefused) {

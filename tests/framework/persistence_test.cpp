@@ -11,6 +11,7 @@
 #include "platform/persist/cls_Record.h"
 #include "platform/persist/dbc_Converter.h"
 #include "platform/base/nex_Exception.h"
+#include "platform/base/omi_Singleton.h"
 #include "tests/support/qmx_test.h"
 
 namespace {
@@ -234,6 +235,26 @@ TEST(UpgradeDriver, ConflictingStepsFromOneVersionAreRefused) {
   conv.GetConverter(829).Upgrade("Fake", 1, 302).BindConversionFunction(&StepA);
   conv.GetConverter(860).Upgrade("Fake", 1, 302).BindConversionFunction(&StepB);
   EXPECT_THROW(dbc_UpgradeDriver{conv}, nex_CmdError);
+}
+
+// An old class version that registers while the program runs, as a module started late does.
+struct LateVersion final : dbc_OldClassVersion {
+  void SchemaChanges(dbc_DatabaseConverter& c) override {
+    c.GetConverter(829).Upgrade("LateFake", 1, 302).BindConversionFunction(&StepA);
+  }
+};
+
+TEST(UpgradeDriver, TheRegisteredDriverIsMadeAgainOnlyOnceMoreVersionsRegister) {
+  qmx_StartLibrary();
+  const auto first = dbc_UpgradeDriver::Registered();
+  EXPECT_EQ(dbc_UpgradeDriver::Registered(), first);
+  EXPECT_FALSE(first->HasPath("LateFake", 302, 829));
+  omi_Singleton<dbc_OldClassRegistrar>::Instance().Register(cow_CountedHld<dbc_OldClassVersion>(new LateVersion), 0);
+  const auto second = dbc_UpgradeDriver::Registered();
+  ASSERT_NE(second, first);
+  EXPECT_TRUE(second->HasPath("LateFake", 302, 829));
+  EXPECT_EQ(dbc_UpgradeDriver::Registered(), second);
+  EXPECT_FALSE(first->HasPath("LateFake", 302, 829)) << "a driver handed out stays as it was made";
 }
 
 TEST(UpgradeDriver, OldRowCannotBeChanged) {

@@ -67,6 +67,25 @@ bool ParseUid(std::string_view t, cls_Uid& out) {
   return true;
 }
 
+// Whether two texts of one length hold the same bytes, compared a word at a time in place: an
+// enumeration literal is matched this way for every row, where a call to memcmp would cost more
+// than the comparison.
+bool SameBytes(const char* a, const char* b, std::size_t n) noexcept {
+  if (n < 8) {
+    for (std::size_t i = 0; i < n; ++i)
+      if (a[i] != b[i]) return false;
+    return true;
+  }
+  auto word = [](const char* p) {
+    std::uint64_t w;
+    std::memcpy(&w, p, 8);
+    return w;
+  };
+  for (std::size_t i = 0; i + 8 < n; i += 8)
+    if (word(a + i) != word(b + i)) return false;
+  return word(a + n - 8) == word(b + n - 8);  // the last word, overlapping the one before
+}
+
 [[noreturn]] void NotNumbered(const dbf_ReadTable& t) {
   Damaged("the rows of class " + t.className + " are not numbered 1 to " + std::to_string(t.rows));
 }
@@ -302,6 +321,7 @@ void dbf_Reader::ReadCatalog() {
     for (std::size_t i = 0; i < t->fields.size(); ++i) {
       if (t->fields[i].type == cls_AttrEnum) {
         t->fields[i].literals.reserve(dbf_ReadField::kMaxLiterals);
+        t->fields[i].views.reserve(dbf_ReadField::kMaxLiterals);
         t->fields[i].codes.reserve(dbf_ReadField::kMaxLiterals);
       }
       t->fields[i].key = cow_String(t->fields[i].name);
@@ -532,11 +552,14 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
         if (f.type == cls_AttrEnum) {
           // Enumeration literals repeat from row to row: one string per literal, shared.
           std::size_t k = 0;
-          while (k < f.literals.size() && f.literals[k].view() != text) ++k;
-          if (k == f.literals.size()) {
+          const std::size_t known = f.views.size();
+          while (k < known && !(f.views[k].size() == text.size() && SameBytes(f.views[k].data(), text.data(), text.size())))
+            ++k;
+          if (k == known) {
             CheckUtf8(t, row.oid, f, text);  // a literal met again was checked when first met
             if (k < dbf_ReadField::kMaxLiterals) {
               f.literals.emplace_back(text);
+              f.views.push_back(f.literals.back().view());  // the body stays where it is
               f.codes.emplace_back();
             }
           }

@@ -33,6 +33,7 @@ struct dbf_ReadField {
   // Enumeration literals seen so far, shared by every row, each with its value once a class has
   // read it; at most kMaxLiterals, reserved so that rows may point at them.
   std::vector<cow_String> literals;
+  std::vector<std::string_view> views;  // the literals' texts side by side, searched row by row
   std::vector<cls_LiteralCode> codes;
   static constexpr std::size_t kMaxLiterals = 64;
 };

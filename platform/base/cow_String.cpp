@@ -1,6 +1,7 @@
 #include "platform/base/cow_String.h"
 
 #include <atomic>
+#include <cstdint>
 #include <cstring>
 #include <ostream>
 
@@ -28,17 +29,12 @@ int cow_String::UseCount() const noexcept {
 }
 
 namespace {
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-}  // namespace
+bool IsDigit(char c) { return static_cast<unsigned char>(c - '0') < 10; }
 
-int cow_NaturalCompare(std::string_view a, std::string_view b) noexcept {
-  // Keys of one repository mostly share a prefix ("Part-1", "Part-2"): skip it, back to the start
-  // of the run of digits it ends in, since the bytes before that compare equal either way.
-  std::size_t same = 0;
-  const std::size_t shorter = a.size() < b.size() ? a.size() : b.size();
-  while (same < shorter && a[same] == b[same]) ++same;
-  while (same > 0 && IsDigit(a[same - 1])) --same;
-  std::size_t i = same, j = same;
+// Natural order from `from`, a place where both strings hold the same bytes before it and no run
+// of digits crosses it.
+int NaturalFrom(std::string_view a, std::string_view b, std::size_t from) noexcept {
+  std::size_t i = from, j = from;
   while (i < a.size() && j < b.size()) {
     if (IsDigit(a[i]) && IsDigit(b[j])) {
       std::size_t si = i, sj = j;
@@ -62,6 +58,46 @@ int cow_NaturalCompare(std::string_view a, std::string_view b) noexcept {
   if (i < a.size() || j < b.size()) return i < a.size() ? 1 : -1;
   int c = a.compare(b);  // "a01" and "a1" are naturally equal; keep the order total
   return c < 0 ? -1 : (c > 0 ? 1 : 0);
+}
+}  // namespace
+
+int cow_NaturalCompare(std::string_view a, std::string_view b) noexcept {
+  // Keys of one repository mostly share a prefix ("Part-1", "Part-2"): find the first byte that
+  // differs, eight bytes at a time over the shared part.
+  const std::size_t shorter = a.size() < b.size() ? a.size() : b.size();
+  std::size_t p = 0;
+  for (std::uint64_t x, y; p + 8 <= shorter; p += 8) {
+    std::memcpy(&x, a.data() + p, 8);
+    std::memcpy(&y, b.data() + p, 8);
+    if (x != y) break;
+  }
+  while (p < shorter && a[p] == b[p]) ++p;
+  if (p == a.size() && p == b.size()) return 0;
+  // Back to the start of the run of digits the shared part ends in: the bytes before it decide
+  // nothing.
+  std::size_t s = p;
+  while (s > 0 && IsDigit(a[s - 1])) --s;
+  const bool inRun = s < p || (p < shorter && IsDigit(a[p]) && IsDigit(b[p]));
+  if (!inRun) {
+    // The first difference lies outside any run of digits: that byte, or the end, decides.
+    if (p == a.size()) return -1;
+    if (p == b.size()) return 1;
+    return static_cast<unsigned char>(a[p]) < static_cast<unsigned char>(b[p]) ? -1 : 1;
+  }
+  if (a[s] != '0' && b[s] != '0') {
+    // Numbers without leading zeros: the longer run is the greater, and between runs of one
+    // length the first differing digit decides. Runs that end together, equal, leave the
+    // difference to what follows them.
+    std::size_t ea = p, eb = p;
+    while (ea < a.size() && IsDigit(a[ea])) ++ea;
+    while (eb < b.size() && IsDigit(b[eb])) ++eb;
+    if (ea != eb) return ea < eb ? -1 : 1;
+    if (p < ea) return a[p] < b[p] ? -1 : 1;
+    if (p == a.size()) return -1;
+    if (p == b.size()) return 1;
+    return static_cast<unsigned char>(a[p]) < static_cast<unsigned char>(b[p]) ? -1 : 1;
+  }
+  return NaturalFrom(a, b, s);  // leading zeros: the general walk
 }
 
 std::ostream& operator<<(std::ostream& os, const cow_String& s) { return os << s.view(); }

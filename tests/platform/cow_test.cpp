@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <random>
+#include <string_view>
 
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_COW.h"
@@ -157,6 +159,56 @@ TEST(CowString, NaturalOrder) {
   for (const auto& c : cases) {
     int r = cow_NaturalCompare(c.a, c.b);
     EXPECT_EQ((r > 0) - (r < 0), c.sign) << c.a << " vs " << c.b;
+  }
+}
+
+// The natural order the plain way, from the first byte: runs of digits by value (leading zeros
+// dropped, then the longer is greater, then digit by digit), other bytes as bytes, and ties by
+// plain byte order.
+int NaturalReference(std::string_view a, std::string_view b) {
+  auto digit = [](char c) { return c >= '0' && c <= '9'; };
+  std::size_t i = 0, j = 0;
+  while (i < a.size() && j < b.size()) {
+    if (digit(a[i]) && digit(b[j])) {
+      std::size_t ei = i, ej = j;
+      while (ei < a.size() && digit(a[ei])) ++ei;
+      while (ej < b.size() && digit(b[ej])) ++ej;
+      std::string_view x = a.substr(i, ei - i), y = b.substr(j, ej - j);
+      while (!x.empty() && x[0] == '0') x.remove_prefix(1);
+      while (!y.empty() && y[0] == '0') y.remove_prefix(1);
+      if (x.size() != y.size()) return x.size() < y.size() ? -1 : 1;
+      if (x != y) return x < y ? -1 : 1;
+      i = ei;
+      j = ej;
+    } else {
+      if (a[i] != b[j]) return static_cast<unsigned char>(a[i]) < static_cast<unsigned char>(b[j]) ? -1 : 1;
+      ++i;
+      ++j;
+    }
+  }
+  if (i < a.size() || j < b.size()) return i < a.size() ? 1 : -1;
+  return (a > b) - (a < b);
+}
+
+TEST(CowString, NaturalOrderAgreesWithThePlainWalk) {
+  // Keys from a few bytes, digits and zeros among them, many sharing long prefixes (past eight
+  // bytes, where the comparison skips words at a time).
+  std::mt19937 rng(20261125);
+  const std::string alphabet = "ab-0019\xC3";
+  const char* prefixes[] = {"", "", "Section-", "Section-1000000", "Part-0000007"};
+  auto tail = [&](std::string k) {
+    for (std::size_t n = rng() % 8; n > 0; --n) k += alphabet[rng() % alphabet.size()];
+    return k;
+  };
+  for (int n = 0; n < 200000; ++n) {
+    const std::string a = tail(prefixes[rng() % 5]), b = rng() % 4 == 0 ? a : tail(prefixes[rng() % 5]);
+    std::string c = a;  // near a: one byte changed, or a longer or shorter
+    if (!c.empty() && rng() % 2) c[rng() % c.size()] = alphabet[rng() % alphabet.size()];
+    const std::string longer = tail(a), shorter = a.substr(0, a.empty() ? 0 : rng() % a.size());
+    for (const std::string& other : {b, c, longer, shorter}) {
+      const int got = cow_NaturalCompare(a, other), want = NaturalReference(a, other);
+      ASSERT_EQ((got > 0) - (got < 0), want) << "\"" << a << "\" vs \"" << other << "\"";
+    }
   }
 }
 

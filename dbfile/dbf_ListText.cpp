@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 void dbf_AppendInt(std::string& out, std::int64_t v) {
@@ -306,7 +307,45 @@ bool dbf_ParseTextList(std::string_view text, std::vector<cow_String>& out) {
   });
 }
 
+namespace {
+
+// A list of references as the writer gives it, "[[1,829],null,[2,829]]": no blanks, numbers of
+// at most 18 digits. Read in one tight pass; false for anything else, which the general parser
+// then accepts or refuses.
+bool ParseRefListAsWritten(std::string_view text, std::vector<dbf_Ref>& out) {
+  const char* p = text.data();
+  const char* const end = p + text.size();
+  auto number = [&](std::int64_t& v) {
+    const char* first = p;
+    std::int64_t x = 0;
+    while (p != end && p - first < 18 && static_cast<unsigned char>(*p - '0') < 10) x = x * 10 + (*p++ - '0');
+    v = x;
+    return p != first;
+  };
+  if (p == end || *p++ != '[') return false;
+  if (p != end && *p == ']') return ++p == end;
+  while (true) {
+    if (end - p >= 4 && std::memcmp(p, "null", 4) == 0) {
+      out.push_back(dbf_Ref{});
+      p += 4;
+    } else {
+      std::int64_t oid, cls;
+      if (p == end || *p++ != '[' || !number(oid) || p == end || *p++ != ',' || !number(cls) || p == end || *p++ != ']')
+        return false;
+      if (oid <= 0 || cls > UINT32_MAX) return false;
+      out.push_back(dbf_Ref{oid, static_cast<std::uint32_t>(cls)});
+    }
+    if (p == end) return false;
+    if (*p == ']') return ++p == end;
+    if (*p++ != ',') return false;
+  }
+}
+
+}  // namespace
+
 bool dbf_ParseRefList(std::string_view text, std::vector<dbf_Ref>& out) {
+  out.clear();
+  if (ParseRefListAsWritten(text, out)) return true;
   out.clear();
   return ParseList(text, [&](Cursor& c) {
     if (c.EatWord("null")) {

@@ -243,8 +243,22 @@ void dbf_Reader::ReadCatalog() {
   const cls_ClassRegistrar& registrar = cls_ClassRegistrar::Instance();
   dbf_Statement catalog(conn_->Get(), "SELECT \"name\", \"typeId\", \"version\", \"fieldHash\", \"rows\" FROM " +
                                           dbf_Quote(dbf_kCatalogTable) + " ORDER BY rowid");
-  dbf_Statement fields(conn_->Get(), "SELECT \"name\", \"number\", \"type\", \"count\", \"collection\" FROM " +
-                                         dbf_Quote(dbf_kFieldsTable) + " WHERE \"class\" = ?1 ORDER BY \"position\"");
+  // Every class's stored fields in one pass, by class and position; each class then takes its run.
+  struct StoredField {
+    std::string cls, name;
+    int number, type, count, collection;
+  };
+  std::vector<StoredField> all;
+  {
+    dbf_Statement fields(conn_->Get(), "SELECT \"class\", \"name\", \"number\", \"type\", \"count\", \"collection\" FROM " +
+                                           dbf_Quote(dbf_kFieldsTable) + " ORDER BY \"class\", \"position\"");
+    while (fields.Step()) {
+      sqlite3_stmt* f = fields.Get();
+      all.push_back(StoredField{std::string(Text(f, 0)), std::string(Text(f, 1)), sqlite3_column_int(f, 2),
+                                sqlite3_column_int(f, 3), sqlite3_column_int(f, 4), sqlite3_column_int(f, 5)});
+    }
+  }
+  auto byClass = [](const StoredField& a, const StoredField& b) { return a.cls < b.cls; };
   while (catalog.Step()) {
     sqlite3_stmt* c = catalog.Get();
     if (sqlite3_column_type(c, 0) != SQLITE_TEXT || sqlite3_column_type(c, 1) != SQLITE_INTEGER ||
@@ -282,23 +296,22 @@ void dbf_Reader::ReadCatalog() {
 
     // The stored field table describes the stored columns; its hash guards it.
     std::vector<cls_Attribute> stored;
-    sqlite3_bind_text(fields.Get(), 1, t->className.c_str(), -1, SQLITE_TRANSIENT);
     int column = 2;
-    while (fields.Step()) {
-      sqlite3_stmt* f = fields.Get();
+    const StoredField key{t->className, {}, 0, 0, 0, 0};
+    const auto [first, last] = std::equal_range(all.begin(), all.end(), key, byClass);
+    for (auto it = first; it != last; ++it) {
       dbf_ReadField field;
-      field.name = Text(f, 0);
-      field.type = sqlite3_column_int(f, 2);
+      field.name = it->name;
+      field.type = it->type;
       if (!dbf_KindOf(field.type, field.kind))
         Damaged("the field \"" + field.name + "\" of class " + t->className + " has an unknown type");
       field.column = column;
       column += field.kind == dbf_Kind::Object ? 2 : 1;
       t->hasObjects = t->hasObjects || field.kind == dbf_Kind::Object || field.kind == dbf_Kind::ObjectList;
-      stored.push_back(cls_Attribute{cls_FieldHandle(sqlite3_column_int(f, 1), field.name.c_str()), field.type,
-                                     sqlite3_column_int(f, 3), sqlite3_column_int(f, 4)});
+      stored.push_back(
+          cls_Attribute{cls_FieldHandle(it->number, field.name.c_str()), field.type, it->count, it->collection});
       t->fields.push_back(std::move(field));
     }
-    fields.Reset();
     if (dbf_FieldTableHash(stored) != hash) Damaged("the stored fields of class " + t->className + " do not match their hash");
     if (t->rename) {
       if (t->cls && !driver_.HasPath(t->rename->NewName(), t->rename->Target(), current))
@@ -500,6 +513,7 @@ void dbf_Reader::Rename(dbf_LoadedRow& row) {
   dbf_ReadTable& t = *row.table;
   const cls_Record old = RawRecord(row);
   auto up = Reuse(row);
+  up->record.fields.clear();  // the rename's conversion builds the row from nothing
   up->record.typeId = t.cls->TypeId();
   up->record.uid = row.uid;
   Source source(*this, *up);
@@ -648,6 +662,20 @@ cls_Value dbf_Reader::ValueOf(const dbf_LoadedRow& row, std::size_t i) {
   }
 }
 
+void dbf_Reader::AssignValue(const dbf_LoadedRow& row, std::size_t i, cls_Value& out) {
+  const cls_ReadCell& c = row.cells[i];
+  switch (row.table->fields[i].kind) {
+    case dbf_Kind::Int: out = static_cast<std::int32_t>(c.integer); return;
+    case dbf_Kind::Double: out = c.number; return;
+    case dbf_Kind::Bool: out = c.integer != 0; return;
+    case dbf_Kind::Text:
+      if (auto* text = std::get_if<cow_String>(&out)) *text = *c.text;
+      else out = *c.text;
+      return;
+    default: out = row.values[i]; return;
+  }
+}
+
 bool dbf_Reader::Positional(dbf_ReadTable& t, const cls_FieldLayout& layout) {
   for (const auto& [known, matches] : t.layouts)
     if (known == &layout) return matches;
@@ -665,7 +693,10 @@ void dbf_Reader::Upgrade(dbf_LoadedRow& row) {
   auto up = Reuse(row);
   up->record.typeId = t.cls->TypeId();
   up->record.uid = row.uid;
-  up->record.fields.reserve(t.fields.size());
+  // The fields go into the slots the last row left, by assignment: the names and most values
+  // are the bodies those slots already hold, so copying them changes no reference counts.
+  auto& fields = up->record.fields;
+  fields.resize(t.fields.size());
   auto stub = [&](const dbf_Ref& ref) -> cls_RecordPtr {
     if (ref.oid == 0) return nullptr;
     auto rec = std::make_shared<cls_Record>();
@@ -675,15 +706,17 @@ void dbf_Reader::Upgrade(dbf_LoadedRow& row) {
   };
   for (std::size_t i = 0; i < t.fields.size(); ++i) {
     const dbf_ReadField& f = t.fields[i];
+    fields[i].first = f.key;
+    cls_Value& v = fields[i].second;
     if (f.kind == dbf_Kind::Object) {
       cls_RecordPtr p = stub(row.refs[row.spans[i].first]);
-      up->record.fields.emplace_back(f.key, p ? cls_Value(p) : cls_Value());
+      v = p ? cls_Value(p) : cls_Value();
     } else if (f.kind == dbf_Kind::ObjectList) {
       std::vector<cls_RecordPtr> list;
       for (std::uint32_t k = 0; k < row.spans[i].second; ++k) list.push_back(stub(row.refs[row.spans[i].first + k]));
-      up->record.fields.emplace_back(f.key, std::move(list));
+      v = std::move(list);
     } else {
-      up->record.fields.emplace_back(f.key, ValueOf(row, i));
+      AssignValue(row, i, v);
     }
   }
   dbc_UpgradeDriver::Run(t.steps, up->record, up->scratch);
@@ -693,7 +726,6 @@ void dbf_Reader::Upgrade(dbf_LoadedRow& row) {
 std::unique_ptr<dbf_LoadedRow::Upgraded> dbf_Reader::Reuse(dbf_LoadedRow& row) {
   if (!row.spare) return std::make_unique<dbf_LoadedRow::Upgraded>();
   std::unique_ptr<dbf_LoadedRow::Upgraded> up = std::move(row.spare);
-  up->record.fields.clear();
   up->stubs.clear();
   return up;
 }

@@ -124,6 +124,8 @@ class dbf_Reader {
   static bool Positional(dbf_ReadTable& t, const cls_FieldLayout& layout);
   // A stored field of a loaded row as a record value.
   static cls_Value ValueOf(const dbf_LoadedRow& row, std::size_t field);
+  // The same into a value that may already hold one of its kind, assigned in place.
+  static void AssignValue(const dbf_LoadedRow& row, std::size_t field, cls_Value& out);
 
  private:
   void CheckFile(const std::string& path);
@@ -135,7 +137,8 @@ class dbf_Reader {
   sqlite3_stmt* Position(dbf_ReadTable& t, std::int64_t oid);
   void Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row);
   void Upgrade(dbf_LoadedRow& row);
-  // The row's spare upgrade storage, emptied, or a new one.
+  // The row's spare upgrade storage (its record as the last row left it, its stubs emptied), or
+  // a new one.
   static std::unique_ptr<dbf_LoadedRow::Upgraded> Reuse(dbf_LoadedRow& row);
   // Renamed classes: the row built by the rename's conversion, then carried up its new chain.
   void Rename(dbf_LoadedRow& row);

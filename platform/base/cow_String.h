@@ -20,6 +20,8 @@ class cow_String {
   }
   cow_String(cow_String&& o) noexcept : body_(o.body_) { o.body_ = nullptr; }
   cow_String& operator=(const cow_String& o) noexcept {
+    // The same body again (a key or literal a reused record already holds): no count changes.
+    if (body_ == o.body_) return *this;
     cow_String tmp(o);
     std::swap(body_, tmp.body_);
     return *this;

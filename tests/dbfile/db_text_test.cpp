@@ -4,10 +4,13 @@
 
 #include <bit>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <limits>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "dbfile/dbf_ListText.h"
 #include "dbfile/dbf_TableBlob.h"
@@ -75,12 +78,30 @@ TEST(DbText, ListsComeBackFromTheirText) {
   EXPECT_EQ(t[2].view(), "\xC3\xA9\xF0\x9F\x98\x80");
   EXPECT_EQ(t[3].view(), "/\n");
   EXPECT_EQ(t[4].view(), "raw \xC3\xA9");
-  std::vector<dbf_Ref> r;
-  ASSERT_TRUE(dbf_ParseRefList("[[3,40370177],null]", r));
-  ASSERT_EQ(r.size(), 2u);
-  EXPECT_EQ(r[0].oid, 3);
-  EXPECT_EQ(r[0].classId, 40370177u);
-  EXPECT_EQ(r[1].oid, 0);
+  // References as the writer gives them and as another tool might (blanks, long numbers, leading
+  // zeros): the same list either way.
+  struct RefCase {
+    const char* text;
+    std::vector<std::pair<std::int64_t, std::uint32_t>> refs;
+  };
+  const RefCase refCases[] = {
+      {"[[3,40370177],null]", {{3, 40370177u}, {0, 0u}}},
+      {" [ [3 , 40370177] ,\tnull ] ", {{3, 40370177u}, {0, 0u}}},
+      {"[]", {}},
+      {"[ ]", {}},
+      {"[null,null]", {{0, 0u}, {0, 0u}}},
+      {"[[9223372036854775807,4294967295]]", {{INT64_MAX, 4294967295u}}},
+      {"[[007,0]]", {{7, 0u}}},
+  };
+  for (const RefCase& c : refCases) {
+    std::vector<dbf_Ref> r;
+    ASSERT_TRUE(dbf_ParseRefList(c.text, r)) << c.text;
+    ASSERT_EQ(r.size(), c.refs.size()) << c.text;
+    for (std::size_t k = 0; k < r.size(); ++k) {
+      EXPECT_EQ(r[k].oid, c.refs[k].first) << c.text;
+      EXPECT_EQ(r[k].classId, c.refs[k].second) << c.text;
+    }
+  }
 
   // Every double survives its text exactly.
   std::vector<double> all = {0.1, 1.0 / 3, -2.5e-308, 1.7976931348623157e308, 4.9e-324, 123456789.125};
@@ -105,7 +126,9 @@ TEST(DbText, MalformedListsAreRefused) {
                           "[1]", "[\"a\" \"b\"]"})
     EXPECT_FALSE(dbf_ParseTextList(bad, t)) << bad;
   std::vector<dbf_Ref> r;
-  for (const char* bad : {"[[0,1]]", "[[-1,1]]", "[[1]]", "[[1,2,3]]", "[[1,-2]]", "[[1,4294967296]]", "[1]", "[[1,2]"})
+  for (const char* bad : {"[[0,1]]", "[[-1,1]]", "[[1]]", "[[1,2,3]]", "[[1,-2]]", "[[1,4294967296]]", "[1]", "[[1,2]",
+                          "[[1,2],]", "[[1,2]]x", "[null", "[nul]", "[[1.5,2]]", "[[1,2e3]]", "[[9223372036854775808,1]]",
+                          "[[1,2]][", "[[1,99999999999999999999]]"})
     EXPECT_FALSE(dbf_ParseRefList(bad, r)) << bad;
 }
 

@@ -652,14 +652,9 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
 }
 
 cls_Value dbf_Reader::ValueOf(const dbf_LoadedRow& row, std::size_t i) {
-  const cls_ReadCell& c = row.cells[i];
-  switch (row.table->fields[i].kind) {
-    case dbf_Kind::Int: return static_cast<std::int32_t>(c.integer);
-    case dbf_Kind::Double: return c.number;
-    case dbf_Kind::Bool: return c.integer != 0;
-    case dbf_Kind::Text: return *c.text;
-    default: return row.values[i];
-  }
+  cls_Value v;
+  AssignValue(row, i, v);
+  return v;
 }
 
 void dbf_Reader::AssignValue(const dbf_LoadedRow& row, std::size_t i, cls_Value& out) {

@@ -87,17 +87,14 @@ class cow_PersistentMap {
     // False, and nothing appended, when key is not greater than the last key appended.
     bool Append(K key, V value) {
       if (tail_ && !less_(tail_->kv.first, key)) return false;
-      Node* n = mem_New<Node>(std::move(key), std::move(value));
-      (tail_ ? tail_->right : head_) = n;  // the pending nodes form a list through right
-      tail_ = n;
-      ++count_;
+      AppendGreater(std::move(key), std::move(value));
       return true;
     }
     // Append for a caller that has already compared: key must be greater than the last key.
     void AppendGreater(K key, V value) {
       assert(!tail_ || less_(tail_->kv.first, key));
       Node* n = mem_New<Node>(std::move(key), std::move(value));
-      (tail_ ? tail_->right : head_) = n;
+      (tail_ ? tail_->right : head_) = n;  // the pending nodes form a list through right
       tail_ = n;
       ++count_;
     }

@@ -77,13 +77,14 @@ int cow_NaturalCompare(std::string_view a, std::string_view b) noexcept {
   // nothing.
   std::size_t s = p;
   while (s > 0 && IsDigit(a[s - 1])) --s;
-  const bool inRun = s < p || (p < shorter && IsDigit(a[p]) && IsDigit(b[p]));
-  if (!inRun) {
-    // The first difference lies outside any run of digits: that byte, or the end, decides.
+  // The byte at p, or the end of either string, deciding alone.
+  auto byteAtP = [&] {
     if (p == a.size()) return -1;
     if (p == b.size()) return 1;
     return static_cast<unsigned char>(a[p]) < static_cast<unsigned char>(b[p]) ? -1 : 1;
-  }
+  };
+  const bool inRun = s < p || (p < shorter && IsDigit(a[p]) && IsDigit(b[p]));
+  if (!inRun) return byteAtP();  // the first difference lies outside any run of digits
   if (a[s] != '0' && b[s] != '0') {
     // Numbers without leading zeros: the longer run is the greater, and between runs of one
     // length the first differing digit decides. Runs that end together, equal, leave the
@@ -92,10 +93,7 @@ int cow_NaturalCompare(std::string_view a, std::string_view b) noexcept {
     while (ea < a.size() && IsDigit(a[ea])) ++ea;
     while (eb < b.size() && IsDigit(b[eb])) ++eb;
     if (ea != eb) return ea < eb ? -1 : 1;
-    if (p < ea) return a[p] < b[p] ? -1 : 1;
-    if (p == a.size()) return -1;
-    if (p == b.size()) return 1;
-    return static_cast<unsigned char>(a[p]) < static_cast<unsigned char>(b[p]) ? -1 : 1;
+    return p < ea ? (a[p] < b[p] ? -1 : 1) : byteAtP();
   }
   return NaturalFrom(a, b, s);  // leading zeros: the general walk
 }

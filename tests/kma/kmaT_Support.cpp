@@ -116,3 +116,23 @@ void kmaT_ExpectOldLayoutsRead(const std::string& dir, const std::vector<kmaT_Ol
     ExpectMembers(ReopenOldLayout(file, c), c.slot, c.expected);
   }
 }
+
+kmaC_MaterialTable Table(std::initializer_list<std::initializer_list<double>> rows) {
+  return kmaC_MaterialTable(cow_2DArray<double>(rows));
+}
+
+kmaC_MaterialContainer& Materials(ddr_Database& db, const char* model) {
+  return dynamic_cast<kmaC_MaterialContainer&>(*db.ModifyModel(model)->ModifyRepository("materials"));
+}
+
+cmd_Json Ok(cmd_Session& s, const std::string& line) {
+  cmd_Json r = s.ExecuteLine(line);
+  EXPECT_TRUE(r.value("ok", false)) << line << " -> " << r.dump();
+  return r.contains("result") ? r["result"] : cmd_Json();
+}
+
+std::string Refusal(cmd_Session& s, const std::string& line) {
+  cmd_Json r = s.ExecuteLine(line);
+  EXPECT_FALSE(r.value("ok", true)) << line;
+  return r.contains("error") ? r["error"].value("message", "") : "";
+}

@@ -7,11 +7,29 @@
 #include <vector>
 
 #include "command/cmd_Session.h"
+#include "kma/kmaC_MaterialContainer.h"
+#include "kma/kmaC_MaterialTable.h"
 #include "kma/kmaC_assert.h"
+#include "platform/model/ddr_Database.h"
 #include "platform/base/nex_Exception.h"
 #include "tests/support/qmx_test.h"
 
 inline void kmaT_Start() { qmx_StartLibrary(); }
+
+// Messages of the material error table that many cases expect.
+inline constexpr char kDependencies[] = "Number of dependencies specified is less than the minimum.";
+inline constexpr char kBlankRow[] =
+    "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s).";
+inline constexpr const char* kZeroRow = kBlankRow;
+
+// A material table of the given rows.
+kmaC_MaterialTable Table(std::initializer_list<std::initializer_list<double>> rows);
+// The materials repository of a model of db.
+kmaC_MaterialContainer& Materials(ddr_Database& db, const char* model = "Model-1");
+// Runs one script line that must succeed, and returns its result.
+cmd_Json Ok(cmd_Session& s, const std::string& line);
+// Runs one script line that must fail, and returns its message.
+std::string Refusal(cmd_Session& s, const std::string& line);
 
 // Runs fn, which must fail validation through kmaC_Assert with exactly this message.
 void kmaT_ExpectFailure(const std::function<void()>& fn, const std::string& message);

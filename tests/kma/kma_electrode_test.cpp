@@ -22,7 +22,6 @@
 
 namespace {
 
-const char* const kDependencies = "Number of dependencies specified is less than the minimum.";
 
 kmaC_ElectrodeParticle Particle(double radius) {
   kmaC_ElectrodeParticle p;
@@ -86,7 +85,6 @@ TEST_F(KmaElectrode, SubOptionNamesAreRefusedWithTheElectrodesAndTheParticlesMes
 
 TEST(KmaElectrodeRules, TheListsAreValidatedInOrderAfterTheElectrodesOwnRules) {
   kmaT_Start();
-  const char* const kZeroRow = "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s).";
   {
     kmaC_Electrode e = TwoParticleElectrode();
     EXPECT_NO_THROW(e.AssertValid());
@@ -112,12 +110,6 @@ TEST(KmaElectrodeRules, TheListsAreValidatedInOrderAfterTheElectrodesOwnRules) {
     p.SetDiffusivity(d);
     kmaT_ExpectFailure([&] { p.AssertValid(); }, kDependencies);
   }
-}
-
-cmd_Json Ok(cmd_Session& s, const std::string& line) {
-  cmd_Json r = s.ExecuteLine(line);
-  EXPECT_TRUE(r.value("ok", false)) << line << " -> " << r.dump();
-  return r.contains("result") ? r["result"] : cmd_Json();
 }
 
 TEST(KmaElectrodeScript, ParticlesAndLayersAreAddedByScript) {

@@ -41,10 +41,6 @@ const std::vector<std::pair<std::string, int>> kOrder = {
     {"laRC05DamageInitiation", 82}, {"hosfordCoulombDamageInitiation", 83}, {"electrolyte", 84}, {"electrode", 85},
 };
 
-kmaC_MaterialTable Table(std::initializer_list<std::initializer_list<double>> rows) {
-  return kmaC_MaterialTable(cow_2DArray<double>(rows));
-}
-
 kmaC_Material Steel() {
   kmaC_Material m;
   m.SetDescription("Structural steel");
@@ -145,10 +141,6 @@ class KmaFile : public ::testing::Test {
   }
   std::string dir_;
 };
-
-kmaC_MaterialContainer& Materials(ddr_Database& db, const char* model = "Model-1") {
-  return dynamic_cast<kmaC_MaterialContainer&>(*db.ModifyModel(model)->ModifyRepository("materials"));
-}
 
 TEST_F(KmaFile, MaterialsWithElasticAndPlasticRoundTripThroughTheFile) {
   ddr_Database db;

@@ -24,7 +24,6 @@ namespace {
 using FC = kmaC_FieldConstituent;
 constexpr double kBlank = 1.7976931348623157e308;
 
-const char* const kDependencies = "Number of dependencies specified is less than the minimum.";
 const char* const kFraction = "The value of constituent volume fraction must be less than one and greater than zero.";
 const char* const kTable = "Constituent table is incomplete.";
 const char* const kIsotropization = "The value of isotropization coefficient must be greater than or equal to one";
@@ -32,7 +31,6 @@ const char* const kBlankRatio = "Aspect ratio must be blank for cylinder-shaped 
 const char* const kOne = "Aspect ratio must be one for spherical-shaped inclusions.";
 const char* const kBelowOne = "Aspect ratio must be less than one for oblate-shaped or penny-shaped inclusions.";
 const char* const kAboveOne = "Aspect ratio must be greater than one for prolate-shaped.";
-const char* const kZeroRow = "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s).";
 
 FC Inclusion(FC::ShapeEnm shape, double ratio) {
   FC c;
@@ -154,12 +152,6 @@ TEST(KmaFieldConstituentShortcut, ReachesTheConstituentByNameAndSeparatesItOnMod
   EXPECT_EQ(omu_ChangeHistory::Instance().Entries(), expected);
   EXPECT_EQ(kmaC_FieldConstituentShortcut(kmaC_FieldConstituentInFieldConstituentContainerShortcut("Resin")).ConstGet(model),
             nullptr);
-}
-
-cmd_Json Ok(cmd_Session& s, const std::string& line) {
-  cmd_Json r = s.ExecuteLine(line);
-  EXPECT_TRUE(r.value("ok", false)) << line << " -> " << r.dump();
-  return r.contains("result") ? r["result"] : cmd_Json();
 }
 
 TEST(KmaMeanFieldScript, AHomogenizedCompositeIsBuiltByScriptAndCarriedThroughTheFile) {

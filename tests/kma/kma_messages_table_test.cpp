@@ -90,7 +90,6 @@ const char* const kStated[] = {
 };
 static_assert(std::size(kStated) == 76);
 
-const std::string kBlankRow = "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s).";
 
 TEST(KmaMessages, EveryCodeThrowsItsSentenceFromTheAssertSource) {
   for (int code = 0; code < 76; ++code) {

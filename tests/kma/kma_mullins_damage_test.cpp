@@ -28,8 +28,6 @@
 
 namespace {
 
-const std::string kDependencies = "Number of dependencies specified is less than the minimum.";
-const std::string kBlankRow = "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s).";
 const std::string kBeta = "The value of beta should be greater than or equal to zero.";
 const std::string kM = "The value of m should be greater than or equal to zero.";
 const std::string kR = "The value of r should be greater than 1.";
@@ -48,10 +46,6 @@ const std::string kDuplicateIndex = "More than one damage evolutions with same f
 const std::string kTooMany = "Number of damage evolutions in the list exceed permissible count.";
 const std::string kPoissonLow = "The poisson's ratio given is less than the minimum.";
 const std::string kPoissonHigh = "The poisson's ratio given is greater than the maximum.";
-
-kmaC_MaterialTable Table(std::initializer_list<std::initializer_list<double>> rows) {
-  return kmaC_MaterialTable(cow_2DArray<double>(rows));
-}
 
 template <class O>
 kmaC_MaterialOptionList ListOf(std::initializer_list<O> items) {

@@ -14,17 +14,6 @@
 
 namespace {
 
-cmd_Json Ok(cmd_Session& s, const std::string& line) {
-  cmd_Json r = s.ExecuteLine(line);
-  EXPECT_TRUE(r.value("ok", false)) << line << " -> " << r.dump();
-  return r.contains("result") ? r["result"] : cmd_Json();
-}
-std::string Refusal(cmd_Session& s, const std::string& line) {
-  cmd_Json r = s.ExecuteLine(line);
-  EXPECT_FALSE(r.value("ok", true)) << line;
-  return r.contains("error") ? r["error"].value("message", "") : "";
-}
-
 TEST(KmaMullinsScript, TestDataListsAreBuiltByPathAndValidated) {
   kmaT_Start();
   cmd_Session s;

@@ -24,15 +24,9 @@ using HardeningEnum = omu_PrimEnum<Hardening, 1>;
 using DataTypeEnum = omu_PrimEnum<DataType, 1>;
 using ExtrapolationEnum = omu_PrimEnum<kmaC_Plastic::ExtrapolationEnm, 1>;
 
-const std::string kDependencies = "Number of dependencies specified is less than the minimum.";
 const std::string kExclusive = "No compression and No tension are mutually exclusive. Please unselect one of them.";
-const std::string kBlankRow = "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s).";
 const std::string kFirstYield = "The plastic strain at first yield must be zero.";
 const std::string kIncomplete = "Constituent table is incomplete.";
-
-kmaC_MaterialTable Table(std::initializer_list<std::initializer_list<double>> rows) {
-  return kmaC_MaterialTable(cow_2DArray<double>(rows));
-}
 
 // One case: a change to a default option and the message it must fail with ("" = passes).
 template <class O>

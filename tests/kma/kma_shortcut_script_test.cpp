@@ -174,12 +174,12 @@ TEST_F(KmaShortcut, SubOptionShortcutsResolveAndSeparateOnModification) {
 // --- the command layer --------------------------------------------------------------------------
 
 cmd_Json RunLine(cmd_Session& s, const std::string& line) { return s.ExecuteLine(line); }
-cmd_Json Ok(cmd_Session& s, const std::string& line) {
+cmd_Json ScriptOk(cmd_Session& s, const std::string& line) {
   cmd_Json r = RunLine(s, line);
   EXPECT_TRUE(r.value("ok", false)) << line << " -> " << r.dump();
   return r.contains("result") ? r["result"] : cmd_Json();
 }
-std::string Refusal(cmd_Session& s, const std::string& line) {
+std::string ScriptRefusal(cmd_Session& s, const std::string& line) {
   cmd_Json r = RunLine(s, line);
   EXPECT_FALSE(r.value("ok", true)) << line;
   return r.contains("error") ? r["error"].value("message", "") : "";
@@ -188,28 +188,28 @@ std::string Refusal(cmd_Session& s, const std::string& line) {
 TEST(KmaScript, MaterialsAreBuiltReadAndRefusedByScriptingNames) {
   kmaT_Start();
   cmd_Session s;
-  Ok(s, R"({"op":"create","path":["M"]})");
-  Ok(s, R"({"op":"create","path":["M","materials","Steel"],"type":"Material","values":{"description":"S355"}})");
-  Ok(s, R"({"op":"set","path":["M","materials","Steel","elastic"],"type":"Elastic",
+  ScriptOk(s, R"({"op":"create","path":["M"]})");
+  ScriptOk(s, R"({"op":"create","path":["M","materials","Steel"],"type":"Material","values":{"description":"S355"}})");
+  ScriptOk(s, R"({"op":"set","path":["M","materials","Steel","elastic"],"type":"Elastic",
             "values":{"moduli":"INSTANTANEOUS","table":[[210000,0.3]]}})");
-  Ok(s, R"({"op":"set","path":["M","materials","Steel"],"values":{"plastic":{"type":"Plastic","hardening":"KINEMATIC",
+  ScriptOk(s, R"({"op":"set","path":["M","materials","Steel"],"values":{"plastic":{"type":"Plastic","hardening":"KINEMATIC",
             "table":[[355,0],[470,0.2]]}}})");
-  EXPECT_EQ(Ok(s, R"({"op":"get","path":["M","materials","Steel","elastic","moduli"]})"), "INSTANTANEOUS");
-  EXPECT_EQ(Ok(s, R"({"op":"get","path":["M","materials","Steel","plastic","hardening"]})"), "KINEMATIC");
-  EXPECT_EQ(Ok(s, R"({"op":"get","path":["M","materials","Steel","plastic","extrapolation"]})"), "CONSTANT");
-  EXPECT_EQ(Ok(s, R"({"op":"get","path":["M","materials","Steel","density"]})"), cmd_Json(nullptr));
-  Ok(s, R"({"op":"set","path":["M","materials","Steel","elastic","failStrain"],"type":"FailStrain",
+  EXPECT_EQ(ScriptOk(s, R"({"op":"get","path":["M","materials","Steel","elastic","moduli"]})"), "INSTANTANEOUS");
+  EXPECT_EQ(ScriptOk(s, R"({"op":"get","path":["M","materials","Steel","plastic","hardening"]})"), "KINEMATIC");
+  EXPECT_EQ(ScriptOk(s, R"({"op":"get","path":["M","materials","Steel","plastic","extrapolation"]})"), "CONSTANT");
+  EXPECT_EQ(ScriptOk(s, R"({"op":"get","path":["M","materials","Steel","density"]})"), cmd_Json(nullptr));
+  ScriptOk(s, R"({"op":"set","path":["M","materials","Steel","elastic","failStrain"],"type":"FailStrain",
             "values":{"dependencies":1}})");
-  Ok(s, R"({"op":"validate","path":["M","materials","Steel"]})");
+  ScriptOk(s, R"({"op":"validate","path":["M","materials","Steel"]})");
 
   // Refusals change nothing.
   const std::string wrongLiteral =
-      Refusal(s, R"({"op":"set","path":["M","materials","Steel","elastic","moduli"],"value":"long_term"})");
+      ScriptRefusal(s, R"({"op":"set","path":["M","materials","Steel","elastic","moduli"],"value":"long_term"})");
   EXPECT_EQ(wrongLiteral.rfind("omu_PrimEnum(const cow_String&) - str not allowed: long_term  Permissible: ", 0), 0u);
-  Refusal(s, R"({"op":"set","path":["M","materials","Steel","elastic"],"type":"Plastic"})");
-  Refusal(s, R"({"op":"set","path":["M","materials","Steel","hyperelastic"],"values":{}})");
-  Ok(s, R"({"op":"set","path":["M","materials","Steel","elastic","noCompression"],"value":true})");
-  Ok(s, R"({"op":"set","path":["M","materials","Steel","elastic","noTension"],"value":true})");
+  ScriptRefusal(s, R"({"op":"set","path":["M","materials","Steel","elastic"],"type":"Plastic"})");
+  ScriptRefusal(s, R"({"op":"set","path":["M","materials","Steel","hyperelastic"],"values":{}})");
+  ScriptOk(s, R"({"op":"set","path":["M","materials","Steel","elastic","noCompression"],"value":true})");
+  ScriptOk(s, R"({"op":"set","path":["M","materials","Steel","elastic","noTension"],"value":true})");
   cmd_Json invalid = RunLine(s, R"({"op":"validate","path":["M","materials","Steel"]})");
   EXPECT_FALSE(invalid.value("ok", true));
   EXPECT_EQ(invalid["error"]["message"], "No compression and No tension are mutually exclusive. Please unselect one of them.");

@@ -21,9 +21,6 @@
 
 namespace {
 
-const char* const kDependencies = "Number of dependencies specified is less than the minimum.";
-const char* const kZeroRow = "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s).";
-
 TEST(KmaSubOptions, AreValidatedAsPartOfTheirOwnerAfterTheOwnersScalarRules) {
   kmaT_Start();
   const kmaC_MaterialTable zeroRow(cow_2DArray<double>{{1, 2}, {0, 0}});

@@ -20,10 +20,6 @@
 
 namespace {
 
-kmaC_MaterialContainer& Materials(ddr_Database& db) {
-  return dynamic_cast<kmaC_MaterialContainer&>(*db.ModifyModel("Model-1")->ModifyRepository("materials"));
-}
-
 // Steel whose plastic members all differ from what the converters fill in.
 ddr_Database SteelDatabase() {
   ddr_Database db;

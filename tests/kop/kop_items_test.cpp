@@ -1,4 +1,6 @@
 // Validation of the items a task holds, alone and as parts of their task.
+#include <cmath>
+
 #include "kop/kopC_CombinedTermDesignResponse.h"
 #include "kop/kopC_CyclicSymmetry.h"
 #include "kop/kopC_DemoldControl.h"
@@ -230,6 +232,10 @@ TEST(KopRestrictions, OwnRulesOfEachKind) {
   kopC_TranslationalSymmetry translation;
   translation.SetTranslation(0);
   EXPECT_EQ(kop_Failure([&] { translation.AssertValid(); }), "The translation cannot be zero.");
+  translation.SetTranslation(std::nan(""));  // an unset stored value reads back as NaN
+  EXPECT_EQ(kop_Failure([&] { translation.AssertValid(); }), "The translation cannot be zero.");
+  translation.SetTranslation(-2.0);
+  EXPECT_EQ(kop_Failure([&] { translation.AssertValid(); }), "");
   kopC_DrillControl drill;
   drill.SetTechnique(kopC_DrillControl::TechniqueEnm::POINT);
   EXPECT_EQ(kop_Failure([&] { drill.AssertValid(); }),

@@ -138,7 +138,9 @@ class Converter {
         if (v.is_string()) return cow_String(v.get<std::string>());
         return integer(v, "");
       case cls_AttrIntList: return Array<std::int32_t>(v, integer);
-      case cls_AttrDoubleList: return Array<double>(v, number);
+      case cls_AttrDoubleList:  // numbers, or texts where the member also takes a text, as its single form does
+        if (field_.literals && v.is_array() && !v.empty() && v[0].is_string()) return Array<cow_String>(v, text);
+        return Array<double>(v, number);
       case cls_AttrStringList:
       case cls_AttrRegionList:
       case cls_AttrEnumList: return Array<cow_String>(v, text);

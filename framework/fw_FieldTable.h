@@ -151,6 +151,8 @@ struct fw_ScriptAccess {
   static C& Obj(void* p) { return *static_cast<C*>(static_cast<fw_Root<C>*>(p)); }
   static cls_Value Get(const void* p) { return Tr::Get(Obj(p).*(kField.member)); }
   static void Set(void* p, const cls_Value& v) {
+    // A class that refuses some edits (a suppressed feature) says so before anything changes.
+    if constexpr (requires(const C& c) { c.AssertEditable(kField.name); }) Obj(p).AssertEditable(kField.name);
     M value = Obj(p).*(kField.member);
     Tr::Set(kField.scriptName, value, v);  // refusals leave the object as it was
     Obj(p).*(kField.member) = std::move(value);
@@ -191,6 +193,10 @@ class fw_ClassMetadata final : public cls_TypedMetadata<C> {
   const std::vector<cls_ScriptField>& ScriptFields() const override {
     if (!scriptBuilt_) {
       script_ = fw_MakeScriptFields<C>(std::make_index_sequence<std::tuple_size_v<decltype(C::Fields())>>());
+      // A class whose scripts see some members in another form than they are stored composes its
+      // face from the stored fields.
+      if constexpr (requires(std::vector<cls_ScriptField> v) { C::ScriptFace(std::move(v)); })
+        script_ = C::ScriptFace(std::move(script_));
       scriptBuilt_ = true;
     }
     return script_;

@@ -54,21 +54,21 @@ class kefC_AssembledFastener : public kefC_Fastener {
   bool operator!=(const kefC_AssembledFastener& o) const { return !(*this == o); }
 
   const cow_String& GetTemplateModel() const { return templateModel; }
-  void SetTemplateModel(const cow_String& v) { templateModel = v; }
+  void SetTemplateModel(const cow_String& v) { AssertEditable(); templateModel = v; }
   const cow_String& GetControlSet() const { return controlSet; }
-  void SetControlSet(const cow_String& v) { controlSet = v; }
+  void SetControlSet(const cow_String& v) { AssertEditable(); controlSet = v; }
   const cow_String& GetPropertyPrefix() const { return propertyPrefix; }
-  void SetPropertyPrefix(const cow_String& v) { propertyPrefix = v; }
+  void SetPropertyPrefix(const cow_String& v) { AssertEditable(); propertyPrefix = v; }
   const cow_List<cow_String>& GetTemplateSurfaces() const { return templateSurfaces; }
-  void SetTemplateSurfaces(const cow_List<cow_String>& v) { templateSurfaces = v; }
+  void SetTemplateSurfaces(const cow_List<cow_String>& v) { AssertEditable(); templateSurfaces = v; }
   const cow_List<cow_String>& GetAssignedSurfaces() const { return assignedSurfaces; }
-  void SetAssignedSurfaces(const cow_List<cow_String>& v) { assignedSurfaces = v; }
+  void SetAssignedSurfaces(const cow_List<cow_String>& v) { AssertEditable(); assignedSurfaces = v; }
   kefC_OrientMethodEnum GetOrientMethod() const { return orientMethod; }
-  void SetOrientMethod(kefC_OrientMethodEnum v) { orientMethod = v; }
+  void SetOrientMethod(kefC_OrientMethodEnum v) { AssertEditable(); orientMethod = v; }
   const cow_String& GetScriptName() const { return scriptName; }
-  void SetScriptName(const cow_String& v) { scriptName = v; }
+  void SetScriptName(const cow_String& v) { AssertEditable(); scriptName = v; }
   bool GetFlipNormal() const { return flipNormal; }
-  void SetFlipNormal(bool v) { flipNormal = v; }
+  void SetFlipNormal(bool v) { AssertEditable(); flipNormal = v; }
 
  protected:
   bool SameAs(const kefC_Fastener& o) const override;

@@ -46,21 +46,21 @@ class kefC_ContourIntegral : public kefC_Crack {
   bool operator!=(const kefC_ContourIntegral& o) const { return !(*this == o); }
 
   bool GetSymmetric() const { return symmetric; }
-  void SetSymmetric(bool v) { symmetric = v; }
+  void SetSymmetric(bool v) { AssertEditable(); symmetric = v; }
   const rgnC_Region& GetCrackFront() const { return crackFront; }
-  void SetCrackFront(const rgnC_Region& v) { crackFront = v; }
+  void SetCrackFront(const rgnC_Region& v) { AssertEditable(); crackFront = v; }
   const rgnC_Region& GetCrackTip() const { return crackTip; }
-  void SetCrackTip(const rgnC_Region& v) { crackTip = v; }
+  void SetCrackTip(const rgnC_Region& v) { AssertEditable(); crackTip = v; }
   kefC_extensionVectorMethodEnm GetExtensionVectorMethod() const { return extensionVectorMethod; }
-  void SetExtensionVectorMethod(kefC_extensionVectorMethodEnm v) { extensionVectorMethod = v; }
+  void SetExtensionVectorMethod(kefC_extensionVectorMethodEnm v) { AssertEditable(); extensionVectorMethod = v; }
   const cow_List<double>& GetCrackNormal() const { return crackNormal; }
-  void SetCrackNormal(const cow_List<double>& v) { crackNormal = v; }
+  void SetCrackNormal(const cow_List<double>& v) { AssertEditable(); crackNormal = v; }
   const cow_2DArray<double>& GetQVectors() const { return qVectors; }
-  void SetQVectors(const cow_2DArray<double>& v) { qVectors = v; }
+  void SetQVectors(const cow_2DArray<double>& v) { AssertEditable(); qVectors = v; }
   double GetMidNodePosition() const { return midNodePosition; }
-  void SetMidNodePosition(double v) { midNodePosition = v; }
+  void SetMidNodePosition(double v) { AssertEditable(); midNodePosition = v; }
   kefC_collapsedElementAtTipEnm GetCollapsedElementAtTip() const { return collapsedElementAtTip; }
-  void SetCollapsedElementAtTip(kefC_collapsedElementAtTipEnm v) { collapsedElementAtTip = v; }
+  void SetCollapsedElementAtTip(kefC_collapsedElementAtTipEnm v) { AssertEditable(); collapsedElementAtTip = v; }
 
  protected:
   bool SameAs(const kefC_Crack& o) const override;

@@ -1,8 +1,11 @@
 #include "kef/kefC_Crack.h"
 
+#include <string_view>
+
 #include "platform/persist/cls_TypedMetadata.h"
 #include "platform/base/cow_COW.h"
 #include "kef/kefC_TypeLabelMap.h"
+#include "kef/kefC_assert.h"
 
 kefC_Crack::kefC_Crack(const cls_ReadVisitor& r) : uid(r.GetUid()) {}
 
@@ -16,3 +19,7 @@ void kefC_Crack::InitializeMetadata(cls_ClassRegistrar& registrar) {
 }
 
 const char* kefC_Crack::DisplayLabel() const { return kefC_TypeLabelMap::Instance().Label(ClassTypeId()); }
+
+void kefC_Crack::AssertEditable(const char* field) const {
+  if (std::string_view(field) != "suppress") kefC_Assert(!suppress, kefC_SuppressedCrackEdited);
+}

@@ -41,13 +41,13 @@ class kefC_DebondVCCT : public kefC_Crack {
   bool operator!=(const kefC_DebondVCCT& o) const { return !(*this == o); }
 
   const cow_String& GetStepName() const { return stepName; }
-  void SetStepName(const cow_String& v) { stepName = v; }
+  void SetStepName(const cow_String& v) { AssertEditable(); stepName = v; }
   const cow_String& GetSurfToSurfInteraction() const { return surfToSurfInteraction; }
-  void SetSurfToSurfInteraction(const cow_String& v) { surfToSurfInteraction = v; }
+  void SetSurfToSurfInteraction(const cow_String& v) { AssertEditable(); surfToSurfInteraction = v; }
   kefC_DebondAmplitudeEnm GetDebondingForceAmp() const { return debondingForceAmp; }
-  void SetDebondingForceAmp(kefC_DebondAmplitudeEnm v) { debondingForceAmp = v; }
+  void SetDebondingForceAmp(kefC_DebondAmplitudeEnm v) { AssertEditable(); debondingForceAmp = v; }
   std::int32_t GetPrintFreqVal() const { return printFreqVal; }
-  void SetPrintFreqVal(std::int32_t v) { printFreqVal = v; }
+  void SetPrintFreqVal(std::int32_t v) { AssertEditable(); printFreqVal = v; }
 
  protected:
   bool SameAs(const kefC_Crack& o) const override;

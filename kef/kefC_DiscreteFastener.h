@@ -44,7 +44,7 @@ class kefC_DiscreteFastener : public kefC_Fastener {
   bool operator!=(const kefC_DiscreteFastener& o) const { return !(*this == o); }
 
   kefC_DiscreteAdherendEnum GetConnectionType() const { return connectionType; }
-  void SetConnectionType(kefC_DiscreteAdherendEnum v) { connectionType = v; }
+  void SetConnectionType(kefC_DiscreteAdherendEnum v) { AssertEditable(); connectionType = v; }
 
  protected:
   bool SameAs(const kefC_Fastener& o) const override;

@@ -1,5 +1,7 @@
 #include "kef/kefC_Fastener.h"
 
+#include <string_view>
+
 #include "platform/persist/cls_TypedMetadata.h"
 #include "platform/base/cow_COW.h"
 #include "kef/kefC_assert.h"
@@ -21,4 +23,8 @@ const char* kefC_Fastener::DisplayLabel() const { return kefC_TypeLabelMap::Inst
 // "WHOLE_SURFACE" is a radius that needs no value, so it passes.
 void kefC_Fastener::AssertFastenerValid() const {
   kefC_Assert(influenceRadius.value > 0, kefC_InfluenceRadiusNotPositive);
+}
+
+void kefC_Fastener::AssertEditable(const char* field) const {
+  if (std::string_view(field) != "suppress") kefC_Assert(!suppress, kefC_SuppressedFastenerEdited);
 }

@@ -40,27 +40,30 @@ class kefC_Fastener : public mem_Allocated {
   // The kind's display label ("Point mass/inertia"); empty for kinds that have none.
   const char* DisplayLabel() const;
   bool IsWholeSurface() const { return influenceRadius.IsLiteral(); }
-  void SetInfluenceRadius(kefC_WholeSurfaceEnum v) { influenceRadius = v; }
+  void SetInfluenceRadius(kefC_WholeSurfaceEnum v) { AssertEditable(); influenceRadius = v; }
   bool GetSuppress() const { return suppress; }
   void SetSuppress(bool v) { suppress = v; }
+  // While suppressed, every member but the suppress flag itself is closed to edits: the setters
+  // and scripts refuse them with the family's code, leaving the feature as it was.
+  void AssertEditable(const char* field = "") const;
   const rgnC_Region& GetRegion() const { return region; }
-  void SetRegion(const rgnC_Region& v) { region = v; }
+  void SetRegion(const rgnC_Region& v) { AssertEditable(); region = v; }
   const cow_String& GetCsys() const { return csys; }
-  void SetCsys(const cow_String& v) { csys = v; }
+  void SetCsys(const cow_String& v) { AssertEditable(); csys = v; }
   bool GetUr1() const { return ur1; }
-  void SetUr1(bool v) { ur1 = v; }
+  void SetUr1(bool v) { AssertEditable(); ur1 = v; }
   bool GetUr2() const { return ur2; }
-  void SetUr2(bool v) { ur2 = v; }
+  void SetUr2(bool v) { AssertEditable(); ur2 = v; }
   bool GetUr3() const { return ur3; }
-  void SetUr3(bool v) { ur3 = v; }
+  void SetUr3(bool v) { AssertEditable(); ur3 = v; }
   double GetInfluenceRadius() const { return influenceRadius.value; }
-  void SetInfluenceRadius(double v) { influenceRadius = v; }
+  void SetInfluenceRadius(double v) { AssertEditable(); influenceRadius = v; }
   kefC_WeightingMethodEnum GetWeightingMethod() const { return weightingMethod; }
-  void SetWeightingMethod(kefC_WeightingMethodEnum v) { weightingMethod = v; }
+  void SetWeightingMethod(kefC_WeightingMethodEnum v) { AssertEditable(); weightingMethod = v; }
   kefC_CouplingEnum GetCoupling() const { return coupling; }
-  void SetCoupling(kefC_CouplingEnum v) { coupling = v; }
+  void SetCoupling(kefC_CouplingEnum v) { AssertEditable(); coupling = v; }
   kefC_RotationalCouplingEnum GetRotCoupling() const { return rotCoupling; }
-  void SetRotCoupling(kefC_RotationalCouplingEnum v) { rotCoupling = v; }
+  void SetRotCoupling(kefC_RotationalCouplingEnum v) { AssertEditable(); rotCoupling = v; }
 
  protected:
   kefC_Fastener() = default;

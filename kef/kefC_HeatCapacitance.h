@@ -41,13 +41,13 @@ class kefC_HeatCapacitance : public kefC_Inertia {
   bool operator!=(const kefC_HeatCapacitance& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
-  void SetRegion(const rgnC_Region& v) { region = v; }
+  void SetRegion(const rgnC_Region& v) { AssertEditable(); region = v; }
   bool GetTemperatureDependency() const { return temperatureDependency; }
-  void SetTemperatureDependency(bool v) { temperatureDependency = v; }
+  void SetTemperatureDependency(bool v) { AssertEditable(); temperatureDependency = v; }
   std::int32_t GetDependencies() const { return dependencies; }
-  void SetDependencies(std::int32_t v) { dependencies = v; }
+  void SetDependencies(std::int32_t v) { AssertEditable(); dependencies = v; }
   const cow_2DArray<double>& GetTable() const { return table; }
-  void SetTable(const cow_2DArray<double>& v) { table = v; }
+  void SetTable(const cow_2DArray<double>& v) { AssertEditable(); table = v; }
 
  protected:
   bool SameAs(const kefC_Inertia& o) const override;

@@ -1,8 +1,11 @@
 #include "kef/kefC_Inertia.h"
 
+#include <string_view>
+
 #include "platform/persist/cls_TypedMetadata.h"
 #include "platform/base/cow_COW.h"
 #include "kef/kefC_TypeLabelMap.h"
+#include "kef/kefC_assert.h"
 
 kefC_Inertia::kefC_Inertia(const cls_ReadVisitor& r) : uid(r.GetUid()) {}
 
@@ -16,3 +19,7 @@ void kefC_Inertia::InitializeMetadata(cls_ClassRegistrar& registrar) {
 }
 
 const char* kefC_Inertia::DisplayLabel() const { return kefC_TypeLabelMap::Instance().Label(ClassTypeId()); }
+
+void kefC_Inertia::AssertEditable(const char* field) const {
+  if (std::string_view(field) != "suppress") kefC_Assert(!suppress, kefC_SuppressedInertiaEdited);
+}

@@ -36,6 +36,9 @@ class kefC_Inertia : public mem_Allocated {
   const char* DisplayLabel() const;
   bool GetSuppress() const { return suppress; }
   void SetSuppress(bool v) { suppress = v; }
+  // While suppressed, every member but the suppress flag itself is closed to edits: the setters
+  // and scripts refuse them with the family's code, leaving the feature as it was.
+  void AssertEditable(const char* field = "") const;
 
  protected:
   kefC_Inertia() = default;

@@ -40,13 +40,13 @@ class kefC_NonstructuralMass : public kefC_Inertia {
   bool operator!=(const kefC_NonstructuralMass& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
-  void SetRegion(const rgnC_Region& v) { region = v; }
+  void SetRegion(const rgnC_Region& v) { AssertEditable(); region = v; }
   kefC_UnitsEnum GetUnits() const { return units; }
-  void SetUnits(kefC_UnitsEnum v) { units = v; }
+  void SetUnits(kefC_UnitsEnum v) { AssertEditable(); units = v; }
   double GetMagnitude() const { return magnitude; }
-  void SetMagnitude(double v) { magnitude = v; }
+  void SetMagnitude(double v) { AssertEditable(); magnitude = v; }
   kefC_DistributionEnum GetDistribution() const { return distribution; }
-  void SetDistribution(kefC_DistributionEnum v) { distribution = v; }
+  void SetDistribution(kefC_DistributionEnum v) { AssertEditable(); distribution = v; }
 
  protected:
   bool SameAs(const kefC_Inertia& o) const override;

@@ -11,13 +11,13 @@ bool kefC_PointFastener::SameAs(const kefC_Fastener& o) const { return *this == 
 void kefC_PointFastener::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kefC_PointFastener>(r); }
 void kefC_PointFastener::CowDtor(void* p) { fw_CowDtor<kefC_PointFastener>(p); }
 
-// A connector section is needed only when the fastener is a connector; a beam MPC fastener names
-// its MPC section, whose kind the model judges.
+// Every point fastener names its section, a connector's as much as a beam MPC's; whether an MPC
+// section is of beam type only the model can judge.
 void kefC_PointFastener::AssertValid() const {
   if (suppress) return;  // a suppressed feature is not validated
   AssertFastenerValid();
   kefC_Assert(searchRadius > 0, kefC_SearchRadiusNotPositive);
   kefC_Assert(physicalRadius > 0, kefC_PhysicalRadiusNotPositive);
   kefC_Assert(maximumLayers.value >= 1, kefC_MaximumLayersNotPositive);
-  kefC_Assert(connectionType != kefC_PointAdherendEnum::CONNECTOR || !sectionName.empty(), kefC_NoConnectorSection);
+  kefC_Assert(!sectionName.empty(), kefC_NoConnectorSection);
 }

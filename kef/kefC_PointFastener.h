@@ -68,45 +68,45 @@ class kefC_PointFastener : public kefC_Fastener {
   bool operator!=(const kefC_PointFastener& o) const { return !(*this == o); }
 
   bool IsAllLayers() const { return maximumLayers.IsLiteral(); }
-  void SetMaximumLayers(kefC_AllEnum v) { maximumLayers = v; }
+  void SetMaximumLayers(kefC_AllEnum v) { AssertEditable(); maximumLayers = v; }
   const rgnC_Region& GetTargetSurface() const { return targetSurface; }
-  void SetTargetSurface(const rgnC_Region& v) { targetSurface = v; }
+  void SetTargetSurface(const rgnC_Region& v) { AssertEditable(); targetSurface = v; }
   const cow_List<rgnC_Region>& GetTargetSurfaces() const { return targetSurfaces; }
-  void SetTargetSurfaces(const cow_List<rgnC_Region>& v) { targetSurfaces = v; }
+  void SetTargetSurfaces(const cow_List<rgnC_Region>& v) { AssertEditable(); targetSurfaces = v; }
   const cow_List<double>& GetDirectionVector() const { return directionVector; }
-  void SetDirectionVector(const cow_List<double>& v) { directionVector = v; }
+  void SetDirectionVector(const cow_List<double>& v) { AssertEditable(); directionVector = v; }
   double GetSearchRadius() const { return searchRadius; }
-  void SetSearchRadius(double v) { searchRadius = v; }
+  void SetSearchRadius(double v) { AssertEditable(); searchRadius = v; }
   std::int32_t GetMaximumLayers() const { return maximumLayers.value; }
-  void SetMaximumLayers(std::int32_t v) { maximumLayers = v; }
+  void SetMaximumLayers(std::int32_t v) { AssertEditable(); maximumLayers = v; }
   bool GetAdjustOrientation() const { return adjustOrientation; }
-  void SetAdjustOrientation(bool v) { adjustOrientation = v; }
+  void SetAdjustOrientation(bool v) { AssertEditable(); adjustOrientation = v; }
   bool GetUnsorted() const { return unsorted; }
-  void SetUnsorted(bool v) { unsorted = v; }
+  void SetUnsorted(bool v) { AssertEditable(); unsorted = v; }
   double GetPhysicalRadius() const { return physicalRadius; }
-  void SetPhysicalRadius(double v) { physicalRadius = v; }
+  void SetPhysicalRadius(double v) { AssertEditable(); physicalRadius = v; }
   double GetAdditionalMass() const { return additionalMass; }
-  void SetAdditionalMass(double v) { additionalMass = v; }
+  void SetAdditionalMass(double v) { AssertEditable(); additionalMass = v; }
   kefC_PointAdherendEnum GetConnectionType() const { return connectionType; }
-  void SetConnectionType(kefC_PointAdherendEnum v) { connectionType = v; }
+  void SetConnectionType(kefC_PointAdherendEnum v) { AssertEditable(); connectionType = v; }
   kefC_AttachmentMethodEnum GetAttachmentMethod() const { return attachmentMethod; }
-  void SetAttachmentMethod(kefC_AttachmentMethodEnum v) { attachmentMethod = v; }
+  void SetAttachmentMethod(kefC_AttachmentMethodEnum v) { AssertEditable(); attachmentMethod = v; }
   const cow_String& GetSectionName() const { return sectionName; }
-  void SetSectionName(const cow_String& v) { sectionName = v; }
+  void SetSectionName(const cow_String& v) { AssertEditable(); sectionName = v; }
   const cow_String& GetConnectorOrientationLocalCsys1() const { return connectorOrientationLocalCsys1; }
-  void SetConnectorOrientationLocalCsys1(const cow_String& v) { connectorOrientationLocalCsys1 = v; }
+  void SetConnectorOrientationLocalCsys1(const cow_String& v) { AssertEditable(); connectorOrientationLocalCsys1 = v; }
   const cow_String& GetConnectorOrientationLocalCsys2() const { return connectorOrientationLocalCsys2; }
-  void SetConnectorOrientationLocalCsys2(const cow_String& v) { connectorOrientationLocalCsys2 = v; }
+  void SetConnectorOrientationLocalCsys2(const cow_String& v) { AssertEditable(); connectorOrientationLocalCsys2 = v; }
   bool GetConnectorOrientation2sameAs1() const { return connectorOrientation2sameAs1; }
-  void SetConnectorOrientation2sameAs1(bool v) { connectorOrientation2sameAs1 = v; }
+  void SetConnectorOrientation2sameAs1(bool v) { AssertEditable(); connectorOrientation2sameAs1 = v; }
   double GetConnectorOrientationAngle1() const { return connectorOrientationAngle1; }
-  void SetConnectorOrientationAngle1(double v) { connectorOrientationAngle1 = v; }
+  void SetConnectorOrientationAngle1(double v) { AssertEditable(); connectorOrientationAngle1 = v; }
   double GetConnectorOrientationAngle2() const { return connectorOrientationAngle2; }
-  void SetConnectorOrientationAngle2(double v) { connectorOrientationAngle2 = v; }
+  void SetConnectorOrientationAngle2(double v) { AssertEditable(); connectorOrientationAngle2 = v; }
   kefC_AxisEnum GetConnectorOrientationAxis1() const { return connectorOrientationAxis1; }
-  void SetConnectorOrientationAxis1(kefC_AxisEnum v) { connectorOrientationAxis1 = v; }
+  void SetConnectorOrientationAxis1(kefC_AxisEnum v) { AssertEditable(); connectorOrientationAxis1 = v; }
   kefC_AxisEnum GetConnectorOrientationAxis2() const { return connectorOrientationAxis2; }
-  void SetConnectorOrientationAxis2(kefC_AxisEnum v) { connectorOrientationAxis2 = v; }
+  void SetConnectorOrientationAxis2(kefC_AxisEnum v) { AssertEditable(); connectorOrientationAxis2 = v; }
 
  protected:
   bool SameAs(const kefC_Fastener& o) const override;

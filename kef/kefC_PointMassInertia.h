@@ -51,33 +51,33 @@ class kefC_PointMassInertia : public kefC_Inertia {
   bool operator!=(const kefC_PointMassInertia& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
-  void SetRegion(const rgnC_Region& v) { region = v; }
+  void SetRegion(const rgnC_Region& v) { AssertEditable(); region = v; }
   double GetMass() const { return mass; }
-  void SetMass(double v) { mass = v; }
+  void SetMass(double v) { AssertEditable(); mass = v; }
   double GetI11() const { return i11; }
-  void SetI11(double v) { i11 = v; }
+  void SetI11(double v) { AssertEditable(); i11 = v; }
   double GetI22() const { return i22; }
-  void SetI22(double v) { i22 = v; }
+  void SetI22(double v) { AssertEditable(); i22 = v; }
   double GetI33() const { return i33; }
-  void SetI33(double v) { i33 = v; }
+  void SetI33(double v) { AssertEditable(); i33 = v; }
   double GetI12() const { return i12; }
-  void SetI12(double v) { i12 = v; }
+  void SetI12(double v) { AssertEditable(); i12 = v; }
   double GetI13() const { return i13; }
-  void SetI13(double v) { i13 = v; }
+  void SetI13(double v) { AssertEditable(); i13 = v; }
   double GetI23() const { return i23; }
-  void SetI23(double v) { i23 = v; }
+  void SetI23(double v) { AssertEditable(); i23 = v; }
   const cow_String& GetCsys() const { return csys; }
-  void SetCsys(const cow_String& v) { csys = v; }
+  void SetCsys(const cow_String& v) { AssertEditable(); csys = v; }
   double GetAlpha() const { return alpha; }
-  void SetAlpha(double v) { alpha = v; }
+  void SetAlpha(double v) { AssertEditable(); alpha = v; }
   double GetComposite() const { return composite; }
-  void SetComposite(double v) { composite = v; }
+  void SetComposite(double v) { AssertEditable(); composite = v; }
   double GetMass1() const { return mass1; }
-  void SetMass1(double v) { mass1 = v; }
+  void SetMass1(double v) { AssertEditable(); mass1 = v; }
   double GetMass2() const { return mass2; }
-  void SetMass2(double v) { mass2 = v; }
+  void SetMass2(double v) { AssertEditable(); mass2 = v; }
   double GetMass3() const { return mass3; }
-  void SetMass3(double v) { mass3 = v; }
+  void SetMass3(double v) { AssertEditable(); mass3 = v; }
 
  protected:
   bool SameAs(const kefC_Inertia& o) const override;

@@ -1,5 +1,7 @@
 #include "kef/kefC_Spring.h"
 
+#include <string_view>
+
 #include "platform/persist/cls_TypedMetadata.h"
 #include "platform/base/cow_COW.h"
 #include "kef/kefC_assert.h"
@@ -22,4 +24,8 @@ void kefC_Spring::AssertSpringValid() const {
   kefC_Assert(applySpring || applyDashpot, kefC_SpringNothingApplied);
   kefC_Assert(!applySpring || springStiffness > 0, kefC_SpringStiffnessNotPositive);
   kefC_Assert(!applyDashpot || dashpotCoeff > 0, kefC_DashpotCoeffNotPositive);
+}
+
+void kefC_Spring::AssertEditable(const char* field) const {
+  if (std::string_view(field) != "suppress") kefC_Assert(!suppress, kefC_SuppressedSpringEdited);
 }

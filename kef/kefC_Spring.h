@@ -38,21 +38,24 @@ class kefC_Spring : public mem_Allocated {
   // The kind's display label ("Point mass/inertia"); empty for kinds that have none.
   const char* DisplayLabel() const;
   double GetSpringStiffness() const { return springStiffness; }
-  void SetSpringStiffness(double v) { springStiffness = v; }
+  void SetSpringStiffness(double v) { AssertEditable(); springStiffness = v; }
   bool GetApplySpring() const { return applySpring; }
-  void SetApplySpring(bool v) { applySpring = v; }
+  void SetApplySpring(bool v) { AssertEditable(); applySpring = v; }
   double GetDashpotCoeff() const { return dashpotCoeff; }
-  void SetDashpotCoeff(double v) { dashpotCoeff = v; }
+  void SetDashpotCoeff(double v) { AssertEditable(); dashpotCoeff = v; }
   bool GetApplyDashpot() const { return applyDashpot; }
-  void SetApplyDashpot(bool v) { applyDashpot = v; }
+  void SetApplyDashpot(bool v) { AssertEditable(); applyDashpot = v; }
   std::int32_t GetDof1() const { return dof1; }
-  void SetDof1(std::int32_t v) { dof1 = v; }
+  void SetDof1(std::int32_t v) { AssertEditable(); dof1 = v; }
   std::int32_t GetDof2() const { return dof2; }
-  void SetDof2(std::int32_t v) { dof2 = v; }
+  void SetDof2(std::int32_t v) { AssertEditable(); dof2 = v; }
   const cow_String& GetCsys() const { return csys; }
-  void SetCsys(const cow_String& v) { csys = v; }
+  void SetCsys(const cow_String& v) { AssertEditable(); csys = v; }
   bool GetSuppress() const { return suppress; }
   void SetSuppress(bool v) { suppress = v; }
+  // While suppressed, every member but the suppress flag itself is closed to edits: the setters
+  // and scripts refuse them with the family's code, leaving the feature as it was.
+  void AssertEditable(const char* field = "") const;
 
  protected:
   kefC_Spring() = default;

@@ -43,7 +43,7 @@ class kefC_SpringToGround : public kefC_Spring {
   bool operator!=(const kefC_SpringToGround& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
-  void SetRegion(const rgnC_Region& v) { region = v; }
+  void SetRegion(const rgnC_Region& v) { AssertEditable(); region = v; }
 
  protected:
   bool SameAs(const kefC_Spring& o) const override;

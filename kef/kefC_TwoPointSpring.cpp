@@ -11,13 +11,12 @@ bool kefC_TwoPointSpring::SameAs(const kefC_Spring& o) const { return *this == s
 void kefC_TwoPointSpring::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kefC_TwoPointSpring>(r); }
 void kefC_TwoPointSpring::CowDtor(void* p) { fw_CowDtor<kefC_TwoPointSpring>(p); }
 
-// The degrees of freedom matter only between fixed degrees of freedom; along the nodal line the
-// line itself is the direction.
+// Both ends name their degree of freedom whatever the axis: the rules list no exception for the
+// nodal line.
 void kefC_TwoPointSpring::AssertValid() const {
   if (suppress) return;  // a suppressed feature is not validated
   AssertSpringValid();
   kefC_Assert(regionPairs.size() >= 2, kefC_NoPointPair);
-  if (axis != kefC_SpringAxisTypeEnum::FIXED_DOF) return;
   kefC_Assert(dof1 > 0, kefC_Dof1Unspecified);
   kefC_Assert(dof2 > 0, kefC_Dof2Unspecified);
 }

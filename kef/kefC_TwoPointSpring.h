@@ -46,9 +46,9 @@ class kefC_TwoPointSpring : public kefC_Spring {
   bool operator!=(const kefC_TwoPointSpring& o) const { return !(*this == o); }
 
   const cow_List<rgnC_Region>& GetRegionPairs() const { return regionPairs; }
-  void SetRegionPairs(const cow_List<rgnC_Region>& v) { regionPairs = v; }
+  void SetRegionPairs(const cow_List<rgnC_Region>& v) { AssertEditable(); regionPairs = v; }
   kefC_SpringAxisTypeEnum GetAxis() const { return axis; }
-  void SetAxis(kefC_SpringAxisTypeEnum v) { axis = v; }
+  void SetAxis(kefC_SpringAxisTypeEnum v) { AssertEditable(); axis = v; }
 
  protected:
   bool SameAs(const kefC_Spring& o) const override;

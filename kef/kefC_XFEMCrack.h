@@ -49,27 +49,27 @@ class kefC_XFEMCrack : public kefC_Crack {
   bool operator!=(const kefC_XFEMCrack& o) const { return !(*this == o); }
 
   const rgnC_Region& GetCrackDomain() const { return crackDomain; }
-  void SetCrackDomain(const rgnC_Region& v) { crackDomain = v; }
+  void SetCrackDomain(const rgnC_Region& v) { AssertEditable(); crackDomain = v; }
   const rgnC_Region& GetCrackLocation() const { return crackLocation; }
-  void SetCrackLocation(const rgnC_Region& v) { crackLocation = v; }
+  void SetCrackLocation(const rgnC_Region& v) { AssertEditable(); crackLocation = v; }
   bool GetAllowCrackGrowth() const { return allowCrackGrowth; }
-  void SetAllowCrackGrowth(bool v) { allowCrackGrowth = v; }
+  void SetAllowCrackGrowth(bool v) { AssertEditable(); allowCrackGrowth = v; }
   double GetSingularityCalcRadius() const { return singularityCalcRadius; }
-  void SetSingularityCalcRadius(double v) { singularityCalcRadius = v; }
+  void SetSingularityCalcRadius(double v) { AssertEditable(); singularityCalcRadius = v; }
   const cow_String& GetInteractionProperty() const { return interactionProperty; }
-  void SetInteractionProperty(const cow_String& v) { interactionProperty = v; }
+  void SetInteractionProperty(const cow_String& v) { AssertEditable(); interactionProperty = v; }
   const cow_List<std::int32_t>& GetElemId() const { return elemId; }
-  void SetElemId(const cow_List<std::int32_t>& v) { elemId = v; }
+  void SetElemId(const cow_List<std::int32_t>& v) { AssertEditable(); elemId = v; }
   const cow_List<std::int32_t>& GetNodeId() const { return nodeId; }
-  void SetNodeId(const cow_List<std::int32_t>& v) { nodeId = v; }
+  void SetNodeId(const cow_List<std::int32_t>& v) { AssertEditable(); nodeId = v; }
   const cow_List<std::int32_t>& GetHasCrackFront() const { return hasCrackFront; }
-  void SetHasCrackFront(const cow_List<std::int32_t>& v) { hasCrackFront = v; }
+  void SetHasCrackFront(const cow_List<std::int32_t>& v) { AssertEditable(); hasCrackFront = v; }
   const cow_List<double>& GetCrackPlaneDist() const { return crackPlaneDist; }
-  void SetCrackPlaneDist(const cow_List<double>& v) { crackPlaneDist = v; }
+  void SetCrackPlaneDist(const cow_List<double>& v) { AssertEditable(); crackPlaneDist = v; }
   const cow_List<double>& GetCrackFrontDist() const { return crackFrontDist; }
-  void SetCrackFrontDist(const cow_List<double>& v) { crackFrontDist = v; }
+  void SetCrackFrontDist(const cow_List<double>& v) { AssertEditable(); crackFrontDist = v; }
   bool GetAutoDetectValue() const { return autoDetectValue; }
-  void SetAutoDetectValue(bool v) { autoDetectValue = v; }
+  void SetAutoDetectValue(bool v) { AssertEditable(); autoDetectValue = v; }
 
  protected:
   bool SameAs(const kefC_Crack& o) const override;

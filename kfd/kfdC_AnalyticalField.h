@@ -19,6 +19,7 @@ class kfdC_AnalyticalField : public kfdC_Field {
   static constexpr omu_EnumLiteral kCsysTypeLiterals[] = {{"INVALID", 0}, {"RECTANGULAR", 1}, {"CYLINDRICAL", 2}, {"SPHERICAL", 3}, {nullptr, 0}};
   friend constexpr const omu_EnumLiteral* omu_LiteralTable(CsysTypeEnm) { return kCsysTypeLiterals; }
   static constexpr const char* kClassName = "kfdC_AnalyticalField";
+  static constexpr const char* kScriptName = "AnalyticalField";
   static constexpr int kVersion = 700;
   static constexpr unsigned TypeId() { return fw_TypeId(858, 2); }
 

@@ -15,8 +15,8 @@ void kfdC_DiscreteField::CowDtor(void* p) { fw_CowDtor<kfdC_DiscreteField>(p); }
 void kfdC_DiscreteField::AssertValid() const {
   const std::size_t width = static_cast<std::size_t>(std::max<std::int32_t>(dataTable.GetDataWidth(), 0));
   kfdC_Assert(width >= 1, kfdC_InvalidWidth);
-  kfdC_Assert(location == LocationEnm::NODES || location == LocationEnm::ELEMENTS, kfdC_UnsupportedLocation);
-  if (fieldType == FieldTypeEnm::PRESCRIBEDCONDITION_DOF) {
+  kfdC_Assert(location == locationEnum::NODES || location == locationEnum::ELEMENTS, kfdC_UnsupportedLocation);
+  if (fieldType == discreteFieldTypeEnum::PRESCRIBEDCONDITION_DOF) {
     // The width says whether the field acts on a degree of freedom; with another width the
     // defaults say which of the two it was meant to be.
     if (width == 2) {
@@ -28,16 +28,16 @@ void kfdC_DiscreteField::AssertValid() const {
       kfdC_Assert(false, kfdC_NoDofWidthNotOne);
     }
   } else {
-    kfdC_Assert(width == (fieldType == FieldTypeEnm::ORIENTATION ? 6u : 1u), kfdC_WidthDoesNotMatchType);
+    kfdC_Assert(width == (fieldType == discreteFieldTypeEnum::ORIENTATION ? 6u : 1u), kfdC_WidthDoesNotMatchType);
     kfdC_Assert(defaultValues.size() == width, kfdC_DefaultsDoNotMatchWidth);
   }
   kfdC_Assert(dataTable.GetData().size() % width == 0, kfdC_DataNotDivisibleByWidth);
   kfdC_Assert(dataTable.GetData().size() == width * dataTable.GetDomain().size(), kfdC_DataLengthMismatch);
-  kfdC_Assert(!(fieldType == FieldTypeEnm::ORIENTATION && partLevelOrientation && dataTable.HasInstanceInformation()),
+  kfdC_Assert(!(fieldType == discreteFieldTypeEnum::ORIENTATION && partLevelOrientation && dataTable.HasInstanceInformation()),
               kfdC_PartLevelOrientationWithInstances);
 }
 
-kfdC_DiscreteField kfdC_DiscreteField::FromAnalytic(const cow_String& analyticalFieldName, LocationEnm where) {
+kfdC_DiscreteField kfdC_DiscreteField::FromAnalytic(const cow_String& analyticalFieldName, locationEnum where) {
   kfdC_DiscreteField f;
   f.analyticFieldName = analyticalFieldName;
   f.location = where;

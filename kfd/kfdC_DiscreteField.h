@@ -18,12 +18,12 @@ class kfdC_DiscreteField : public kfdC_Field {
  public:
   using BaseClass = kfdC_Field;
   using RootClass = kfdC_Field;
-  enum class LocationEnm : std::int32_t { NODES = 0, ELEMENTS = 1, INTEGRATION_POINT = 2, ELEMENT_NODES = 3 };
+  enum class locationEnum : std::int32_t { NODES = 0, ELEMENTS = 1, INTEGRATION_POINT = 2, ELEMENT_NODES = 3 };
   static constexpr omu_EnumLiteral kLocationLiterals[] = {{"NODES", 0}, {"ELEMENTS", 1}, {"INTEGRATION_POINT", 2}, {"ELEMENT_NODES", 3}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(LocationEnm) { return kLocationLiterals; }
-  enum class FieldTypeEnm : std::int32_t { SCALAR = 0, ORIENTATION = 1, PRESCRIBEDCONDITION_DOF = 2 };
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(locationEnum) { return kLocationLiterals; }
+  enum class discreteFieldTypeEnum : std::int32_t { SCALAR = 0, ORIENTATION = 1, PRESCRIBEDCONDITION_DOF = 2 };
   static constexpr omu_EnumLiteral kFieldTypeLiterals[] = {{"SCALAR", 0}, {"ORIENTATION", 1}, {"PRESCRIBEDCONDITION_DOF", 2}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(FieldTypeEnm) { return kFieldTypeLiterals; }
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(discreteFieldTypeEnum) { return kFieldTypeLiterals; }
   // The kind of local system an orientation field defines at each label.
   enum class OrientationTypeEnm : std::int32_t { RECTANGULAR = 0, CYLINDRICAL = 1, SPHERICAL = 2 };
   static constexpr omu_EnumLiteral kOrientationTypeLiterals[] = {{"RECTANGULAR", 0}, {"CYLINDRICAL", 1}, {"SPHERICAL", 2}, {nullptr, 0}};
@@ -34,6 +34,9 @@ class kfdC_DiscreteField : public kfdC_Field {
   static constexpr unsigned TypeId() { return fw_TypeId(858, 6); }
   // The constructor that makes the field from an analytical field.
   static constexpr const char* kFromAnalyticScriptName = "DiscreteFieldFromAnalytic";
+  // Scripts construct the field under either name; the variant is given "analyticFieldName" and
+  // "location" as FromAnalytic takes them.
+  static constexpr const char* kScriptVariants[] = {kFromAnalyticScriptName};
   static const char* constructorCmd() { return kScriptName; }
   static const char* fromAnalyticCmd() { return kFromAnalyticScriptName; }
   // The degrees of freedom a prescribed condition field that acts on one gives defaults for.
@@ -64,10 +67,10 @@ class kfdC_DiscreteField : public kfdC_Field {
   bool operator==(const kfdC_DiscreteField& o) const;
   bool operator!=(const kfdC_DiscreteField& o) const { return !(*this == o); }
 
-  LocationEnm GetLocation() const { return location; }
-  void SetLocation(LocationEnm v) { location = v; }
-  FieldTypeEnm GetFieldType() const { return fieldType; }
-  void SetFieldType(FieldTypeEnm v) { fieldType = v; }
+  locationEnum GetLocation() const { return location; }
+  void SetLocation(locationEnum v) { location = v; }
+  discreteFieldTypeEnum GetFieldType() const { return fieldType; }
+  void SetFieldType(discreteFieldTypeEnum v) { fieldType = v; }
   const cow_List<double>& GetDefaultValues() const { return defaultValues; }
   void SetDefaultValues(const cow_List<double>& v) { defaultValues = v; }
   OrientationTypeEnm GetOrientationType() const { return orientationType; }
@@ -80,7 +83,7 @@ class kfdC_DiscreteField : public kfdC_Field {
   void SetData(const kfdC_DataTable& v) { dataTable = v; }
   kfdC_DataTable& ModifyData() { return dataTable; }
   // A field made from the analytical field of that name, with its data still to be computed.
-  static kfdC_DiscreteField FromAnalytic(const cow_String& analyticalFieldName, LocationEnm where);
+  static kfdC_DiscreteField FromAnalytic(const cow_String& analyticalFieldName, locationEnum where);
   // Refuses a field that names part instances in its labels where it is applied to a part.
   void AssertPartLevelUse() const;
 
@@ -88,8 +91,8 @@ class kfdC_DiscreteField : public kfdC_Field {
   bool SameAs(const kfdC_Field& o) const override;
 
  private:
-  LocationEnm location = LocationEnm::NODES;
-  FieldTypeEnm fieldType = FieldTypeEnm::SCALAR;
+  locationEnum location = locationEnum::NODES;
+  discreteFieldTypeEnum fieldType = discreteFieldTypeEnum::SCALAR;
   cow_List<double> defaultValues = {0.0};
   OrientationTypeEnm orientationType = OrientationTypeEnm::RECTANGULAR;
   bool partLevelOrientation = false;

@@ -1,7 +1,6 @@
 #include "kfd/kfdC_ExpressionField.h"
 
 #include "framework/fw_FieldTable.h"
-#include "kfd/kfdC_CheckExpressionVars.h"
 #include "kfd/kfdC_assert.h"
 
 kfdC_ExpressionField::kfdC_ExpressionField(const cls_ReadVisitor& reader) : kfdC_AnalyticalField(reader) { fw_ReadFields(*this, reader); }
@@ -12,8 +11,9 @@ bool kfdC_ExpressionField::SameAs(const kfdC_Field& o) const { return *this == s
 void kfdC_ExpressionField::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kfdC_ExpressionField>(r); }
 void kfdC_ExpressionField::CowDtor(void* p) { fw_CowDtor<kfdC_ExpressionField>(p); }
 
+// The names the expression uses are not judged here: that takes the kind of the coordinate system,
+// which the host resolves and hands to kfdC_CheckExpressionVars.
 void kfdC_ExpressionField::AssertValid() const {
   AssertAnalyticalValid();
   kfdC_Assert(!expression.empty(), kfdC_NoExpression);
-  kfdC_CheckExpressionVars(*this, static_cast<dtu_DatumCsysType>(GetCsysType()));
 }

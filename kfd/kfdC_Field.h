@@ -15,6 +15,9 @@ class kfdC_Field : public mem_Allocated {
  public:
   using RootClass = kfdC_Field;
   static constexpr const char* kClassName = "kfdC_Field";
+  static constexpr const char* kScriptName = "Field";
+  // The collection of every field of a model, analytical and discrete together.
+  static constexpr const char* kCollectionName = "allFields";
   static constexpr int kVersion = 700;
   static constexpr unsigned TypeId() { return fw_TypeId(858, 1); }
 

@@ -17,7 +17,7 @@ void kfdC_MappedField::AssertValid() const {
                           posNormalSearchTol > 0 && interpolationTol > 0;
     kfdC_Assert(positive, kfdC_RelativeToleranceNotPositive);
   }
-  if (regionType != RegionTypeEnm::POINT) return;
+  if (regionType != regionTypeEnum::POINT) return;
   const std::size_t width = ValueWidth();
   if (isGridFormat) {
     const std::array<int, 2> axes = GridPlaneAxes(static_cast<std::int32_t>(gridPointPlane));
@@ -39,8 +39,8 @@ const kfdC_OdbMeshRegionData& kfdC_MappedField::GetOdbMeshRegionData() const {
 
 std::size_t kfdC_MappedField::ValueWidth() const {
   switch (fieldDataType) {
-    case FieldDataTypeEnm::VECTOR: return 3;
-    case FieldDataTypeEnm::TENSOR: return 6;
+    case fieldDataTypeEnum::VECTOR: return 3;
+    case fieldDataTypeEnum::TENSOR: return 6;
     default: return 1;
   }
 }
@@ -122,10 +122,10 @@ cls_ScriptField PointDataFormat(const cls_ScriptField& stored) {
   f.type = cls_AttrEnum;
   f.literals = MF::kPointDataFormatLiterals;
   f.get = [](const void* p) -> cls_Value {
-    return omu_PrimEnum<MF::PointDataFormatEnm, 1>(Obj(p).GetPointDataFormat()).GetString();
+    return omu_PrimEnum<MF::pointDataFormatEnum, 1>(Obj(p).GetPointDataFormat()).GetString();
   };
   f.set = [](void* p, const cls_Value& v) {
-    Obj(p).SetPointDataFormat(Literal<MF::PointDataFormatEnm>("pointDataFormat", v));
+    Obj(p).SetPointDataFormat(Literal<MF::pointDataFormatEnum>("pointDataFormat", v));
   };
   return f;
 }
@@ -136,9 +136,9 @@ cls_ScriptField SearchTolType(const cls_ScriptField& stored) {
   f.type = cls_AttrEnum;
   f.literals = MF::kSearchTolTypeLiterals;
   f.get = [](const void* p) -> cls_Value {
-    return omu_PrimEnum<MF::SearchTolTypeEnm, 1>(Obj(p).GetSearchTolType()).GetString();
+    return omu_PrimEnum<MF::searchTolTypeEnum, 1>(Obj(p).GetSearchTolType()).GetString();
   };
-  f.set = [](void* p, const cls_Value& v) { Obj(p).SetSearchTolType(Literal<MF::SearchTolTypeEnm>("searchTolType", v)); };
+  f.set = [](void* p, const cls_Value& v) { Obj(p).SetSearchTolType(Literal<MF::searchTolTypeEnum>("searchTolType", v)); };
   return f;
 }
 

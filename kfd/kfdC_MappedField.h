@@ -19,24 +19,24 @@ class kfdC_MappedField : public kfdC_AnalyticalField {
   using BaseClass = kfdC_AnalyticalField;
   using RootClass = kfdC_Field;
   // MESH maps from the results of an earlier analysis, POINT from point data.
-  enum class RegionTypeEnm : std::int32_t { MESH = 0, POINT = 1 };
+  enum class regionTypeEnum : std::int32_t { MESH = 0, POINT = 1 };
   static constexpr omu_EnumLiteral kRegionTypeLiterals[] = {{"MESH", 0}, {"POINT", 1}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(RegionTypeEnm) { return kRegionTypeLiterals; }
-  enum class FieldDataTypeEnm : std::int32_t { SCALAR = 0, VECTOR = 1, TENSOR = 2 };
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(regionTypeEnum) { return kRegionTypeLiterals; }
+  enum class fieldDataTypeEnum : std::int32_t { SCALAR = 0, VECTOR = 1, TENSOR = 2 };
   static constexpr omu_EnumLiteral kFieldDataTypeLiterals[] = {{"SCALAR", 0}, {"VECTOR", 1}, {"TENSOR", 2}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(FieldDataTypeEnm) { return kFieldDataTypeLiterals; }
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(fieldDataTypeEnum) { return kFieldDataTypeLiterals; }
   // The plane of grid point data: its first and second axis.
-  enum class GridPointPlaneEnm : std::int32_t { PLANE12 = 0, PLANE23 = 1, PLANE13 = 2, PLANE21 = 3, PLANE32 = 4, PLANE31 = 5 };
+  enum class gridPointPlaneEnum : std::int32_t { PLANE12 = 0, PLANE23 = 1, PLANE13 = 2, PLANE21 = 3, PLANE32 = 4, PLANE31 = 5 };
   static constexpr omu_EnumLiteral kGridPointPlaneLiterals[] = {{"PLANE12", 0}, {"PLANE23", 1}, {"PLANE13", 2}, {"PLANE21", 3}, {"PLANE32", 4}, {"PLANE31", 5}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(GridPointPlaneEnm) { return kGridPointPlaneLiterals; }
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(gridPointPlaneEnum) { return kGridPointPlaneLiterals; }
   // Point data given point by point or on a grid; stored as the flag "isGridFormat".
-  enum class PointDataFormatEnm : std::int32_t { XYZ = 0, GRID = 1 };
+  enum class pointDataFormatEnum : std::int32_t { XYZ = 0, GRID = 1 };
   static constexpr omu_EnumLiteral kPointDataFormatLiterals[] = {{"XYZ", 0}, {"GRID", 1}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(PointDataFormatEnm) { return kPointDataFormatLiterals; }
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(pointDataFormatEnum) { return kPointDataFormatLiterals; }
   // Tolerances given as lengths or relative to the element size; stored as the flag "isRelTol".
-  enum class SearchTolTypeEnm : std::int32_t { ABSOLUTE = 0, RELATIVE = 1 };
+  enum class searchTolTypeEnum : std::int32_t { ABSOLUTE = 0, RELATIVE = 1 };
   static constexpr omu_EnumLiteral kSearchTolTypeLiterals[] = {{"ABSOLUTE", 0}, {"RELATIVE", 1}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(SearchTolTypeEnm) { return kSearchTolTypeLiterals; }
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(searchTolTypeEnum) { return kSearchTolTypeLiterals; }
   static constexpr const char* kClassName = "kfdC_MappedField";
   static constexpr const char* kScriptName = "MappedField";
   static constexpr int kVersion = 2302;
@@ -92,16 +92,16 @@ class kfdC_MappedField : public kfdC_AnalyticalField {
   bool operator==(const kfdC_MappedField& o) const;
   bool operator!=(const kfdC_MappedField& o) const { return !(*this == o); }
 
-  RegionTypeEnm GetRegionType() const { return regionType; }
-  void SetRegionType(RegionTypeEnm v) { regionType = v; }
-  FieldDataTypeEnm GetFieldDataType() const { return fieldDataType; }
-  void SetFieldDataType(FieldDataTypeEnm v) { fieldDataType = v; }
+  regionTypeEnum GetRegionType() const { return regionType; }
+  void SetRegionType(regionTypeEnum v) { regionType = v; }
+  fieldDataTypeEnum GetFieldDataType() const { return fieldDataType; }
+  void SetFieldDataType(fieldDataTypeEnum v) { fieldDataType = v; }
   bool GetIsPartLevelData() const { return isPartLevelData; }
   void SetIsPartLevelData(bool v) { isPartLevelData = v; }
   bool GetIsGridFormat() const { return isGridFormat; }
   void SetIsGridFormat(bool v) { isGridFormat = v; }
-  GridPointPlaneEnm GetGridPointPlane() const { return gridPointPlane; }
-  void SetGridPointPlane(GridPointPlaneEnm v) { gridPointPlane = v; }
+  gridPointPlaneEnum GetGridPointPlane() const { return gridPointPlane; }
+  void SetGridPointPlane(gridPointPlaneEnum v) { gridPointPlane = v; }
   const cow_2DArray<double>& GetGridCoordTable() const { return gridCoordTable; }
   void SetGridCoordTable(const cow_2DArray<double>& v) { gridCoordTable = v; }
   const cow_2DArray<double>& GetGridFieldTable() const { return gridFieldTable; }
@@ -139,10 +139,10 @@ class kfdC_MappedField : public kfdC_AnalyticalField {
   void SetCoordScale2(double v) { coordScale2 = v; }
   double GetCoordScale3() const { return coordScale3; }
   void SetCoordScale3(double v) { coordScale3 = v; }
-  PointDataFormatEnm GetPointDataFormat() const { return isGridFormat ? PointDataFormatEnm::GRID : PointDataFormatEnm::XYZ; }
-  void SetPointDataFormat(PointDataFormatEnm v) { isGridFormat = v == PointDataFormatEnm::GRID; }
-  SearchTolTypeEnm GetSearchTolType() const { return isRelTol ? SearchTolTypeEnm::RELATIVE : SearchTolTypeEnm::ABSOLUTE; }
-  void SetSearchTolType(SearchTolTypeEnm v) { isRelTol = v == SearchTolTypeEnm::RELATIVE; }
+  pointDataFormatEnum GetPointDataFormat() const { return isGridFormat ? pointDataFormatEnum::GRID : pointDataFormatEnum::XYZ; }
+  void SetPointDataFormat(pointDataFormatEnum v) { isGridFormat = v == pointDataFormatEnum::GRID; }
+  searchTolTypeEnum GetSearchTolType() const { return isRelTol ? searchTolTypeEnum::RELATIVE : searchTolTypeEnum::ABSOLUTE; }
+  void SetSearchTolType(searchTolTypeEnum v) { isRelTol = v == searchTolTypeEnum::RELATIVE; }
   bool HasOdbMeshRegionData() const { return !odbMeshRegion.IsNull(); }
   // Throws when the field has no results source.
   const kfdC_OdbMeshRegionData& GetOdbMeshRegionData() const;
@@ -172,11 +172,11 @@ class kfdC_MappedField : public kfdC_AnalyticalField {
   bool SameAs(const kfdC_Field& o) const override;
 
  private:
-  RegionTypeEnm regionType = RegionTypeEnm::POINT;
-  FieldDataTypeEnm fieldDataType = FieldDataTypeEnm::SCALAR;
+  regionTypeEnum regionType = regionTypeEnum::POINT;
+  fieldDataTypeEnum fieldDataType = fieldDataTypeEnum::SCALAR;
   bool isPartLevelData = false;
   bool isGridFormat = false;
-  GridPointPlaneEnm gridPointPlane = GridPointPlaneEnm::PLANE12;
+  gridPointPlaneEnum gridPointPlane = gridPointPlaneEnum::PLANE12;
   cow_2DArray<double> gridCoordTable;
   cow_2DArray<double> gridFieldTable;
   std::int32_t numXInterval = 0;

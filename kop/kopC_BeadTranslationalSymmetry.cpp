@@ -1,5 +1,7 @@
 #include "kop/kopC_BeadTranslationalSymmetry.h"
 
+#include <cmath>
+
 #include "framework/fw_FieldTable.h"
 #include "kop/kopC_assert.h"
 
@@ -12,5 +14,5 @@ void kopC_BeadTranslationalSymmetry::InitializeMetadata(cls_ClassRegistrar& r) {
 void kopC_BeadTranslationalSymmetry::CowDtor(void* p) { fw_CowDtor<kopC_BeadTranslationalSymmetry>(p); }
 
 void kopC_BeadTranslationalSymmetry::AssertValid() const {
-  kopC_Assert(translation != 0, kopC_TranslationZero);
+  kopC_Assert(translation != 0 && !std::isnan(translation), kopC_TranslationZero);  // a NaN is no translation
 }

@@ -21,6 +21,11 @@ enum class kopC_VariableOperationEnm : std::int32_t { MINIMUM = 0, MAXIMUM = 1, 
 inline constexpr omu_EnumLiteral kVariableOperationLiterals[] = {{"MINIMUM", 0}, {"MAXIMUM", 1}, {"AVERAGE", 2}, {"SUM", 3}, {"ABSOLUTE_SUM", 4}, {"NOT_APPLICABLE", 5}, {nullptr, 0}};
 constexpr const omu_EnumLiteral* omu_LiteralTable(kopC_VariableOperationEnm) { return kVariableOperationLiterals; }
 
+// The step sets a step option may name in place of one step.
+enum class kopC_StepSetEnm : std::int32_t { ALL_STATIC_STEPS = 0, ALL_MODAL_STEPS = 1, ALL_NONLINEAR_STEPS = 2, ALL_DAMAGE_STEPS = 3 };
+inline constexpr omu_EnumLiteral kStepSetLiterals[] = {{"ALL_STATIC_STEPS", 0}, {"ALL_MODAL_STEPS", 1}, {"ALL_NONLINEAR_STEPS", 2}, {"ALL_DAMAGE_STEPS", 3}, {nullptr, 0}};
+constexpr const omu_EnumLiteral* omu_LiteralTable(kopC_StepSetEnm) { return kStepSetLiterals; }
+
 // How a combined-term design response combines its terms.
 enum class kopC_CombinedTermRequestMethodEnm : std::int32_t { ADD = 0, SUBTRACT = 1, MULTIPLY = 2, DIVIDE = 3, MINIMUM = 4, MAXIMUM = 5, WEIGHTED_ADD = 6, ABSOLUTE_DIFFERENCE = 7, ABSOLUTE = 8, SINE = 9, COSINE = 10, TANGENT = 11, LOG = 12, NATURAL_LOG = 13, SQUARE_ROOT = 14, EXPONENTIAL = 15, NTH_ROOT = 16, NTH_POWER = 17, INTEGER = 18, NEAREST_INTEGER = 19, SIGN = 20, FILTER = 21, CUT_OFF = 22, DELTA_1_ITERATION = 23, DELTA_2_ITERATIONS = 24, DELTA_3_ITERATIONS = 25, DELTA_4_ITERATIONS = 26, DELTA_5_ITERATIONS = 27, DELTA_6_ITERATIONS = 28, NORMALIZE = 29, NORMALIZE_FIRST = 30 };
 inline constexpr omu_EnumLiteral kCombinedTermRequestMethodLiterals[] = {{"ADD", 0}, {"SUBTRACT", 1}, {"MULTIPLY", 2}, {"DIVIDE", 3}, {"MINIMUM", 4}, {"MAXIMUM", 5}, {"WEIGHTED_ADD", 6}, {"ABSOLUTE_DIFFERENCE", 7}, {"ABSOLUTE", 8}, {"SINE", 9}, {"COSINE", 10}, {"TANGENT", 11}, {"LOG", 12}, {"NATURAL_LOG", 13}, {"SQUARE_ROOT", 14}, {"EXPONENTIAL", 15}, {"NTH_ROOT", 16}, {"NTH_POWER", 17}, {"INTEGER", 18}, {"NEAREST_INTEGER", 19}, {"SIGN", 20}, {"FILTER", 21}, {"CUT_OFF", 22}, {"DELTA_1_ITERATION", 23}, {"DELTA_2_ITERATIONS", 24}, {"DELTA_3_ITERATIONS", 25}, {"DELTA_4_ITERATIONS", 26}, {"DELTA_5_ITERATIONS", 27}, {"DELTA_6_ITERATIONS", 28}, {"NORMALIZE", 29}, {"NORMALIZE_FIRST", 30}, {nullptr, 0}};

@@ -1,10 +1,7 @@
 #include "kop/kopC_OrimTask.h"
 
 #include "framework/fw_FieldTable.h"
-#include "kop/kopC_BeadTask.h"
-#include "kop/kopC_ShapeTask.h"
-#include "kop/kopC_SizingTask.h"
-#include "kop/kopC_TopologyTask.h"
+#include "platform/persist/cls_Family.h"
 #include "kop/kopC_assert.h"
 
 kopC_OrimTask::kopC_OrimTask(const cls_ReadVisitor& r) : kopC_Task(r) {}
@@ -21,21 +18,14 @@ void kopC_OrimTask::InitializeMetadata(cls_ClassRegistrar& registrar) {
   md->AddAttribute(cls_FieldHandle(101, "groupOperator"), fw_Traits<bool>::kType, 1, fw_Traits<bool>::kCollection);
 }
 
-// The task container copies through here: each kind this module knows is copied as itself.
+// The task container copies through here. The registry clones a task of any kind registered in
+// this family, so the base keeps no list of its kinds; a kind nobody registered is refused.
 kopC_OrimTask* kopC_OrimTask::Copy() const {
-  switch (ClassTypeId()) {
-    case kopC_TopologyTask::TypeId():
-      return new kopC_TopologyTask(static_cast<const kopC_TopologyTask&>(*this));
-    case kopC_ShapeTask::TypeId():
-      return new kopC_ShapeTask(static_cast<const kopC_ShapeTask&>(*this));
-    case kopC_SizingTask::TypeId():
-      return new kopC_SizingTask(static_cast<const kopC_SizingTask&>(*this));
-    case kopC_BeadTask::TypeId():
-      return new kopC_BeadTask(static_cast<const kopC_BeadTask&>(*this));
-    default:
-      kopC_Assert(false, kopC_UnknownTaskCopy);
-      return nullptr;
-  }
+  const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByTypeId(ClassTypeId());
+  const bool known = md && md->CanConstruct() && md->IsA(cls_MetadataOfClass<kopC_OrimTask>());
+  kopC_Assert(known, kopC_UnknownTaskCopy);
+  using Root = cls_Root<kopC_OrimTask>;
+  return static_cast<kopC_OrimTask*>(static_cast<Root*>(md->Clone(static_cast<const Root*>(this))));
 }
 
 // Tessar sensitivities and the group operator need the general algorithm; every kind this module

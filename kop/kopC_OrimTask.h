@@ -11,6 +11,8 @@ class kopC_OrimTask : public kopC_Task {
   using BaseClass = kopC_Task;
   using RootClass = kopC_BaseOptimization;
   static constexpr const char* kClassName = "kopC_OrimTask";
+  // The item of the task container as scripts name it; each kind constructs under its own name.
+  static constexpr const char* kScriptName = "OptimizationTask";
   static constexpr int kVersion = 2204;
   static constexpr unsigned TypeId() { return fw_TypeId(932, 7); }
   // Persistent fields in write order; the kinds write this part's fields first.

@@ -31,6 +31,11 @@ void kopC_ShapeTask::AssertValid() const {
       kopC_Assert(tetAspectRatio >= 0, kopC_TetAspectRatioNegative);
       kopC_Assert(tetSkew >= 0, kopC_TetSkewNegative);
       kopC_Assert(!haltUponViolation || reportQualityViolation, kopC_HaltWithoutReport);
+      // The region smoothed: one given by name, or layers counted from a reference region.
+      if (meshSmoothingRegionMethod == SmoothingRegionMethodEnm::REGION)
+        kopC_Assert(!smoothingRegion.IsEmpty(), kopC_SmoothingRegionMissing);
+      if (meshSmoothingRegionMethod == SmoothingRegionMethodEnm::NUMBER_OF_LAYERS)
+        kopC_Assert(!layerReferenceRegion.IsEmpty(), kopC_SmoothingLayerRegionMissing);
     }
   } else {
     kopC_Assert(curvatureSmoothingEdgeLength >= 0, kopC_CurvatureSmoothingNegative);

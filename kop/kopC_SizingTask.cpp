@@ -1,5 +1,7 @@
 #include "kop/kopC_SizingTask.h"
 
+#include <string_view>
+
 #include "framework/fw_FieldTable.h"
 #include "kop/kopC_assert.h"
 
@@ -20,4 +22,17 @@ void kopC_SizingTask::AssertValid() const {
   kopC_Assert(stopCriteriaIteration >= 3, kopC_CriteriaDesignCycleTooSmall);
   kopC_Assert(numTrackedModes >= 0, kopC_TrackedModesNegative);
   AssertValidTask();
+}
+
+std::vector<cls_ScriptField> kopC_SizingTask::ScriptFace(std::vector<cls_ScriptField> stored) {
+  std::vector<cls_ScriptField> out;
+  for (const cls_ScriptField& f : stored) {
+    out.push_back(f);
+    if (std::string_view(f.persistentName) == "stopCriteriaIteration") {
+      cls_ScriptField alias = f;
+      alias.scriptName = "stopCriteriaIteration";
+      out.push_back(alias);
+    }
+  }
+  return out;
 }

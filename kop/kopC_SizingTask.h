@@ -2,6 +2,7 @@
 // A sizing optimization task: the thicknesses of shell elements change.
 #include <cstdint>
 #include <tuple>
+#include <vector>
 
 #include "kop/kopC_OrimTask.h"
 #include "kop/kopC_Enums.h"
@@ -9,6 +10,8 @@
 #include "platform/base/cow_List.h"
 #include "platform/base/cow_String.h"
 #include "platform/base/omu_PrimEnum.h"
+
+struct cls_ScriptField;
 
 class kopC_SizingTask : public kopC_OrimTask {
  public:
@@ -45,6 +48,9 @@ class kopC_SizingTask : public kopC_OrimTask {
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
+  // The criteria design cycle is stored as stopCriteriaIteration: scripts reach it by that name
+  // too, beside stopCriteriaDesignCycle.
+  static std::vector<cls_ScriptField> ScriptFace(std::vector<cls_ScriptField> stored);
   static void CowDtor(void* p);
   bool operator==(const kopC_SizingTask& o) const;
   bool operator!=(const kopC_SizingTask& o) const { return !(*this == o); }

@@ -2,6 +2,7 @@
 // The steps, load cases and modes a single-term request reads.
 #include <cstdint>
 #include <tuple>
+#include <vector>
 
 #include "platform/base/cow_String.h"
 #include "platform/base/cow_List.h"
@@ -12,6 +13,7 @@
 class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
+struct cls_ScriptField;
 
 class kopC_StepOption : public mem_Allocated {
  public:
@@ -49,7 +51,13 @@ class kopC_StepOption : public mem_Allocated {
   const cow_String& GetModel() const { return model; }
   void SetModel(const cow_String& v) { model = v; }
   const cow_String& GetMultipleStep() const { return multipleStep; }
-  void SetMultipleStep(const cow_String& v) { multipleStep = v; }
+  // A step name, "ALL", or one of the step sets of kopC_StepSetEnm; a text that reads as a step set
+  // ("ALL_" and more) but is none of them is refused with the enumeration's message.
+  void SetMultipleStep(const cow_String& v);
+  // Whether the option names a step set rather than one step.
+  bool IsStepSet() const;
+  // Scripts set multipleStep through the same check as SetMultipleStep.
+  static std::vector<cls_ScriptField> ScriptFace(std::vector<cls_ScriptField> stored);
   const cow_String& GetLoadCase() const { return loadCase; }
   void SetLoadCase(const cow_String& v) { loadCase = v; }
   const cow_String& GetProcedureCategory() const { return procedureCategory; }

@@ -19,6 +19,11 @@ cow_String kopC_targetAsString(kopC_TargetEnm target) {
   return At(kTexts, static_cast<int>(target));
 }
 
+cow_String kopC_algorithmAsString(kopC_AlgorithmEnm algorithm) {
+  static constexpr const char* kTexts[] = {"Condition-based", "General"};
+  return At(kTexts, static_cast<int>(algorithm));
+}
+
 // Average (2) and the absolute sum (4) have no text of their own.
 cow_String kopC_operationAsString(kopC_VariableOperationEnm operation) {
   static constexpr const char* kTexts[] = {"Minimum", "Maximum", nullptr, "Sum", nullptr, "N/A"};
@@ -57,7 +62,15 @@ cow_String kopC_designResponseAsString(const kopC_OrimObjectiveFunction& functio
     if (!text.empty()) text += ", ";
     text += o->GetDesignResponse().str();
   }
-  if (text.size() > 39) text = text.substr(0, 39) + "...";
+  // Characters, not bytes: the cut falls before the 40th character, never inside one.
+  std::size_t chars = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if ((static_cast<unsigned char>(text[i]) & 0xC0) == 0x80) continue;  // a continuation byte
+    if (++chars == 40) {
+      text = text.substr(0, i) + "...";
+      break;
+    }
+  }
   return cow_String(text);
 }
 

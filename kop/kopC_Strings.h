@@ -19,5 +19,8 @@ cow_String kopC_constraintComparisonAsString(const kopC_OrimConstraint& constrai
 // longer.
 cow_String kopC_designResponseAsString(const kopC_OrimObjectiveFunction& function);
 
+// The display label of an algorithm: "Condition-based" (0), "General" (1); empty for any other value.
+cow_String kopC_algorithmAsString(kopC_AlgorithmEnm algorithm);
+
 // The algorithm a strategy bit implies: condition-based for 1, 4, 16 and 64, general otherwise.
 kopC_AlgorithmEnm kopC_getAlgorithmFromStrategy(int strategy);

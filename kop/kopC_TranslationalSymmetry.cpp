@@ -1,5 +1,7 @@
 #include "kop/kopC_TranslationalSymmetry.h"
 
+#include <cmath>
+
 #include "framework/fw_FieldTable.h"
 #include "kop/kopC_assert.h"
 
@@ -12,5 +14,5 @@ void kopC_TranslationalSymmetry::InitializeMetadata(cls_ClassRegistrar& r) { fw_
 void kopC_TranslationalSymmetry::CowDtor(void* p) { fw_CowDtor<kopC_TranslationalSymmetry>(p); }
 
 void kopC_TranslationalSymmetry::AssertValid() const {
-  kopC_Assert(translation != 0, kopC_TranslationZero);
+  kopC_Assert(translation != 0 && !std::isnan(translation), kopC_TranslationZero);  // a NaN is no translation
 }

@@ -16,14 +16,14 @@ class cls_ClassRegistrar;
 class ktbC_ActivateElem : public mem_Allocated {
  public:
   // Elements become active at once (INSTANTANEOUS) or over "timeConstantValue" (SPECIFIED).
-  enum class TimeConstantEnm : std::int32_t { INSTANTANEOUS = 0, SPECIFIED = 1 };
+  enum class timeConstantEnum : std::int32_t { INSTANTANEOUS = 0, SPECIFIED = 1 };
   static constexpr omu_EnumLiteral kTimeConstantLiterals[] = {{"INSTANTANEOUS", 0}, {"SPECIFIED", 1}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(TimeConstantEnm) { return kTimeConstantLiterals; }
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(timeConstantEnum) { return kTimeConstantLiterals; }
   static constexpr const char* kClassName = "ktbC_ActivateElem";
   static constexpr const char* kScriptName = "ActivateElements";
   static constexpr int kVersion = 1000;
   static constexpr unsigned TypeId() { return fw_TypeId(772, 11); }
-  using timeConstantEnum = TimeConstantEnm;
+  using timeConstantEnum = timeConstantEnum;
 
   // Persistent fields in write order (field numbers record the order they were added in).
   static constexpr auto Fields() {
@@ -50,14 +50,14 @@ class ktbC_ActivateElem : public mem_Allocated {
 
   const cow_String& GetEventSeries() const { return eventSeries; }
   void SetEventSeries(const cow_String& v) { eventSeries = v; }
-  TimeConstantEnm GetTimeConstantType() const { return timeConstantType; }
-  void SetTimeConstantType(TimeConstantEnm v) { timeConstantType = v; }
+  timeConstantEnum GetTimeConstantType() const { return timeConstantType; }
+  void SetTimeConstantType(timeConstantEnum v) { timeConstantType = v; }
   double GetTimeConstantValue() const { return timeConstantValue; }
   void SetTimeConstantValue(double v) { timeConstantValue = v; }
 
  private:
   cow_String eventSeries;
-  TimeConstantEnm timeConstantType = TimeConstantEnm::INSTANTANEOUS;
+  timeConstantEnum timeConstantType = timeConstantEnum::INSTANTANEOUS;
   double timeConstantValue = 0.0;
   cls_Uid uid;
 };

@@ -15,8 +15,8 @@ void ktbC_DataColumn::AssertValid() const {
 
 std::size_t ktbC_DataColumn::Size() const {
   switch (colType) {
-    case ColTypeEnm::INTEGER: return column_int.size();
-    case ColTypeEnm::STRING: return column_str.size();
+    case colTypeEnm::INTEGER: return column_int.size();
+    case colTypeEnm::STRING: return column_str.size();
     default: return column_float.size();
   }
 }

@@ -18,9 +18,9 @@ class ktbC_DataColumn : public mem_Allocated {
  public:
   // The type of the values; INTEGER values are kept in "column_int", FLOAT ones in
   // "column_float", STRING ones in "column_str".
-  enum class ColTypeEnm : std::int32_t { INTEGER = 0, FLOAT = 1, STRING = 2 };
+  enum class colTypeEnm : std::int32_t { INTEGER = 0, FLOAT = 1, STRING = 2 };
   static constexpr omu_EnumLiteral kColTypeLiterals[] = {{"INTEGER", 0}, {"FLOAT", 1}, {"STRING", 2}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(ColTypeEnm) { return kColTypeLiterals; }
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(colTypeEnm) { return kColTypeLiterals; }
   static constexpr const char* kClassName = "ktbC_DataColumn";
   static constexpr const char* kScriptName = "Column";
   static constexpr int kVersion = 1000;
@@ -56,8 +56,8 @@ class ktbC_DataColumn : public mem_Allocated {
   void SetColId(std::int32_t v) { colId = v; }
   const cow_String& GetColLabel() const { return colLabel; }
   void SetColLabel(const cow_String& v) { colLabel = v; }
-  ColTypeEnm GetColType() const { return colType; }
-  void SetColType(ColTypeEnm v) { colType = v; }
+  colTypeEnm GetColType() const { return colType; }
+  void SetColType(colTypeEnm v) { colType = v; }
   const cow_List<double>& GetColumn_float() const { return column_float; }
   void SetColumn_float(const cow_List<double>& v) { column_float = v; }
   const cow_List<std::int32_t>& GetColumn_int() const { return column_int; }
@@ -70,7 +70,7 @@ class ktbC_DataColumn : public mem_Allocated {
  private:
   std::int32_t colId = 0;
   cow_String colLabel;
-  ColTypeEnm colType = ColTypeEnm::FLOAT;
+  colTypeEnm colType = colTypeEnm::FLOAT;
   cow_List<double> column_float;
   cow_List<std::int32_t> column_int;
   cow_List<cow_String> column_str;

@@ -20,14 +20,14 @@ class ktbC_ElemProgressiveActivation : public mem_Allocated {
  public:
   // How the free surface of the active elements is tracked: from the exposed element facets
   // (FACET), or not at all (NONE).
-  enum class FreeSurfaceEnm : std::int32_t { FACET = 0, NONE = 1 };
+  enum class freeSurfaceEnum : std::int32_t { FACET = 0, NONE = 1 };
   static constexpr omu_EnumLiteral kFreeSurfaceLiterals[] = {{"FACET", 0}, {"NONE", 1}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(FreeSurfaceEnm) { return kFreeSurfaceLiterals; }
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(freeSurfaceEnum) { return kFreeSurfaceLiterals; }
   static constexpr const char* kClassName = "ktbC_ElemProgressiveActivation";
   static constexpr const char* kScriptName = "ElementProgressiveActivation";
   static constexpr int kVersion = 1000;
   static constexpr unsigned TypeId() { return fw_TypeId(772, 10); }
-  using freeSurfaceEnum = FreeSurfaceEnm;
+  using freeSurfaceEnum = freeSurfaceEnum;
   using ActivationHandle = cow_COW<ktbC_ActivateElem, cow_Virtual<ktbC_ActivateElem>>;
 
   // Persistent fields in write order (field numbers record the order they were added in).
@@ -58,15 +58,15 @@ class ktbC_ElemProgressiveActivation : public mem_Allocated {
   void SetElset(const rgnC_Region& v) { elset = v; }
   bool GetDeformation() const { return deformation; }
   void SetDeformation(bool v) { deformation = v; }
-  FreeSurfaceEnm GetFreeSurfaceType() const { return freeSurfaceType; }
-  void SetFreeSurfaceType(FreeSurfaceEnm v) { freeSurfaceType = v; }
+  freeSurfaceEnum GetFreeSurfaceType() const { return freeSurfaceType; }
+  void SetFreeSurfaceType(freeSurfaceEnum v) { freeSurfaceType = v; }
   const cow_List<ActivationHandle>& GetActivations() const { return activations; }
   void SetActivations(const cow_List<ActivationHandle>& v) { activations = v; }
 
  private:
   rgnC_Region elset;
   bool deformation = false;
-  FreeSurfaceEnm freeSurfaceType = FreeSurfaceEnm::FACET;
+  freeSurfaceEnum freeSurfaceType = freeSurfaceEnum::FACET;
   cow_List<ActivationHandle> activations;
   cls_Uid uid;
 };

@@ -1,6 +1,13 @@
 #include "ktb/ktbC_EventSeries.h"
 
 #include "framework/fw_FieldTable.h"
+#include "ktb/ktbC_Transformation.h"
+
+ktbC_EventSeries::ktbC_EventSeries() = default;
+ktbC_EventSeries::ktbC_EventSeries(const ktbC_EventSeries& o) = default;
+ktbC_EventSeries& ktbC_EventSeries::operator=(const ktbC_EventSeries& o) = default;
+ktbC_EventSeries::~ktbC_EventSeries() = default;
+void ktbC_EventSeries::SetTransformations(const cow_List<TransformationHandle>& v) { transformations = v; }
 
 ktbC_EventSeries::ktbC_EventSeries(const cls_ReadVisitor& reader) : uid(reader.GetUid()) { fw_ReadFields(*this, reader); }
 void ktbC_EventSeries::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }

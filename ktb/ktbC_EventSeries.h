@@ -5,7 +5,6 @@
 #include <cstdint>
 
 #include "framework/fw_Field.h"
-#include "ktb/ktbC_Transformation.h"
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_COW.h"
 #include "platform/base/cow_List.h"
@@ -17,6 +16,7 @@
 class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
+class ktbC_Transformation;
 
 class ktbC_EventSeries : public mem_Allocated {
  public:
@@ -28,7 +28,12 @@ class ktbC_EventSeries : public mem_Allocated {
   static constexpr const char* kScriptName = "EventSeriesData";
   static constexpr int kVersion = 1000;
   static constexpr unsigned TypeId() { return fw_TypeId(772, 9); }
-  using TransformEnm = ktbC_Transformation::TransformEnm;
+  // The kind of one of the series' transformations: NONE leaves the positions as they are;
+  // TRANSLATE moves them by the transformation's "vector"; ROTATE turns them by its "angle"
+  // (degrees) about the axis through its "point" along its "vector".
+  enum class TransformEnm : std::int32_t { NONE = 0, TRANSLATE = 1, ROTATE = 2 };
+  static constexpr omu_EnumLiteral kTransformLiterals[] = {{"NONE", 0}, {"TRANSLATE", 1}, {"ROTATE", 2}, {nullptr, 0}};
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(TransformEnm) { return kTransformLiterals; }
   using TransformationHandle = cow_COW<ktbC_Transformation, cow_Virtual<ktbC_Transformation>>;
   static const char* constructorCmd() { return kScriptName; }
   static const char* transformationCmd() { return "transformation"; }
@@ -46,9 +51,12 @@ class ktbC_EventSeries : public mem_Allocated {
     };
   }
 
-  ktbC_EventSeries() = default;
+  // Out of line: only the source knows the transformations' class, so this header need not.
+  ktbC_EventSeries();
+  ktbC_EventSeries(const ktbC_EventSeries& o);
+  ktbC_EventSeries& operator=(const ktbC_EventSeries& o);
   explicit ktbC_EventSeries(const cls_ReadVisitor& reader);
-  virtual ~ktbC_EventSeries() = default;
+  virtual ~ktbC_EventSeries();
   void DBWrite(const cls_WriteVisitor& w) const;
   virtual ktbC_EventSeries* Copy() const;
   virtual void AssertValid() const;
@@ -70,7 +78,7 @@ class ktbC_EventSeries : public mem_Allocated {
   const cow_2DArray<double>& GetData() const { return data; }
   void SetData(const cow_2DArray<double>& v) { data = v; }
   const cow_List<TransformationHandle>& GetTransformations() const { return transformations; }
-  void SetTransformations(const cow_List<TransformationHandle>& v) { transformations = v; }
+  void SetTransformations(const cow_List<TransformationHandle>& v);
 
  private:
   cow_String eventSeriesType;

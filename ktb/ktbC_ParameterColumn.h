@@ -3,6 +3,7 @@
 // and the values it may take (none listed: any value of its type), each kept in the member of the
 // parameter's type.
 #include <cstdint>
+#include <vector>
 
 #include "framework/fw_Field.h"
 #include "platform/base/cow_List.h"
@@ -14,14 +15,15 @@
 class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
+struct cls_ScriptField;
 
 class ktbC_ParameterColumn : public mem_Allocated {
  public:
   // The type of the parameter; INTEGER values are kept in "paramDefaultVal_int" and
   // "paramAllowedVal_int", FLOAT and STRING ones in the lists of their own suffix.
-  enum class ParameterTypeEnm : std::int32_t { INTEGER = 0, FLOAT = 1, STRING = 2 };
+  enum class parameterTypeEnm : std::int32_t { INTEGER = 0, FLOAT = 1, STRING = 2 };
   static constexpr omu_EnumLiteral kParameterTypeLiterals[] = {{"INTEGER", 0}, {"FLOAT", 1}, {"STRING", 2}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(ParameterTypeEnm) { return kParameterTypeLiterals; }
+  friend constexpr const omu_EnumLiteral* omu_LiteralTable(parameterTypeEnm) { return kParameterTypeLiterals; }
   static constexpr const char* kClassName = "ktbC_ParameterColumn";
   static constexpr const char* kScriptName = "ParameterColumn";
   static constexpr int kVersion = 1000;
@@ -44,6 +46,10 @@ class ktbC_ParameterColumn : public mem_Allocated {
     };
   }
 
+  // Scripts see the default and the allowed values as one member each ("default",
+  // "allowedValues") of the column's parameter type; the stored per-type fields stay reachable.
+  static std::vector<cls_ScriptField> ScriptFace(std::vector<cls_ScriptField> stored);
+
   ktbC_ParameterColumn() = default;
   explicit ktbC_ParameterColumn(const cls_ReadVisitor& reader);
   virtual ~ktbC_ParameterColumn() = default;
@@ -63,8 +69,8 @@ class ktbC_ParameterColumn : public mem_Allocated {
   void SetParamDescription(const cow_String& v) { paramDescription = v; }
   const cow_String& GetParamUnit() const { return paramUnit; }
   void SetParamUnit(const cow_String& v) { paramUnit = v; }
-  ParameterTypeEnm GetParameterType() const { return parameterType; }
-  void SetParameterType(ParameterTypeEnm v) { parameterType = v; }
+  parameterTypeEnm GetParameterType() const { return parameterType; }
+  void SetParameterType(parameterTypeEnm v) { parameterType = v; }
   double GetParamDefaultVal_float() const { return paramDefaultVal_float; }
   void SetParamDefaultVal_float(double v) { paramDefaultVal_float = v; }
   std::int32_t GetParamDefaultVal_int() const { return paramDefaultVal_int; }
@@ -82,7 +88,7 @@ class ktbC_ParameterColumn : public mem_Allocated {
   cow_String paramName;
   cow_String paramDescription;
   cow_String paramUnit;
-  ParameterTypeEnm parameterType = ParameterTypeEnm::FLOAT;
+  parameterTypeEnm parameterType = parameterTypeEnm::FLOAT;
   double paramDefaultVal_float = 0.0;
   std::int32_t paramDefaultVal_int = 0;
   cow_String paramDefaultVal_str;

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "framework/fw_Field.h"
+#include "ktb/ktbC_EventSeries.h"
 #include "platform/base/cow_List.h"
 #include "platform/base/omu_PrimEnum.h"
 #include "platform/base/bas_Alloc.h"
@@ -14,11 +15,8 @@ class cls_ClassRegistrar;
 
 class ktbC_Transformation : public mem_Allocated {
  public:
-  // NONE leaves the positions as they are; TRANSLATE moves them by "vector"; ROTATE turns them
-  // by "angle" (degrees) about the axis through "point" along "vector".
-  enum class TransformEnm : std::int32_t { NONE = 0, TRANSLATE = 1, ROTATE = 2 };
-  static constexpr omu_EnumLiteral kTransformLiterals[] = {{"NONE", 0}, {"TRANSLATE", 1}, {"ROTATE", 2}, {nullptr, 0}};
-  friend constexpr const omu_EnumLiteral* omu_LiteralTable(TransformEnm) { return kTransformLiterals; }
+  // The kind is the event series' own enumeration.
+  using TransformEnm = ktbC_EventSeries::TransformEnm;
   static constexpr const char* kClassName = "ktbC_Transformation";
   static constexpr const char* kScriptName = "Transformation";
   static constexpr int kVersion = 1000;

@@ -95,7 +95,7 @@ const cls_ClassMetadata* cls_ClassRegistrar::ByTypeId(unsigned typeId) const {
 
 const cls_ClassMetadata* cls_ClassRegistrar::ByScriptName(std::string_view scriptName) const {
   for (const auto* md : order_)
-    if (scriptName == md->ScriptName()) return md;
+    if (md->AnswersTo(scriptName)) return md;
   return nullptr;
 }
 

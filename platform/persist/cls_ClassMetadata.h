@@ -3,6 +3,7 @@
 // and the type-erased operations that generic code (database file, command layer, generic tests)
 // performs on instances of the class.
 #include <cstddef>
+#include <string_view>
 #include <vector>
 
 #include "platform/persist/cls_FieldHandle.h"
@@ -65,6 +66,9 @@ class cls_ClassMetadata {
   // The scripting constructor name ("AdaptiveMeshControl"); empty for classes a script does not
   // construct (containers, wrappers).
   virtual const char* ScriptName() const { return ""; }
+  // Whether scripts construct this class under that name: its scripting name, or a constructor
+  // variant the class offers beside it.
+  virtual bool AnswersTo(std::string_view constructor) const { return constructor == ScriptName(); }
   virtual const std::vector<cls_ScriptField>& ScriptFields() const;
   const cls_ScriptField* FindScriptField(std::string_view scriptName) const noexcept;
   // The script fields that hold member objects, found once: walks over many instances skip

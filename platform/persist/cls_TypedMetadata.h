@@ -18,6 +18,12 @@ class cls_TypedMetadata : public cls_ClassMetadata {
     if constexpr (requires { C::kScriptName; }) return C::kScriptName;
     else return "";
   }
+  bool AnswersTo(std::string_view constructor) const override {
+    if constexpr (requires { C::kScriptVariants; })
+      for (const char* variant : C::kScriptVariants)
+        if (constructor == variant) return true;
+    return constructor == ScriptName();
+  }
   const char* RootName() const override { return Root::kClassName; }
   bool IsA(const cls_ClassMetadata& base) const override {
     if (&base == this) return true;

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -26,7 +27,14 @@ struct kco_Owned {
 // Sets every scripting field of obj to a value that differs from the one it holds. A list of
 // objects gets `element` (a record of its declared class) twice.
 inline void kco_FillAway(void* obj, const cls_ClassMetadata& md, const cls_RecordPtr& element = nullptr) {
-  for (const cls_ScriptField& f : md.ScriptFields()) {
+  // A suppressed feature refuses edits, so its suppress flag is set after everything else.
+  std::vector<const cls_ScriptField*> order;
+  for (const cls_ScriptField& f : md.ScriptFields())
+    if (std::string_view(f.persistentName) != "suppress") order.push_back(&f);
+  for (const cls_ScriptField& f : md.ScriptFields())
+    if (std::string_view(f.persistentName) == "suppress") order.push_back(&f);
+  for (const cls_ScriptField* field : order) {
+    const cls_ScriptField& f = *field;
     SCOPED_TRACE(f.scriptName);
     const cls_Value now = f.get(obj);
     const std::string tag = std::string("X-") + f.scriptName;

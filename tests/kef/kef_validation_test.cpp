@@ -1,5 +1,6 @@
 // The engineering feature error table letter for letter, the rules of each kind in their order,
 // and the enumerations with their literals.
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -99,6 +100,12 @@ TEST_F(KefValidation, PointMassNeedsMassOrInertiaButNotBothKindsOfMass) {
            "Diagonal terms of rotary inertia cannot possess negative magnitude"},
           {"mass and mass2", [](auto& p) { p.SetMass(1.0), p.SetMass2(1.0); },
            "Point mass/inertia cannot contain both isotropic and anisotropic mass values."},
+          {"a mass that is not a number", [](auto& p) { p.SetMass(std::nan("")); },
+           "Point mass/Inertia must contain mass or rotary inertia data."},
+          {"a number beside one that is not", [](auto& p) { p.SetI11(1.0), p.SetMass(std::nan("")); },
+           "Point mass/Inertia must contain mass or rotary inertia data."},
+          {"an off-diagonal term that is not a number", [](auto& p) { p.SetMass(1.0), p.SetI23(std::nan("")); },
+           "Point mass/Inertia must contain mass or rotary inertia data."},
           {"negative inertia is reported before the mass mix", [](auto& p) { p.SetMass(1.0), p.SetMass1(1.0), p.SetI11(-1.0); },
            "Diagonal terms of rotary inertia cannot possess negative magnitude"},
       });
@@ -134,7 +141,11 @@ TEST_F(KefValidation, SpringsCheckWhatIsAppliedThenTheirPoints) {
                {"no pair", [](auto&) {}, "At least one pair of points must be selected for the spring/dashpot."},
                {"half a pair", [](auto& s) { s.SetRegionPairs(cow_List<rgnC_Region>(std::vector<rgnC_Region>{rgnC_Region("A")})); },
                 "At least one pair of points must be selected for the spring/dashpot."},
-               {"along the nodal line no degree of freedom is needed", [&](auto& s) { s.SetRegionPairs(pair); }, ""},
+               {"along the nodal line point 1 still names its degree of freedom", [&](auto& s) { s.SetRegionPairs(pair); },
+                "The degree of freedom at point 1 must be specified."},
+               {"along the nodal line point 2 still names its degree of freedom",
+                [&](auto& s) { s.SetRegionPairs(pair), s.SetDof1(1); }, "The degree of freedom at point 2 must be specified."},
+               {"along the nodal line with both", [&](auto& s) { s.SetRegionPairs(pair), s.SetDof1(1), s.SetDof2(1); }, ""},
                {"fixed degrees of freedom, none at point 1",
                 [&](auto& s) { s.SetRegionPairs(pair), s.SetAxis(kefC_SpringAxisTypeEnum::FIXED_DOF), s.SetDof2(2); },
                 "The degree of freedom at point 1 must be specified."},
@@ -163,8 +174,10 @@ TEST_F(KefValidation, FastenersCheckTheSharedRadiusFirst) {
           {"maximum layers", [](auto& f) { f.SetMaximumLayers(0); }, "Maximum layers must be greater than zero."},
           {"one layer", [](auto& f) { f.SetMaximumLayers(1); }, ""},
           {"a connector needs its section", [](auto& f) { f.SetSectionName(""); }, "A connector section must be specified."},
-          {"a beam MPC names no connector section",
-           [](auto& f) { f.SetSectionName(""), f.SetConnectionType(kefC_PointAdherendEnum::BEAM_MPC); }, ""},
+          {"a beam MPC needs its section as well",
+           [](auto& f) { f.SetSectionName(""), f.SetConnectionType(kefC_PointAdherendEnum::BEAM_MPC); },
+           "A connector section must be specified."},
+          {"a beam MPC with its section", [](auto& f) { f.SetConnectionType(kefC_PointAdherendEnum::BEAM_MPC); }, ""},
       });
 
   kef_CheckCases<kefC_DiscreteFastener>(

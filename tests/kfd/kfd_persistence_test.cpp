@@ -54,13 +54,13 @@ kfdC_MappedField FilledMapped() {
   f.SetCsys("Datum csys-2");
   f.SetCsysPartName("Part-1");
   f.SetCsysType(kfdC_AnalyticalField::CsysTypeEnm::CYLINDRICAL);
-  f.SetFieldDataType(kfdC_MappedField::FieldDataTypeEnm::VECTOR);
+  f.SetFieldDataType(kfdC_MappedField::fieldDataTypeEnum::VECTOR);
   f.SetIsPartLevelData(true);
-  f.SetGridPointPlane(kfdC_MappedField::GridPointPlaneEnm::PLANE31);
+  f.SetGridPointPlane(kfdC_MappedField::gridPointPlaneEnum::PLANE31);
   f.SetXyzDataTable(cow_2DArray<double>{{0, 0, 0, 1, 2, 3}});
   f.SetDefMappedVal(-1.5);
   f.SetMappingAlgorithm(2);
-  f.SetSearchTolType(kfdC_MappedField::SearchTolTypeEnm::ABSOLUTE);
+  f.SetSearchTolType(kfdC_MappedField::searchTolTypeEnum::ABSOLUTE);
   f.SetBoundarySearchTol(0.25);
   f.SetNeighborSearchTol(2.5);
   f.SetNegNormalSearchTol(0.125);
@@ -133,9 +133,9 @@ TEST_F(KfdPersistence, RetiredLayoutsFollowTheirChainsToToday) {
     driver.Upgrade("kfdC_MappedField", 1500, 2302, rec);
     const kfdC_MappedField up{cls_RecordReader(rec)};
     EXPECT_EQ(up.GetIsPartLevelData(), false);
-    EXPECT_EQ(up.GetGridPointPlane(), kfdC_MappedField::GridPointPlaneEnm::PLANE12);
+    EXPECT_EQ(up.GetGridPointPlane(), kfdC_MappedField::gridPointPlaneEnum::PLANE12);
     EXPECT_EQ(up.GetMappingAlgorithm(), 0);
-    EXPECT_EQ(up.GetSearchTolType(), kfdC_MappedField::SearchTolTypeEnm::RELATIVE);
+    EXPECT_EQ(up.GetSearchTolType(), kfdC_MappedField::searchTolTypeEnum::RELATIVE);
     EXPECT_EQ(up.GetBoundarySearchTol(), 0.05);
     EXPECT_EQ(up.GetNeighborSearchTol(), 1.0);
     EXPECT_EQ(up.GetNegNormalSearchTol(), 0.05);
@@ -158,13 +158,13 @@ TEST_F(KfdPersistence, RetiredLayoutsFollowTheirChainsToToday) {
     driver.Upgrade("kfdC_MappedField", 1632, 2302, rec);
     const kfdC_MappedField up{cls_RecordReader(rec)};
     EXPECT_EQ(up.GetScaleCoordinates(), true);
-    EXPECT_EQ(up.GetSearchTolType(), kfdC_MappedField::SearchTolTypeEnm::ABSOLUTE);
+    EXPECT_EQ(up.GetSearchTolType(), kfdC_MappedField::searchTolTypeEnum::ABSOLUTE);
     EXPECT_EQ(up.GetCoordinateScalingFactors(), (std::array<double, 3>{1.0, 1.0, 1.0}));
   }
   {
     SCOPED_TRACE("discrete field from 1000");
     kfdC_DiscreteField f;
-    f.SetFieldType(kfdC_DiscreteField::FieldTypeEnm::ORIENTATION);
+    f.SetFieldType(kfdC_DiscreteField::discreteFieldTypeEnum::ORIENTATION);
     f.SetOrientationType(kfdC_DiscreteField::OrientationTypeEnm::SPHERICAL);
     f.SetPartLevelOrientation(true);
     f.SetAnalyticFieldName("AF-1");
@@ -173,7 +173,7 @@ TEST_F(KfdPersistence, RetiredLayoutsFollowTheirChainsToToday) {
     Retire(rec, {"fieldType", "orientationType", "partLevelOrientation", "analyticFieldName"});
     driver.Upgrade("kfdC_DiscreteField", 1000, 1104, rec);
     const kfdC_DiscreteField up{cls_RecordReader(rec)};
-    EXPECT_EQ(up.GetFieldType(), kfdC_DiscreteField::FieldTypeEnm::SCALAR);
+    EXPECT_EQ(up.GetFieldType(), kfdC_DiscreteField::discreteFieldTypeEnum::SCALAR);
     EXPECT_EQ(up.GetOrientationType(), kfdC_DiscreteField::OrientationTypeEnm::RECTANGULAR);
     EXPECT_EQ(up.GetPartLevelOrientation(), false);
     EXPECT_EQ(up.GetAnalyticFieldName(), "");

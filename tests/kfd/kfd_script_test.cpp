@@ -48,15 +48,14 @@ class KfdScript : public ::testing::Test {
 
 TEST_F(KfdScript, FieldsAreMadeAndValidatedByScriptingNames) {
   Ok(R"({"op":"create","path":["Model-1","analyticalFields","AF-1"],"type":"ExpressionField","values":{"expression":"X + Y"}})");
-  Ok(R"({"op":"create","path":["Model-1","analyticalFields","AF-2"],"type":"ExpressionField","values":{"csysType":"SPHERICAL","expression":"R + X"}})");
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","AF-2"],"type":"ExpressionField","values":{"csysType":"SPHERICAL"}})");
   const cmd_Json e = Fails(R"({"op":"validate","path":["Model-1","analyticalFields"]})");
-  EXPECT_EQ(e["message"],
-            "Missing or invalid parameter names in expression for a spherical coordinate system.\n"
-            "Valid parameter names are R, Th, and P.");
+  EXPECT_EQ(e["message"], "An expression must be supplied.");
   EXPECT_EQ(e["path"], cmd_Json::parse(R"(["Model-1","analyticalFields","AF-2"])"));
   EXPECT_EQ(e["file"], "QMXOdbKfdC.m/src/kfdC_assert");
   EXPECT_EQ(e["line"], 82);
-  Ok(R"({"op":"set","path":["Model-1","analyticalFields","AF-2","expression"],"value":"R*P"})");
+  // The names an expression uses are the host's check, not the field's own rule.
+  Ok(R"({"op":"set","path":["Model-1","analyticalFields","AF-2","expression"],"value":"R + X"})");
   Ok(R"({"op":"validate","path":["Model-1","analyticalFields"]})");
 
   // A discrete field is not an analytical one.
@@ -158,7 +157,7 @@ TEST_F(KfdScript, AFileWithMappedFieldsOfTheLayoutOf1571IsUpgradedAsItIsOpened) 
   EXPECT_EQ(mf->GetScaleCoordinates(), false);
   EXPECT_EQ(mf->GetCoordinateScalingFactors(), (std::array<double, 3>{1.0, 1.0, 1.0}));
   // What the 1571 layout held is kept, the tolerance type included.
-  EXPECT_EQ(mf->GetSearchTolType(), kfdC_MappedField::SearchTolTypeEnm::ABSOLUTE);
+  EXPECT_EQ(mf->GetSearchTolType(), kfdC_MappedField::searchTolTypeEnum::ABSOLUTE);
   EXPECT_EQ(mf->GetDefMappedVal(), -3.0);
   EXPECT_EQ(mf->GetXyzDataTable(), (cow_2DArray<double>{{0, 0, 0, 5}}));
 }
@@ -176,6 +175,34 @@ TEST_F(KfdScript, AllFieldsOfAModelByName) {
   EXPECT_EQ(names, (std::vector<std::string>{"M-Mapped", "Z-Expression", "A-Discrete"}));
   EXPECT_NE(dynamic_cast<const kfdC_ExpressionField*>(kfdC_FindField(model, "Z-Expression")), nullptr);
   EXPECT_EQ(kfdC_FindField(model, "Nothing"), nullptr);
+}
+
+// The constructor variant makes a discrete field from an analytical one; the common bases answer to
+// their scripting names but are not constructed themselves.
+TEST_F(KfdScript, TheFromAnalyticVariantAndTheBasesByTheirScriptingNames) {
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","AF-1"],"type":"ExpressionField","values":{"expression":"X"}})");
+  Ok(R"({"op":"create","path":["Model-1","discreteFields","DF-1"],"type":"DiscreteFieldFromAnalytic",
+          "values":{"analyticFieldName":"AF-1","location":"ELEMENTS"}})");
+  const cmd_Json made = Ok(R"({"op":"get","path":["Model-1","discreteFields","DF-1"]})");
+  EXPECT_EQ(made["type"], "DiscreteField");
+  EXPECT_EQ(made["analyticFieldName"], "AF-1");
+  EXPECT_EQ(made["location"], "ELEMENTS");
+  const kfdC_Field* f = kfdC_FindField(*s.Database().FindModel("Model-1"), "DF-1");
+  ASSERT_NE(f, nullptr);
+  const kfdC_DiscreteField expected = kfdC_DiscreteField::FromAnalytic("AF-1", kfdC_DiscreteField::locationEnum::ELEMENTS);
+  EXPECT_EQ(static_cast<const kfdC_DiscreteField*>(f)->GetAnalyticFieldName(), expected.GetAnalyticFieldName());
+  EXPECT_EQ(static_cast<const kfdC_DiscreteField*>(f)->GetLocation(), expected.GetLocation());
+  // The variant is a discrete field: it cannot stand among the analytical ones.
+  Fails(R"({"op":"create","path":["Model-1","analyticalFields","DF-2"],"type":"DiscreteFieldFromAnalytic"})");
+
+  EXPECT_EQ(Fails(R"({"op":"create","path":["Model-1","analyticalFields","AF-2"],"type":"AnalyticalField"})")["message"],
+            "AnalyticalField cannot be constructed; name one of its kinds: ExpressionField, MappedField");
+  EXPECT_EQ(Fails(R"({"op":"create","path":["Model-1","discreteFields","DF-3"],"type":"Field"})")["message"],
+            "Field cannot stand where DiscreteField is expected");
+  const cls_ClassRegistrar& classes = cls_ClassRegistrar::Instance();
+  EXPECT_EQ(classes.ByScriptName("Field"), classes.ByName("kfdC_Field"));
+  EXPECT_EQ(classes.ByScriptName("AnalyticalField"), classes.ByName("kfdC_AnalyticalField"));
+  EXPECT_EQ(classes.ByScriptName("DiscreteFieldFromAnalytic"), classes.ByName("kfdC_DiscreteField"));
 }
 
 }  // namespace

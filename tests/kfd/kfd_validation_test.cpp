@@ -115,7 +115,7 @@ TEST(KfdExpressionVars, NamesAreCheckedAgainstTheSystemBySubstring) {
   }
 }
 
-TEST(KfdExpressionField, BaseChecksThenTheEmptyExpressionThenTheVariables) {
+TEST(KfdExpressionField, BaseChecksThenTheEmptyExpressionAndNothingMore) {
   kfd_CheckCases<kfdC_ExpressionField>(
       [] { return Expression("X + Y", Csys::RECTANGULAR); },
       {
@@ -127,8 +127,9 @@ TEST(KfdExpressionField, BaseChecksThenTheEmptyExpressionThenTheVariables) {
              f.SetCsysType(Csys::INVALID);
            },
            kBadCsys},
-          // the names themselves are tabled above; one case shows validation reaches that check
-          {"rectangular names in a cylindrical system", [](auto& f) { f.SetCsysType(Csys::CYLINDRICAL); }, kCyl},
+          // the names are the host's check (tabled above), not a rule of the field's own validation
+          {"rectangular names in a cylindrical system", [](auto& f) { f.SetCsysType(Csys::CYLINDRICAL); }, ""},
+          {"no coordinate name at all", [](auto& f) { f.SetExpression("1.0"); }, ""},
       });
   // A fresh field has no expression yet.
   auto e = qmx_Catch<nex_PrimError>([] { kfdC_ExpressionField().AssertValid(); });
@@ -159,8 +160,8 @@ void Shape(kfdC_DiscreteField& f, int width, std::size_t labels, std::size_t val
   f.SetData(t);
 }
 
-using Type = kfdC_DiscreteField::FieldTypeEnm;
-using Loc = kfdC_DiscreteField::LocationEnm;
+using Type = kfdC_DiscreteField::discreteFieldTypeEnum;
+using Loc = kfdC_DiscreteField::locationEnum;
 
 TEST(KfdDiscreteField, RulesInTheirOrder) {
   const std::string width = "Invalid width value specified for the discrete field.";
@@ -302,7 +303,7 @@ MF PointCloud() {
 
 // A grid of 2 by 1 intervals in the 12 plane: 6 points.
 void Grid(MF& f) {
-  f.SetPointDataFormat(MF::PointDataFormatEnm::GRID);
+  f.SetPointDataFormat(MF::pointDataFormatEnum::GRID);
   f.SetNumXInterval(2);
   f.SetNumYInterval(1);
   f.SetGridPointData(cow_2DArray<double>{{0, 0, 1}, {1, 0, 2}, {2, 0, 3}, {0, 1, 4}, {1, 1, 5}, {2, 1, 6}});
@@ -316,10 +317,10 @@ TEST(KfdMappedField, TolerancesThenThePointData) {
       PointCloud,
       {
           {"no point data", [](auto& f) { f.SetXyzDataTable(cow_2DArray<double>()); }, xyz},
-          {"a vector needs six columns", [](auto& f) { f.SetFieldDataType(MF::FieldDataTypeEnm::VECTOR); }, xyz},
+          {"a vector needs six columns", [](auto& f) { f.SetFieldDataType(MF::fieldDataTypeEnum::VECTOR); }, xyz},
           {"six columns for a vector",
            [](auto& f) {
-             f.SetFieldDataType(MF::FieldDataTypeEnm::VECTOR);
+             f.SetFieldDataType(MF::fieldDataTypeEnum::VECTOR);
              f.SetXyzDataTable(cow_2DArray<double>{{0, 0, 0, 1, 2, 3}});
            },
            ""},
@@ -332,7 +333,7 @@ TEST(KfdMappedField, TolerancesThenThePointData) {
            tol},
           {"zero absolute tolerance",
            [](auto& f) {
-             f.SetSearchTolType(MF::SearchTolTypeEnm::ABSOLUTE);
+             f.SetSearchTolType(MF::searchTolTypeEnum::ABSOLUTE);
              f.SetNegNormalSearchTol(0);
            },
            ""},
@@ -355,17 +356,17 @@ TEST(KfdMappedField, TolerancesThenThePointData) {
            grid},
           {"a grid in another plane", [](auto& f) {
              Grid(f);
-             f.SetGridPointPlane(MF::GridPointPlaneEnm::PLANE23);
+             f.SetGridPointPlane(MF::gridPointPlaneEnum::PLANE23);
            },
            grid},
           {"the same grid in the 13 plane", [](auto& f) {
              Grid(f);
-             f.SetGridPointPlane(MF::GridPointPlaneEnm::PLANE13);
+             f.SetGridPointPlane(MF::gridPointPlaneEnum::PLANE13);
              f.SetNumZInterval(1);
            },
            ""},
           {"results as the source", [](auto& f) {
-             f.SetRegionType(MF::RegionTypeEnm::MESH);
+             f.SetRegionType(MF::regionTypeEnum::MESH);
              f.SetXyzDataTable(cow_2DArray<double>());
            },
            ""},
@@ -374,7 +375,7 @@ TEST(KfdMappedField, TolerancesThenThePointData) {
 
 TEST(KfdMappedField, GridPointsAreAddedAndRemovedByRow) {
   MF f;
-  f.SetPointDataFormat(MF::PointDataFormatEnm::GRID);
+  f.SetPointDataFormat(MF::pointDataFormatEnum::GRID);
   f.addGridPointData(Doubles(0, 0, 1));
   f.addGridPointData(Doubles(1, 0, 2));
   EXPECT_EQ(f.GetGridPointData(), (cow_2DArray<double>{{0, 0, 1}, {1, 0, 2}}));

@@ -38,7 +38,7 @@ class KopCommand : public ::testing::Test {
 TEST_F(KopCommand, EveryContainerOfATaskIsReachedByItsScriptingName) {
   const std::string task = R"("Model-1","optimizationTasks","Task-1")";
   Ok(R"({"op":"create","path":[)" + task + R"(,"designResponses","Resp-1"],"type":"SingleTermDesignResponse",
-         "values":{"request":{"identifier":"STRAIN_ENERGY"}}})");
+         "values":{"request":{"identifier":"STRAIN_ENERGY","stepOptions":[{"multipleStep":"Step-1"}]}}})");
   Ok(R"({"op":"create","path":[)" + task + R"(,"objectiveFunctions","Obj-1"],"type":"ObjectiveFunction",
          "values":{"objectives":[{"designResponse":"Resp-1"}]}})");
   Ok(R"({"op":"create","path":[)" + task + R"(,"optimizationConstraints","Con-1"],"type":"OptimizationConstraint",
@@ -168,6 +168,20 @@ TEST(KopCommandRestrictions, EachKindByItsScriptingNameInItsOwnTask) {
     else EXPECT_EQ(r["error"]["message"], "The specified geometric restriction cannot be used with this type of Task");
     ASSERT_TRUE(run(R"({"op":"delete","path":)" + foreign + "}")["ok"].get<bool>());
   }
+}
+
+// The item of the task container answers to its scripting name but is made as one of its kinds; the
+// sizing task's criteria design cycle is reached by its stored name as well.
+TEST_F(KopCommand, TheTaskItemAndTheSizingCriteriaCycleByTheirScriptingNames) {
+  EXPECT_EQ(Fails(R"({"op":"create","path":["Model-1","optimizationTasks","Task-2"],"type":"OptimizationTask"})")["message"],
+            "OptimizationTask cannot be constructed; name one of its kinds: TopologyTask, ShapeTask, SizingTask, BeadTask");
+  Ok(R"({"op":"create","path":["Model-1","optimizationTasks","Sizing-1"],"type":"SizingTask","values":{"stopCriteriaIteration":7}})");
+  const std::string cycle = R"({"op":"get","path":["Model-1","optimizationTasks","Sizing-1","stopCriteriaDesignCycle"]})";
+  EXPECT_EQ(Ok(cycle), 7);
+  Ok(R"({"op":"set","path":["Model-1","optimizationTasks","Sizing-1","stopCriteriaDesignCycle"],"value":2})");
+  EXPECT_EQ(Ok(R"({"op":"get","path":["Model-1","optimizationTasks","Sizing-1","stopCriteriaIteration"]})"), 2);
+  EXPECT_EQ(Fails(R"({"op":"validate","path":["Model-1","optimizationTasks","Sizing-1"]})")["message"],
+            "Criteria design cycle number must be greater than two.");
 }
 
 }  // namespace

@@ -1,4 +1,6 @@
 // Validation of the items a task holds, alone and as parts of their task.
+#include <cmath>
+
 #include "kop/kopC_CombinedTermDesignResponse.h"
 #include "kop/kopC_CyclicSymmetry.h"
 #include "kop/kopC_DemoldControl.h"
@@ -67,7 +69,26 @@ TEST(KopRequests, SingleTermRules) {
           {"deviation value 0.5", [](Req& r) { r.SetDeviationReferenceValue(0.5); }, ""},
           {"layer on strain energy", [](Req& r) { r.SetShellLayer(kopC_ShellLayerEnm::MIDDLE); },
            "Shell Layer Value provided is invalid for the given design response."},
-          {"layer on a stress", [](Req& r) { r.SetIdentifier("SIG_MISES"), r.SetOperation(Op::MAXIMUM), r.SetShellLayer(kopC_ShellLayerEnm::BOTTOM); }, ""},
+          {"layer on a stress", [](Req& r) {
+             r.SetIdentifier("SIG_MISES"), r.SetOperation(Op::MAXIMUM), r.SetShellLayer(kopC_ShellLayerEnm::BOTTOM);
+             r.SetDrivingRegion(rgnC_Region("Hot-Spot"));
+           }, ""},
+          {"maximum stress over the whole model", [](Req& r) { r.SetIdentifier("SIG_MISES"), r.SetOperation(Op::MAXIMUM); },
+           "The region must be small, not exceeding 500 nodes, when used with the selected variable and operation is set to "
+           "MINIMUM or MAXIMUM.  Whole model is not permitted."},
+          {"minimum strain over the whole model", [](Req& r) { r.SetIdentifier("STRAIN_TOTAL"), r.SetOperation(Op::MINIMUM); },
+           "The region must be small, not exceeding 500 nodes, when used with the selected variable and operation is set to "
+           "MINIMUM or MAXIMUM.  Whole model is not permitted."},
+          {"summed stress over the whole model", [](Req& r) { r.SetIdentifier("SIG_MISES"), r.SetOperation(Op::SUM); }, ""},
+          {"maximum displacement over the whole model", [](Req& r) { r.SetIdentifier("DISP_ABS"), r.SetOperation(Op::MAXIMUM); }, ""},
+          {"energy stiffness over a set", [](Req& r) { r.SetIdentifier("ENERGY_STIFF_MEASURE"), r.SetDrivingRegion(rgnC_Region("Set-1")); },
+           "Whole model must be selected for Energy stiffness measure design response."},
+          {"energy stiffness over the whole model", [](Req& r) { r.SetIdentifier("ENERGY_STIFF_MEASURE"); }, ""},
+          {"no step at all", [&](Req& r) { r.SetStepOptions({}); }, "At least one step / load case needs to be specified."},
+          {"a stress without a step", [&](Req& r) {
+             r.SetIdentifier("SIG_MISES"), r.SetDrivingRegion(rgnC_Region("Hot-Spot")), r.SetStepOptions({});
+           }, "At least one step / load case needs to be specified."},
+          {"the volume needs no step", [&](Req& r) { r.SetIdentifier("VOLUME"), r.SetStepOptions({}); }, ""},
           {"steps on the volume", [&](Req& r) { r.SetIdentifier("VOLUME"), withStep(r, Step("Step-1")); },
            "The identifier cannot be used with step and load case settings."},
           {"a step option without its step", [&](Req& r) { withStep(r, Step("")); },
@@ -91,7 +112,41 @@ TEST(KopRequests, SingleTermRules) {
              withStep(r, s);
            }, ""},
       },
-      [] { return Request("STRAIN_ENERGY"); });
+      [&] {
+        Req r = Request("STRAIN_ENERGY");
+        withStep(r, Step("Step-1"));
+        return r;
+      });
+}
+
+TEST(KopRequests, AStepOptionNamesAStepOrOneOfTheStepSets) {
+  kop_Start();
+  EXPECT_EQ(omu_LiteralCount(kStepSetLiterals), 4);
+  struct Case {
+    const char* text;
+    bool taken;
+    bool isSet;
+  };
+  const Case cases[] = {
+      {"ALL_STATIC_STEPS", true, true},  {"ALL_MODAL_STEPS", true, true}, {"ALL_NONLINEAR_STEPS", true, true},
+      {"ALL_DAMAGE_STEPS", true, true},  {"Step-1", true, false},        {"ALL", true, false},
+      {"ALL_STEPS", false, false},       {"ALL_static_steps", false, false},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.text);
+    kopC_StepOption s;
+    s.SetMultipleStep("Before");
+    if (c.taken) {
+      EXPECT_NO_THROW(s.SetMultipleStep(c.text));
+      EXPECT_EQ(s.GetMultipleStep(), c.text);
+      EXPECT_EQ(s.IsStepSet(), c.isSet);
+      continue;
+    }
+    auto e = qmx_Catch<nex_CmdError>([&] { s.SetMultipleStep(c.text); });
+    EXPECT_EQ(e.Message(), std::string("omu_PrimEnum(const cow_String&) - str not allowed: ") + c.text +
+                               "  Permissible: ALL_STATIC_STEPS, ALL_MODAL_STEPS, ALL_NONLINEAR_STEPS, ALL_DAMAGE_STEPS");
+    EXPECT_EQ(s.GetMultipleStep(), "Before");
+  }
 }
 
 TEST(KopRequests, CombinedTermCountsByMethod) {
@@ -177,6 +232,10 @@ TEST(KopRestrictions, OwnRulesOfEachKind) {
   kopC_TranslationalSymmetry translation;
   translation.SetTranslation(0);
   EXPECT_EQ(kop_Failure([&] { translation.AssertValid(); }), "The translation cannot be zero.");
+  translation.SetTranslation(std::nan(""));  // an unset stored value reads back as NaN
+  EXPECT_EQ(kop_Failure([&] { translation.AssertValid(); }), "The translation cannot be zero.");
+  translation.SetTranslation(-2.0);
+  EXPECT_EQ(kop_Failure([&] { translation.AssertValid(); }), "");
   kopC_DrillControl drill;
   drill.SetTechnique(kopC_DrillControl::TechniqueEnm::POINT);
   EXPECT_EQ(kop_Failure([&] { drill.AssertValid(); }),
@@ -188,7 +247,10 @@ TEST(KopRestrictions, OwnRulesOfEachKind) {
 kopC_TopologyTask FilledTask() {
   kopC_TopologyTask t;
   kopC_SingleTermDesignResponse energy, volume;
-  energy.SetRequest(Request("STRAIN_ENERGY"));
+  kopC_SingleTermRequest energyRequest = Request("STRAIN_ENERGY");
+  energyRequest.SetStepOptions(
+      cow_List<Req::StepOptionHandle>(std::vector<Req::StepOptionHandle>{Req::StepOptionHandle(Step("Step-1"))}));
+  energy.SetRequest(energyRequest);
   volume.SetRequest(Request("VOLUME"));
   t.GetDesignResponseContainer().Insert("Energy", energy);
   t.GetDesignResponseContainer().Insert("Volume", volume);

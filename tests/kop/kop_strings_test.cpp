@@ -76,6 +76,39 @@ TEST(KopStrings, ObjectiveListsAreJoinedAndCutAt39Characters) {
   EXPECT_EQ(kopC_designResponseAsString(Objectives({{longer, false}})).str(), std::string(39, 'x') + "...");
 }
 
+TEST(KopStrings, TheCutCountsCharactersAndNeverSplitsOne) {
+  const std::string e = "\xC3\xA9";          // one character in two bytes
+  const std::string snow = "\xE2\x98\x83";   // one in three
+  const std::string clef = "\xF0\x9D\x84\x9E";  // one in four
+  struct Case {
+    const char* what;
+    std::string names;
+    std::string shown;
+  };
+  const Case cases[] = {
+      {"39 two-byte characters are shown whole", [&] { std::string t; for (int i = 0; i < 39; ++i) t += e; return t; }(),
+       [&] { std::string t; for (int i = 0; i < 39; ++i) t += e; return t; }()},
+      {"40 two-byte characters keep 39", [&] { std::string t; for (int i = 0; i < 40; ++i) t += e; return t; }(),
+       [&] { std::string t; for (int i = 0; i < 39; ++i) t += e; return t + "..."; }()},
+      {"a three-byte character at the 39th place stays whole", std::string(38, 'a') + snow + "b",
+       std::string(38, 'a') + snow + "..."},
+      {"a four-byte character at the 40th place goes whole", std::string(39, 'a') + clef, std::string(39, 'a') + "..."},
+      {"a four-byte character at the 39th place, 39 characters", std::string(38, 'a') + clef,
+       std::string(38, 'a') + clef},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    EXPECT_EQ(kopC_designResponseAsString(Objectives({{c.names, false}})).str(), c.shown);
+  }
+}
+
+TEST(KopStrings, AlgorithmsShowTheirDisplayLabels) {
+  EXPECT_EQ(kopC_algorithmAsString(kopC_AlgorithmEnm::GENERAL_OPTIMIZATION), "General");
+  EXPECT_EQ(kopC_algorithmAsString(kopC_AlgorithmEnm::CONDITION_BASED_OPTIMIZATION), "Condition-based");
+  for (int other : {-1, 2, 3})
+    EXPECT_EQ(kopC_algorithmAsString(static_cast<kopC_AlgorithmEnm>(other)), "") << other;
+}
+
 TEST(KopStrings, AlgorithmFromStrategy) {
   for (int s : {1, 4, 16, 64})
     EXPECT_EQ(kopC_getAlgorithmFromStrategy(s), kopC_AlgorithmEnm::CONDITION_BASED_OPTIMIZATION) << s;

@@ -190,6 +190,23 @@ TEST(KopShapeTask, GeneralChecksMeshQualityConditionBasedChecksSmoothing) {
           {"halt without report", [](T& t) { t.SetHaltUponViolation(true); },
            "reportQualityViolation must be set if haltUponViolation is used."},
           {"halt with report", [](T& t) { t.SetHaltUponViolation(true), t.SetReportQualityViolation(true); }, ""},
+          {"smoothing a region that is not named", [](T& t) { t.SetMeshSmoothingRegionMethod(T::SmoothingRegionMethodEnm::REGION); },
+           "A smoothing region must be specified."},
+          {"smoothing a named region", [](T& t) {
+             t.SetMeshSmoothingRegionMethod(T::SmoothingRegionMethodEnm::REGION), t.SetSmoothingRegion(rgnC_Region("Fillet"));
+           }, ""},
+          {"quality is reported before the smoothing region", [](T& t) {
+             t.SetMeshSmoothingRegionMethod(T::SmoothingRegionMethodEnm::REGION), t.SetHaltUponViolation(true);
+           }, "reportQualityViolation must be set if haltUponViolation is used."},
+          {"layers without their reference region",
+           [](T& t) { t.SetMeshSmoothingRegionMethod(T::SmoothingRegionMethodEnm::NUMBER_OF_LAYERS), t.SetSmoothingRegion(rgnC_Region("Fillet")); },
+           "A smoothing layer region must be specified."},
+          {"layers from a reference region", [](T& t) {
+             t.SetMeshSmoothingRegionMethod(T::SmoothingRegionMethodEnm::NUMBER_OF_LAYERS), t.SetLayerReferenceRegion(rgnC_Region("Skin"));
+           }, ""},
+          {"no smoothing needs no region", [](T& t) {
+             t.SetMeshSmoothingStrategy(T::SmoothingStrategyEnm::NONE), t.SetMeshSmoothingRegionMethod(T::SmoothingRegionMethodEnm::REGION);
+           }, ""},
           {"no smoothing checks no quality", [](T& t) { t.SetMeshSmoothingStrategy(T::SmoothingStrategyEnm::NONE), t.SetTetSkew(-1); }, ""},
           {"tolerance is not tested when general", [](T& t) { t.SetTolerance(-1); }, ""},
           {"curvature length is not tested when general", [](T& t) { t.SetCurvatureSmoothingEdgeLength(-1); }, ""},

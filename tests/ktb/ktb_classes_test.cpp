@@ -19,6 +19,7 @@
 #include "ktb/ktbC_PropertyTableDataContShortcut.h"
 #include "ktb/ktbC_TCWrapper.h"
 #include "ktb/ktbC_TableCollContainerShortcut.h"
+#include "ktb/ktbC_Transformation.h"
 #include "platform/base/nex_Exception.h"
 #include "platform/base/typ_ArchCompTable.h"
 #include "platform/model/ddr_Model.h"
@@ -97,7 +98,7 @@ TEST(KtbEnumerations, LiteralsAndValuesAsUsersWriteThem) {
       {ktbC_DataColumn::kColTypeLiterals, {{"INTEGER", 0}, {"FLOAT", 1}, {"STRING", 2}}},
       {ktbC_ParameterColumn::kParameterTypeLiterals, {{"INTEGER", 0}, {"FLOAT", 1}, {"STRING", 2}}},
       {ktbC_EventSeries::kTimeSpanLiterals, {{"STEP_TIME", 0}, {"TOTAL_TIME", 1}}},
-      {ktbC_Transformation::kTransformLiterals, {{"NONE", 0}, {"TRANSLATE", 1}, {"ROTATE", 2}}},
+      {ktbC_EventSeries::kTransformLiterals, {{"NONE", 0}, {"TRANSLATE", 1}, {"ROTATE", 2}}},
       {ktbC_PropertyTableData::kExtrapolateTypeLiterals, {{"CONSTANT", 0}, {"LINEAR", 1}, {"NONE", 2}}},
       {ktbC_PropertyTableData::kRegularizeTypeLiterals, {{"RELATIVE", 0}, {"ABSOLUTE", 1}}},
       {ktbC_ElemProgressiveActivation::kFreeSurfaceLiterals, {{"FACET", 0}, {"NONE", 1}}},
@@ -108,8 +109,8 @@ TEST(KtbEnumerations, LiteralsAndValuesAsUsersWriteThem) {
     for (const omu_EnumLiteral* l = c.table; l->text; ++l) got.emplace_back(l->text, static_cast<int>(l->value));
     EXPECT_EQ(got, c.literals);
   }
-  // The event series uses the transformation's own enumeration, so its literals are the same.
-  static_assert(std::is_same_v<ktbC_EventSeries::TransformEnm, ktbC_Transformation::TransformEnm>);
+  // The transformation takes its kind from the event series' enumeration.
+  static_assert(std::is_same_v<ktbC_Transformation::TransformEnm, ktbC_EventSeries::TransformEnm>);
 }
 
 ktbC_DataColumn Column(std::int32_t id, const char* label) {
@@ -133,7 +134,7 @@ TEST(KtbDataTable, ColumnsAreFoundByTheirId) {
   EXPECT_EQ(t.getColumnById(-7), nullptr);
 
   ktbC_DataColumn ints = Column(1, "n");
-  ints.SetColType(ktbC_DataColumn::ColTypeEnm::INTEGER);
+  ints.SetColType(ktbC_DataColumn::colTypeEnm::INTEGER);
   ints.SetColumn_int(cow_List<std::int32_t>(std::vector<std::int32_t>{4, 5, 6}));
   ints.SetColumn_float(cow_List<double>(std::vector<double>{1.5}));
   EXPECT_EQ(ints.Size(), 3u);  // the list of the column's own type

@@ -94,4 +94,53 @@ TEST_F(KtbScript, EventSeriesAndActivationsRoundTripThroughTheFile) {
   Ok(R"({"op":"validate","path":["Model-1"]})");
 }
 
+// The default and the allowed values read and write as the column's own type, kept in the stored
+// field of that type; a value of another type is refused and changes nothing.
+TEST_F(KtbScript, AParameterDefaultAndAllowedValuesTakeTheParametersType) {
+  Ok(R"({"op":"create","path":["Model-1","tableCollections","TC-1","parameterTables","PT-1"],"type":"ParameterTable"})");
+  const std::string column = R"("Model-1","tableCollections","TC-1","parameterTables","PT-1","parameters",0)";
+  struct Case {
+    const char* type;
+    const char* def;
+    const char* allowed;
+    const char* storedDefault;
+    const char* storedAllowed;
+  };
+  const Case cases[] = {
+      {"FLOAT", "2.5", "[0.5,2.5,4]", "paramDefaultVal_float", "paramAllowedVal_float"},
+      {"INTEGER", "3", "[1,2,3]", "paramDefaultVal_int", "paramAllowedVal_int"},
+      {"STRING", R"("IN718")", R"(["Ti6Al4V","IN718"])", "paramDefaultVal_str", "paramAllowedVal_str"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.type);
+    Ok(R"({"op":"create","path":[)" + column + R"(],"type":"ParameterColumn","values":{"name":"p","parameterType":")" + c.type +
+       R"(","default":)" + c.def + R"(,"allowedValues":)" + c.allowed + "}}");
+    const cmd_Json got = Ok(R"({"op":"get","path":[)" + column + "]}");
+    EXPECT_EQ(got["default"], cmd_Json::parse(c.def));
+    EXPECT_EQ(got["allowedValues"], cmd_Json::parse(c.allowed));
+    EXPECT_EQ(got[c.storedDefault], cmd_Json::parse(c.def));
+    EXPECT_EQ(got[c.storedAllowed], cmd_Json::parse(c.allowed));
+    Ok(R"({"op":"delete","path":[)" + column + "]}");
+  }
+
+  Ok(R"({"op":"create","path":[)" + column + R"(],"type":"ParameterColumn","values":{"name":"layer","parameterType":"INTEGER"}})");
+  const cmd_Json before = Ok(R"({"op":"get","path":[)" + column + "]}");
+  const char* refused[] = {R"({"default":"thick"})", R"({"default":2.5})", R"({"allowedValues":["a"]})", R"({"allowedValues":[1,1.5]})"};
+  for (const char* values : refused) {
+    SCOPED_TRACE(values);
+    Fails(R"({"op":"set","path":[)" + column + R"(],"values":)" + values + "}");
+    EXPECT_EQ(Ok(R"({"op":"get","path":[)" + column + "]}"), before);
+  }
+  EXPECT_EQ(Fails(R"({"op":"set","path":[)" + column + R"(,"default"],"value":"thick"})")["message"],
+            "The member \"default\" takes an int, the type of an INTEGER parameter, not a string");
+  // An integral number is an integer; the list of a string parameter takes texts only.
+  Ok(R"({"op":"set","path":[)" + column + R"(,"default"],"value":4.0})");
+  EXPECT_EQ(Ok(R"({"op":"get","path":[)" + column + R"(,"paramDefaultVal_int"]})"), 4);
+  Ok(R"({"op":"set","path":[)" + column + R"(,"parameterType"],"value":"STRING"})");
+  EXPECT_EQ(Fails(R"({"op":"set","path":[)" + column + R"(,"allowedValues"],"value":[1,2]})")["message"],
+            "The member \"allowedValues\" takes a list of strings, the type of a STRING parameter, not a list of doubles");
+  Ok(R"({"op":"set","path":[)" + column + R"(,"allowedValues"],"value":[]})");
+  EXPECT_EQ(Ok(R"({"op":"get","path":[)" + column + R"(,"allowedValues"]})"), cmd_Json::array());
+}
+
 }  // namespace

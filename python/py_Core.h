@@ -4,6 +4,7 @@
 // pybind11 stays out of every library header.
 #include <string>
 
+#include <nlohmann/json.hpp>
 #include <pybind11/pybind11.h>
 
 #include "command/cmd_Json.h"

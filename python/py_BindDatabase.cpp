@@ -1,0 +1,124 @@
+// The Python classes Repository, Model and Database.
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+#include <pybind11/stl.h>
+
+#include "python/py_Types.h"
+
+namespace qmxpy {
+
+void BindRepository(py::module_& m) {
+  py::class_<Repository>(m, "Repository", "A repository of a model (or of an object): its elements by key.")
+      .def("keys", [](const Repository& r) { return Keys(*r.session, r.path); })
+      .def("__iter__", [](const Repository& r) { return py::iter(py::cast(Keys(*r.session, r.path))); })
+      .def("__len__", [](const Repository& r) { return Keys(*r.session, r.path).size(); })
+      .def("__contains__",
+           [](const Repository& r, py::handle key) {
+             return py::isinstance<py::str>(key) && Contains(Keys(*r.session, r.path), key.cast<std::string>());
+           })
+      .def("__getitem__", [](const Repository& r, const std::string& key) { return Element(r.session, Append(r.path, key)); })
+      .def("__setitem__", [](const Repository& r, const std::string& key, py::handle value) { PutElement(r, key, value); })
+      .def("__delitem__", [](const Repository& r, const std::string& key) { DeleteElement(*r.session, Append(r.path, key)); })
+      .def("get",
+           [](const Repository& r, const std::string& key, py::object fallback) -> py::object {
+             if (!Contains(Keys(*r.session, r.path), key)) return fallback;
+             return Element(r.session, Append(r.path, key));
+           },
+           py::arg("key"), py::arg("default") = py::none())
+      .def("items",
+           [](const Repository& r) {
+             py::list out;
+             for (const auto& k : Keys(*r.session, r.path)) out.append(py::make_tuple(k, Element(r.session, Append(r.path, k))));
+             return out;
+           })
+      .def("values",
+           [](const Repository& r) {
+             py::list out;
+             for (const auto& k : Keys(*r.session, r.path)) out.append(Element(r.session, Append(r.path, k)));
+             return out;
+           })
+      .def("validate", [](const Repository& r) { return FromJson(Run(*r.session, Command("validate", r.path))); },
+           "Validates every element; the first failure raises ValidationError with the failing path.")
+      .def("to_dict", [](const Repository& r) { return FromJson(Run(*r.session, Command("get", r.path))); })
+      .def_property_readonly("path", [](const Repository& r) { return FromJson(PathJson(r.path)); })
+      .def("__repr__", [](const Repository& r) {
+        return "Repository at " + cmd_PathText(r.path) + " with " + std::to_string(Keys(*r.session, r.path).size()) +
+               " elements";
+      });
+}
+
+void BindModel(py::module_& m) {
+  py::class_<Model>(m, "Model", "A model of a database; its repositories are attributes by scripting name.")
+      .def_property_readonly("name", [](const Model& self) { return self.name.str(); })
+      .def("repositories", [](const Model& self) { return ModelRepositories(self); },
+           "The scripting names of the model's repositories.")
+      .def("__getattr__",
+           [](const Model& self, const std::string& name) -> py::object {
+             if (name.starts_with("__")) throw py::attribute_error(name);
+             return ModelRepository(self, name);
+           })
+      .def("__getitem__", [](const Model& self, const std::string& name) { return ModelRepository(self, name); })
+      .def("__dir__", [](py::handle self) { return Dir(self, py::cast(ModelRepositories(self.cast<const Model&>()))); })
+      .def("validate", [](const Model& self) { return FromJson(Run(*self.session, Command("validate", cmd_Path{self.name}))); },
+           "Validates every object of the model; the first failure raises ValidationError with the failing path.")
+      .def("to_dict", [](const Model& self) { return FromJson(Run(*self.session, Command("get", cmd_Path{self.name}))); })
+      .def("__repr__", [](const Model& self) { return "Model \"" + self.name.str() + "\""; });
+}
+
+void BindDatabase(py::module_& m) {
+  py::class_<Database>(m, "Database", "A database of models, saved to and opened from a model database file.")
+      .def(py::init<>())
+      .def_static("open",
+                  [](const std::string& file) {
+                    Database db;
+                    cmd_Json c = cmd_Json::object();
+                    c["op"] = "open";
+                    c["file"] = file;
+                    Run(*db.session, std::move(c));
+                    return db;
+                  },
+                  py::arg("path"), "Opens a model database file (upgrading rows of older versions in memory).")
+      .def("save",
+           [](const Database& db, const std::string& file) {
+             cmd_Json c = cmd_Json::object();
+             c["op"] = "save";
+             c["file"] = file;
+             Run(*db.session, std::move(c));
+           },
+           py::arg("path"), "Saves every model into a model database file, atomically.")
+      .def("create_model",
+           [](const Database& db, const std::string& name) {
+             Run(*db.session, Command("create", cmd_Path{cow_String(name)}));
+             return Model{db.session, cow_String(name)};
+           },
+           py::arg("name"))
+      .def("keys", [](const Database& db) { return Keys(*db.session, cmd_Path{}); })
+      .def("__iter__", [](const Database& db) { return py::iter(py::cast(Keys(*db.session, cmd_Path{}))); })
+      .def("__len__", [](const Database& db) { return Keys(*db.session, cmd_Path{}).size(); })
+      .def("__contains__",
+           [](const Database& db, py::handle key) {
+             return py::isinstance<py::str>(key) && Contains(Keys(*db.session, cmd_Path{}), key.cast<std::string>());
+           })
+      .def("__getitem__",
+           [](const Database& db, const std::string& name) {
+             Guarded([&] { cmd_WalkConst(db.session->Database(), cmd_Path{cow_String(name)}, [](const cmd_Node&) {}); },
+                     "NotFoundError");
+             return Model{db.session, cow_String(name)};
+           })
+      .def("__delitem__", [](const Database& db, const std::string& name) {
+        DeleteElement(*db.session, cmd_Path{cow_String(name)});
+      })
+      .def("validate", [](const Database& db) { return FromJson(Run(*db.session, Command("validate", cmd_Path{}))); },
+           "Validates every object of every model.")
+      .def("execute",
+           [](const Database& db, py::handle command) { return FromJson(db.session->Execute(ToJson(command))); },
+           py::arg("command"), "Runs one command of the command layer (a dict) and returns its result as given.")
+      .def("to_dict", [](const Database& db) { return FromJson(Run(*db.session, Command("get", cmd_Path{}))); })
+      .def("__repr__", [](const Database& db) {
+        return "Database with " + std::to_string(Keys(*db.session, cmd_Path{}).size()) + " models";
+      });
+}
+
+}  // namespace qmxpy

@@ -1,0 +1,78 @@
+// The Python class Object: the base of every constructor's class.
+#include <memory>
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "command/cmd_Check.h"
+#include "platform/persist/cls_ClassRegistrar.h"
+#include "python/py_Types.h"
+
+namespace qmxpy {
+
+void BindObject(py::module_& m) {
+  py::class_<Object> object(m, "Object",
+                            "An object of the attribute library: a detached value made by its constructor, or a "
+                            "view of an object inside a model. Members are read and set by scripting name.");
+  ObjectBase() = object;
+  object.def(py::init<>())
+      .def("_init_new",
+           [](Object& self, const std::string& ctor, const py::dict& values) {
+             const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);
+             if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_BindObject.cpp", __LINE__);
+             const cmd_Json v = ToJson(values);
+             cmd_OwnedObject obj = Guarded([&] { return cmd_NewObject(*md, v.empty() ? nullptr : &v); });
+             self.root = std::make_shared<Root>(md, obj.release());
+             self.path.clear();
+             self.session.reset();
+           })
+      .def("__getattr__",
+           [](const Object& self, const std::string& name) -> py::object {
+             if (name.starts_with("__") || (!self.root && !self.session)) throw py::attribute_error(name);
+             return GetMember(self, name);
+           })
+      .def("__setattr__", [](const Object& self, const std::string& name,
+                             py::handle value) { SetMember(self, name, value); })
+      .def("__delattr__", [](const Object& self, const std::string& name) { SetMember(self, name, py::none()); })
+      .def("__getitem__", [](const Object& self, const std::string& name) { return GetMember(self, name); })
+      .def("__setitem__",
+           [](const Object& self, const std::string& name, py::handle value) { SetMember(self, name, value); })
+      .def("__dir__", [](py::handle self) { return Dir(self, Members(ClassOf(self.cast<const Object&>()))); })
+      .def("__repr__", [](const Object& self) { return self.root || self.session ? Repr(self) : std::string("Object()"); })
+      .def("__eq__",
+           [](const Object& self, py::handle other) -> py::object {
+             if (!IsObject(other)) return py::reinterpret_borrow<py::object>(Py_NotImplemented);
+             const cls_ClassMetadata& a = ClassOf(self);
+             const cls_ClassMetadata& b = ClassOf(other.cast<const Object&>());
+             return py::bool_(&a == &b && ObjectToJson(self) == ObjectJson(other));
+           })
+      .def("validate", [](const Object& self) { return Validate(self); },
+           "Checks the object's rules in their order; the first failing rule raises ValidationError with its "
+           "message.")
+      .def("members", [](const Object& self) { return Members(ClassOf(self)); },
+           "The scripting names of the members, in their order.")
+      .def("to_dict", [](const Object& self) { return FromJson(ObjectToJson(self)); },
+           "The object's value as plain Python data keyed by scripting names, with its constructor under "
+           "\"type\".")
+      .def("copy",
+           [](const Object& self) {
+             const cmd_Json j = ObjectToJson(self);
+             const cls_ClassMetadata& md = ClassOf(self);
+             cmd_OwnedObject obj = Guarded([&] { return cmd_NewObject(md, &j); });
+             return Detached(md, obj.release());
+           },
+           "A detached copy of the object.")
+      .def_property_readonly("type_name", [](const Object& self) { return cmd_ClassLabel(ClassOf(self)); },
+                             "The scripting constructor name of the object's class.")
+      .def_property_readonly("class_name", [](const Object& self) { return ClassOf(self).Name().str(); },
+                             "The registered class name.")
+      .def_property_readonly("path",
+                             [](const Object& self) -> py::object {
+                               if (self.root) return py::none();
+                               return FromJson(PathJson(self.path));
+                             },
+                             "The path of scripting names of an object inside a database; None when detached.");
+  object.attr("__hash__") = py::none();
+}
+
+}  // namespace qmxpy

@@ -31,10 +31,11 @@ void kbeC_ConnectorFriction::AssertValid() const {
     for (std::int32_t c : independentComponents) kbeC_Assert(kbeC_InRange(c), kbeC_IndependentOutOfRange);
   }
   kbeC_Assert(kbeC_InRange(tangentDirection), kbeC_SlipDirectionOutOfRange);
-  const bool byNumber = contactForceStyle == ContactForceStyleEnm::COMPONENT_NUMBER;
-  if (useContactForceComponent && byNumber)
-    kbeC_Assert(kbeC_InRange(contactForceComponent), kbeC_ContactForceComponentOutOfRange);
-  kbeC_Assert(!(useContactForceComponent && !byNumber && derivedComponent.IsNull()), kbeC_ContactForceNoDerivedComponent);
+  // Both hold whether or not the contact-force component is in use, so that a stored choice is
+  // always one that could be switched on.
+  kbeC_Assert(kbeC_InRange(contactForceComponent), kbeC_ContactForceComponentOutOfRange);
+  kbeC_Assert(!(contactForceStyle == ContactForceStyleEnm::DERIVED_COMPONENT && derivedComponent.IsNull()),
+              kbeC_ContactForceNoDerivedComponent);
   if (!derivedComponent.IsNull()) derivedComponent->AssertValid();
   // An enumeration always holds one of its literals; these guard values that came in unchecked.
   kbeC_Assert(kbeC_Listed(slipStyle), kbeC_NoSlipStyle);

@@ -17,6 +17,7 @@ struct kbeDamage_InitiationPotentials {
   static constexpr const char* kList = "initiationPotentials";
   static constexpr const char* kLastId = "lastIniId";
   static std::size_t Count(const C& c) { return c.GetInitiationPotentials().size(); }
+  static std::int32_t Last(const C& c) { return c.GetLastIniId(); }
   static void Grow(C& c, std::int32_t n) { c.SetLastIniId(c.GetLastIniId() + n); }
 };
 struct kbeDamage_EvolutionPotentials {
@@ -24,6 +25,7 @@ struct kbeDamage_EvolutionPotentials {
   static constexpr const char* kList = "evolutionPotentials";
   static constexpr const char* kLastId = "lastEvoId";
   static std::size_t Count(const C& c) { return c.GetEvolutionPotentials().size(); }
+  static std::int32_t Last(const C& c) { return c.GetLastEvoId(); }
   static void Grow(C& c, std::int32_t n) { c.SetLastEvoId(c.GetLastEvoId() + n); }
 };
 }  // namespace

@@ -17,6 +17,7 @@ struct kbeFriction_Potentials {
   static constexpr const char* kList = "connectorPotentials";
   static constexpr const char* kLastId = "lastId";
   static std::size_t Count(const C& c) { return c.GetConnectorPotentials().size(); }
+  static std::int32_t Last(const C& c) { return c.GetLastId(); }
   static void Grow(C& c, std::int32_t n) { c.SetLastId(c.GetLastId() + n); }
 };
 }  // namespace

@@ -1,20 +1,23 @@
 #pragma once
 // The last-used potential id of a potential list (lastId, lastIniId, lastEvoId) belongs to the
-// option: every potential that joins the list counts, however it joins, and scripts read the id
-// but cannot set it. Included only by the .cpp files of the options that hold potentials.
+// option: every potential that joins the list counts, however it joins, and scripts cannot take
+// the id back, so no id is handed out twice. A script may give the id it holds or a later one, so
+// that an option read out whole (list first, then id) is rebuilt as it was. Included only by the
+// .cpp files of the options that hold potentials.
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <tuple>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "framework/fw_FieldTable.h"
 #include "platform/base/nex_Exception.h"
 #include "platform/persist/cls_TypedMetadata.h"
 
-// L names one list: its option class C, the scripting names kList and kLastId, Count(const C&)
-// and Grow(C&, n), which raises the last id by n.
+// L names one list: its option class C, the scripting names kList and kLastId, Count(const C&),
+// Last(const C&), the last id, and Grow(C&, n), which raises it by n.
 template <class L>
 struct kbeC_PotentialIdKeeper {
   using C = typename L::C;
@@ -29,9 +32,14 @@ struct kbeC_PotentialIdKeeper {
     const std::size_t after = L::Count(option);
     if (after > before) L::Grow(option, static_cast<std::int32_t>(after - before));
   }
-  static void RefuseLastId(void*, const cls_Value&) {
-    nex_ThrowCmd(std::string("The member \"") + L::kLastId + "\" of " + C::kScriptName +
-                 " counts the potentials added to \"" + L::kList + "\" and cannot be set");
+  static void SetLastId(void* p, const cls_Value& v) {
+    C& option = Obj(p);
+    const std::int32_t held = L::Last(option);
+    const std::int32_t* given = std::get_if<std::int32_t>(&v);
+    if (!given || *given < held)
+      nex_ThrowCmd(std::string("The member \"") + L::kLastId + "\" of " + C::kScriptName + " counts the potentials added to \"" +
+                   L::kList + "\" and cannot be set below " + std::to_string(held));
+    L::Grow(option, *given - held);
   }
   static void Wrap(std::vector<cls_ScriptField>& fields) {
     for (cls_ScriptField& f : fields) {
@@ -39,7 +47,7 @@ struct kbeC_PotentialIdKeeper {
         storedSet = f.set;
         f.set = &SetList;
       } else if (std::string(f.scriptName) == L::kLastId) {
-        f.set = &RefuseLastId;
+        f.set = &SetLastId;
       }
     }
   }

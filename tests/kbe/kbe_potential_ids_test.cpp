@@ -1,5 +1,5 @@
 // The last-used potential ids are kept by the options themselves: every potential a script adds
-// counts, removing one gives no id back, and scripts cannot set them.
+// counts, removing one gives no id back, and scripts cannot take them back.
 #include <nlohmann/json.hpp>
 
 #include <string>
@@ -66,13 +66,27 @@ TEST_F(KbePotentialIds, EveryPotentialAddedCountsAndNoneGivesItsIdBack) {
     if (c.other) {
       EXPECT_EQ(Get(c.other), 0);
     }
-    // scripts read the id but cannot set it; the refusal changes nothing
-    EXPECT_EQ(Refusal(R"({"op":"set","path":)" + At(c.lastId) + R"(,"value":9})"),
+    // scripts cannot take the id back; the refusal changes nothing
+    EXPECT_EQ(Refusal(R"({"op":"set","path":)" + At(c.lastId) + R"(,"value":3})"),
               std::string("The member \"") + c.lastId + "\" of " + c.type + " counts the potentials added to \"" + list +
-                  "\" and cannot be set");
+                  "\" and cannot be set below 4");
     EXPECT_EQ(Get(c.lastId), 4);
+    Ok(R"({"op":"set","path":)" + At(c.lastId) + R"(,"value":4})");
+    EXPECT_EQ(Get(c.lastId), 4);
+    // an option read out whole is rebuilt as it was
+    const cmd_Json whole = Ok(R"({"op":"get","path":["M","connectorSections","S","behaviorOptions",0]})");
+    Ok(R"({"op":"set","path":["M","connectorSections","S","behaviorOptions",0],"type":")" + std::string(c.type) +
+       R"(","values":)" + [&] {
+         cmd_Json v = whole;
+         v.erase("type");
+         return v.dump();
+       }() + "}");
+    EXPECT_EQ(Ok(R"({"op":"get","path":["M","connectorSections","S","behaviorOptions",0]})"), whole);
+    EXPECT_EQ(Get(c.lastId), 4);
+    // but not with an id below the potentials it holds
     EXPECT_FALSE(Refusal(R"({"op":"set","path":["M","connectorSections","S","behaviorOptions",0],"type":")" +
-                         std::string(c.type) + R"(","values":{")" + c.lastId + R"(":5}})")
+                         std::string(c.type) + R"(","values":{")" + list + R"(":[{"componentNumber":1},{"componentNumber":2}],")" +
+                         c.lastId + R"(":1}})")
                      .empty());
     EXPECT_EQ(Get(c.lastId), 4);
     Ok(R"({"op":"delete","path":["M","connectorSections","S","behaviorOptions",0]})");

@@ -12,6 +12,6 @@ void kamC_Periodic::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMet
 void kamC_Periodic::CowDtor(void* p) { fw_CowDtor<kamC_Periodic>(p); }
 
 void kamC_Periodic::AssertValid() const {
-  kamC_Assert(data.Rows() >= 1, kamC_NoFourierCoefficients);
+  kamC_Assert(!data.empty(), kamC_NoFourierCoefficients);  // rows without a cell hold no pair
   kamC_Assert(data.Columns() <= 2, kamC_TooManyColumns);
 }

@@ -19,7 +19,7 @@ void kamC_PsdDefinition::AssertValid() const {
   const bool db = unitType == PsdTypeEnm::DB;
   kamC_Assert(!(userSubroutine && db), kamC_UserSubroutineWithDb);
   if (userSubroutine) {
-    kamC_Assert(data.Rows() == 0, kamC_UserSubroutineWithData);
+    kamC_Assert(data.empty(), kamC_UserSubroutineWithData);  // no cell, whatever its shape
     return;
   }
   kamC_Assert(data.Columns() == 3, kamC_NotThreeColumns);

@@ -11,8 +11,8 @@
 #include "kam/kamC_PsdDefinition.h"
 #include "kam/kamC_SmoothStep.h"
 #include "kam/kamC_SolutionDependent.h"
-#include "kam/kamC_ResponseTable.h"
-#include "kam/kamC_ResponseAmplitude.h"
+#include "kam/kamC_Spectrum.h"
+#include "kam/kamC_SpectrumAmplitude.h"
 #include "kam/kamC_Tabular.h"
 
 namespace {

@@ -134,8 +134,8 @@ void QMXOdbKbeC_initialize(int& tally) {
   auto& metadata = omi_Singleton<cls_MetadataRegistrar>::Instance();
   metadata.initClassMetadata(&kbeC_ConnectorBehaviorOption::InitializeMetadata, 7);
   metadata.initClassMetadata(&kbeC_ConnectorOptions::InitializeMetadata, 7);
-  metadata.initClassMetadata(&kbeC_CDCTerm::InitializeMetadata, 7);
   metadata.initClassMetadata(&kbeC_DerivedComponent::InitializeMetadata, 7);
+  metadata.initClassMetadata(&kbeC_CDCTerm::InitializeMetadata, 7);
   metadata.initClassMetadata(&kbeC_ConnectorPotential::InitializeMetadata, 7);
   metadata.initClassMetadata(&kbeC_ContactForce::InitializeMetadata, 7);
   metadata.initClassMetadata(&kbeC_TangentialBehavior::InitializeMetadata, 7);
@@ -147,7 +147,10 @@ void QMXOdbKbeC_initialize(int& tally) {
   metadata.initClassMetadata(&kbeC_ConnectorFailure::InitializeMetadata, 7);
   metadata.initClassMetadata(&kbeC_ConnectorLock::InitializeMetadata, 7);
   metadata.initClassMetadata(&kbeC_ConnectorStop::InitializeMetadata, 7);
-  metadata.initClassMetadata(&kbeC_BehaviorOptionContainer::InitializeMetadata, 7);
+  // A keyed map registers in the group of maps.
+  metadata.initClassMetadata(&kbeC_BehaviorOptionContainer::InitializeMetadata, 3);
+  // What this library adds beyond the sixteen: the section, its repository and the repository's
+  // wrapper.
   metadata.initClassMetadata(&kbeC_ConnectorSection::InitializeMetadata, 7);
   metadata.initClassMetadata(&kbeC_ConnectorSectionContainer::InitializeMetadata, 3);
   metadata.initClassMetadata(&kbeC_CSWrapper::InitializeMetadata, 4);

@@ -20,7 +20,6 @@ void kbeC_CDCTerm::AssertValid() const {
   if (localDependency) {
     kbeC_Assert(static_cast<std::int32_t>(indepCompType) <= 1, kbeC_NoIndependentComponentType);
     kbeC_Assert(!indepComponents.empty(), kbeC_TermNoIndependentComponent);
-    for (std::int32_t c : indepComponents) kbeC_Assert(kbeC_InRange(c), kbeC_IndependentOutOfRange);
   }
   if (!options.IsNull()) {
     kbeC_AssertContent(options->RateOptionsAtDefaults(), kbeC_RateOptionsNotAllowed, "CDCTerm");

@@ -51,7 +51,6 @@ void kbeC_CheckSpringLike(const kbeC_SpringLike& s, const char* label) {
     kbeC_Assert(s.independentComponents.size() <= 6, kbeC_IndependentCount);
     std::set<std::int32_t> seen;
     for (std::int32_t c : s.independentComponents) kbeC_Assert(seen.insert(c).second, kbeC_IndependentDuplicate);
-    for (std::int32_t c : s.independentComponents) kbeC_Assert(kbeC_InRange(c), kbeC_IndependentOutOfRange);
   } else {
     kbeC_Assert(!(s.behavior == 1 && s.coupling != 0), kbeC_NoIndependentComponent);
   }

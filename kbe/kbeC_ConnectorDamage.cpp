@@ -4,13 +4,34 @@
 #include "kbe/kbeC_Traits.h"
 #include "kbe/kbeC_assert.h"
 #include "kbe/kbeC_Checks.h"
+#include "kbe/kbeC_PotentialIds.h"
 
 kbeC_ConnectorDamage::kbeC_ConnectorDamage(const cls_ReadVisitor& r) : kbeC_ConnectorBehaviorOption(r) { fw_ReadFields(*this, r); }
 void kbeC_ConnectorDamage::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
 kbeC_ConnectorDamage* kbeC_ConnectorDamage::Copy() const { return new kbeC_ConnectorDamage(*this); }
 bool kbeC_ConnectorDamage::operator==(const kbeC_ConnectorDamage& o) const { return fw_EqualFields(*this, o); }
 bool kbeC_ConnectorDamage::SameAs(const kbeC_ConnectorBehaviorOption& o) const { return *this == static_cast<const kbeC_ConnectorDamage&>(o); }
-void kbeC_ConnectorDamage::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbeC_ConnectorDamage>(r); }
+namespace {
+struct kbeDamage_InitiationPotentials {
+  using C = kbeC_ConnectorDamage;
+  static constexpr const char* kList = "initiationPotentials";
+  static constexpr const char* kLastId = "lastIniId";
+  static std::size_t Count(const C& c) { return c.GetInitiationPotentials().size(); }
+  static std::int32_t Last(const C& c) { return c.GetLastIniId(); }
+  static void Grow(C& c, std::int32_t n) { c.SetLastIniId(c.GetLastIniId() + n); }
+};
+struct kbeDamage_EvolutionPotentials {
+  using C = kbeC_ConnectorDamage;
+  static constexpr const char* kList = "evolutionPotentials";
+  static constexpr const char* kLastId = "lastEvoId";
+  static std::size_t Count(const C& c) { return c.GetEvolutionPotentials().size(); }
+  static std::int32_t Last(const C& c) { return c.GetLastEvoId(); }
+  static void Grow(C& c, std::int32_t n) { c.SetLastEvoId(c.GetLastEvoId() + n); }
+};
+}  // namespace
+void kbeC_ConnectorDamage::InitializeMetadata(cls_ClassRegistrar& r) {
+  kbeC_InitializePotentialIdMetadata<kbeC_ConnectorDamage, kbeDamage_InitiationPotentials, kbeDamage_EvolutionPotentials>(r);
+}
 void kbeC_ConnectorDamage::CowDtor(void* p) { fw_CowDtor<kbeC_ConnectorDamage>(p); }
 const kbeC_ConnectorOptions& kbeC_ConnectorDamage::GetInitiationOptions() const { return kbeC_Present(initiationOptions, "initiationOptions"); }
 kbeC_ConnectorOptions& kbeC_ConnectorDamage::ModifyInitiationOptions() { return kbeC_Present(initiationOptions, "initiationOptions"); }

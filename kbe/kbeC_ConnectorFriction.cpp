@@ -4,13 +4,26 @@
 #include "kbe/kbeC_Traits.h"
 #include "kbe/kbeC_assert.h"
 #include "kbe/kbeC_Checks.h"
+#include "kbe/kbeC_PotentialIds.h"
 
 kbeC_ConnectorFriction::kbeC_ConnectorFriction(const cls_ReadVisitor& r) : kbeC_ConnectorBehaviorOption(r) { fw_ReadFields(*this, r); }
 void kbeC_ConnectorFriction::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
 kbeC_ConnectorFriction* kbeC_ConnectorFriction::Copy() const { return new kbeC_ConnectorFriction(*this); }
 bool kbeC_ConnectorFriction::operator==(const kbeC_ConnectorFriction& o) const { return fw_EqualFields(*this, o); }
 bool kbeC_ConnectorFriction::SameAs(const kbeC_ConnectorBehaviorOption& o) const { return *this == static_cast<const kbeC_ConnectorFriction&>(o); }
-void kbeC_ConnectorFriction::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbeC_ConnectorFriction>(r); }
+namespace {
+struct kbeFriction_Potentials {
+  using C = kbeC_ConnectorFriction;
+  static constexpr const char* kList = "connectorPotentials";
+  static constexpr const char* kLastId = "lastId";
+  static std::size_t Count(const C& c) { return c.GetConnectorPotentials().size(); }
+  static std::int32_t Last(const C& c) { return c.GetLastId(); }
+  static void Grow(C& c, std::int32_t n) { c.SetLastId(c.GetLastId() + n); }
+};
+}  // namespace
+void kbeC_ConnectorFriction::InitializeMetadata(cls_ClassRegistrar& r) {
+  kbeC_InitializePotentialIdMetadata<kbeC_ConnectorFriction, kbeFriction_Potentials>(r);
+}
 void kbeC_ConnectorFriction::CowDtor(void* p) { fw_CowDtor<kbeC_ConnectorFriction>(p); }
 const kbeC_TangentialBehavior& kbeC_ConnectorFriction::GetTangentialBehavior() const { return kbeC_Present(tangentialBehavior, "tangentialBehavior"); }
 kbeC_TangentialBehavior& kbeC_ConnectorFriction::ModifyTangentialBehavior() { return kbeC_Present(tangentialBehavior, "tangentialBehavior"); }
@@ -31,10 +44,11 @@ void kbeC_ConnectorFriction::AssertValid() const {
     for (std::int32_t c : independentComponents) kbeC_Assert(kbeC_InRange(c), kbeC_IndependentOutOfRange);
   }
   kbeC_Assert(kbeC_InRange(tangentDirection), kbeC_SlipDirectionOutOfRange);
-  const bool byNumber = contactForceStyle == ContactForceStyleEnm::COMPONENT_NUMBER;
-  if (useContactForceComponent && byNumber)
-    kbeC_Assert(kbeC_InRange(contactForceComponent), kbeC_ContactForceComponentOutOfRange);
-  kbeC_Assert(!(useContactForceComponent && !byNumber && derivedComponent.IsNull()), kbeC_ContactForceNoDerivedComponent);
+  // Both hold whether or not the contact-force component is in use, so that a stored choice is
+  // always one that could be switched on.
+  kbeC_Assert(kbeC_InRange(contactForceComponent), kbeC_ContactForceComponentOutOfRange);
+  kbeC_Assert(!(contactForceStyle == ContactForceStyleEnm::DERIVED_COMPONENT && derivedComponent.IsNull()),
+              kbeC_ContactForceNoDerivedComponent);
   if (!derivedComponent.IsNull()) derivedComponent->AssertValid();
   // An enumeration always holds one of its literals; these guard values that came in unchecked.
   kbeC_Assert(kbeC_Listed(slipStyle), kbeC_NoSlipStyle);

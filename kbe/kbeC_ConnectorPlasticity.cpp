@@ -4,13 +4,26 @@
 #include "kbe/kbeC_Traits.h"
 #include "kbe/kbeC_assert.h"
 #include "kbe/kbeC_Checks.h"
+#include "kbe/kbeC_PotentialIds.h"
 
 kbeC_ConnectorPlasticity::kbeC_ConnectorPlasticity(const cls_ReadVisitor& r) : kbeC_ConnectorBehaviorOption(r) { fw_ReadFields(*this, r); }
 void kbeC_ConnectorPlasticity::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
 kbeC_ConnectorPlasticity* kbeC_ConnectorPlasticity::Copy() const { return new kbeC_ConnectorPlasticity(*this); }
 bool kbeC_ConnectorPlasticity::operator==(const kbeC_ConnectorPlasticity& o) const { return fw_EqualFields(*this, o); }
 bool kbeC_ConnectorPlasticity::SameAs(const kbeC_ConnectorBehaviorOption& o) const { return *this == static_cast<const kbeC_ConnectorPlasticity&>(o); }
-void kbeC_ConnectorPlasticity::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbeC_ConnectorPlasticity>(r); }
+namespace {
+struct kbePlasticity_Potentials {
+  using C = kbeC_ConnectorPlasticity;
+  static constexpr const char* kList = "connectorPotentials";
+  static constexpr const char* kLastId = "lastId";
+  static std::size_t Count(const C& c) { return c.GetConnectorPotentials().size(); }
+  static std::int32_t Last(const C& c) { return c.GetLastId(); }
+  static void Grow(C& c, std::int32_t n) { c.SetLastId(c.GetLastId() + n); }
+};
+}  // namespace
+void kbeC_ConnectorPlasticity::InitializeMetadata(cls_ClassRegistrar& r) {
+  kbeC_InitializePotentialIdMetadata<kbeC_ConnectorPlasticity, kbePlasticity_Potentials>(r);
+}
 void kbeC_ConnectorPlasticity::CowDtor(void* p) { fw_CowDtor<kbeC_ConnectorPlasticity>(p); }
 const kbeC_ConnectorOptions& kbeC_ConnectorPlasticity::GetIsotropicOptions() const { return kbeC_Present(isotropicOptions, "isotropicOptions"); }
 kbeC_ConnectorOptions& kbeC_ConnectorPlasticity::ModifyIsotropicOptions() { return kbeC_Present(isotropicOptions, "isotropicOptions"); }

@@ -127,6 +127,7 @@ void* Upgrade_kbeC_CDCTerm_836(const dbc_Row&, dbc_Row& newRow, int) {
   return nullptr;
 }
 
+// In the order of the module's list of retired layouts.
 void kbeC_RegisterLegacyVersions(dbc_OldClassRegistrar& registrar) {
   auto add = [&](dbc_OldClassVersion* v) { registrar.Register(cow_CountedHld<dbc_OldClassVersion>(v), 5); };
   add(new kbeC_ConnectorDamage_811);
@@ -139,6 +140,22 @@ void kbeC_RegisterLegacyVersions(dbc_OldClassRegistrar& registrar) {
   add(new kbeC_ConnectorOptions_1022);
   add(new kbeC_ConnectorPlasticity_811);
   add(new kbeC_ConnectorPotential_811);
-  kbeC_RegisterRenames(registrar);
+  add(new kbeC_Damage_453);
+  add(new kbeC_Damage_507);
+  add(new kbeC_Damping_453);
+  add(new kbeC_Elasticity_453);
+  add(new kbeC_Failure_453);
+  add(new kbeC_Friction_453);
+  add(new kbeC_Friction_507);
+  add(new kbeC_Lock_453);
+  add(new kbeC_MotionDiscontinuity_453);
+  add(new kbeC_Plasticity_453);
+  add(new kbeC_Plasticity_507);
+  add(new kbeC_PotentialContainer_507);
+  add(new kbeC_Potential_507);
+  add(new kbeC_Stops_453);
+  add(new kbeC_Tabular_453);
   add(new kbeC_CDCTerm_836);
+  add(new kbeC_CDCTerm_1022);
+  add(new kbeC_ConnectorBehaviorOption_453);
 }

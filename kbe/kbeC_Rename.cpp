@@ -91,7 +91,9 @@ class Renaming {
   }
   // A potential container into operator, exponent, the list of potentials and its last id; the
   // container's operator (SUM or MAXIMUM) is written as the given literals. A 453 row has no
-  // potentials: the defaults then.
+  // potentials: the defaults then. A missing container row is a missing input row; a container
+  // whose operator or exponent cannot be read is a missing property row; a potential of a class
+  // the file does not know cannot be written into the new list.
   void Potentials(const char* field, const char* op, const char* exponent, const char* list, const char* lastId,
                   const char* sumLiteral, const char* maximumLiteral) {
     RowPtr c = Has((std::string(field) + "#OID").c_str()) ? Referred(field) : nullptr;
@@ -99,15 +101,22 @@ class Renaming {
     cow_String stored = "SUM";
     double power = 2.0;
     if (c) {
-      stored = *std::get_if<cow_String>(&Field(*c, "operator", "kbeC_PotentialContainer"));
-      power = *std::get_if<double>(&Field(*c, "exponent", "kbeC_PotentialContainer"));
+      const cls_Value* storedOp = c->Find("operator");
+      const cls_Value* storedPower = c->Find("exponent");
+      const cow_String* opText = storedOp ? std::get_if<cow_String>(storedOp) : nullptr;
+      const double* powerValue = storedPower ? std::get_if<double>(storedPower) : nullptr;
+      if (!opText || !powerValue || (*opText != "SUM" && *opText != "MAXIMUM")) Fail("inputMdlPropertyTable can't be NULL");
+      stored = *opText;
+      power = *powerValue;
       auto oids = std::get_if<std::vector<std::int32_t>>(&Field(*c, "potentials#OID", "kbeC_PotentialContainer"));
       auto ids = std::get_if<std::vector<std::int32_t>>(&Field(*c, "potentials#ClassID", "kbeC_PotentialContainer"));
-      if (!oids || !ids || oids->size() != ids->size()) Fail("inputTable can't be NULL");
-      for (std::size_t i = 0; i < oids->size(); ++i)
-        potentials.push_back(out_.Source()->Reference(static_cast<std::uint32_t>((*ids)[i]), (*oids)[i]));
+      if (!oids || !ids || oids->size() != ids->size()) Fail("outputTable can't be NULL");
+      for (std::size_t i = 0; i < oids->size(); ++i) {
+        const auto id = static_cast<std::uint32_t>((*ids)[i]);
+        if (out_.Source()->ClassName(id).empty()) Fail("outputTable can't be NULL");
+        potentials.push_back(out_.Source()->Reference(id, (*oids)[i]));
+      }
     }
-    if (stored != "SUM" && stored != "MAXIMUM") Fail("inputTable can't be NULL");
     Set(op, cow_String(stored == "SUM" ? sumLiteral : maximumLiteral));
     Set(exponent, power);
     Set(lastId, static_cast<std::int32_t>(potentials.size()));
@@ -286,25 +295,4 @@ void kbeC_Stops_453::SchemaChanges(dbc_DatabaseConverter& c) { RenameStep<kbeC_C
 // none. It is kept so that the layout of each stored version of the term has its descriptor.
 void kbeC_CDCTerm_1022::SchemaChanges(dbc_DatabaseConverter&) {
   static_assert(kbeC_CDCTerm::kVersion == 1022, "a term layout after 1022 needs its step here");
-}
-
-void kbeC_RegisterRenames(dbc_OldClassRegistrar& registrar) {
-  auto add = [&](dbc_OldClassVersion* v) { registrar.Register(cow_CountedHld<dbc_OldClassVersion>(v), 5); };
-  add(new kbeC_Damage_453);
-  add(new kbeC_Damage_507);
-  add(new kbeC_Damping_453);
-  add(new kbeC_Elasticity_453);
-  add(new kbeC_Failure_453);
-  add(new kbeC_Friction_453);
-  add(new kbeC_Friction_507);
-  add(new kbeC_Lock_453);
-  add(new kbeC_MotionDiscontinuity_453);
-  add(new kbeC_Plasticity_453);
-  add(new kbeC_Plasticity_507);
-  add(new kbeC_PotentialContainer_507);
-  add(new kbeC_Potential_507);
-  add(new kbeC_Stops_453);
-  add(new kbeC_Tabular_453);
-  add(new kbeC_CDCTerm_1022);
-  add(new kbeC_ConnectorBehaviorOption_453);
 }

@@ -96,4 +96,3 @@ void* rename_kbeC_Stops(const dbc_Row& oldRow, dbc_Row& newRow, int arg);
 // A base row met on its own has no behavior to become: refused.
 void* Upgrade_kbeC_ConnectorBehaviorOption_453(const dbc_Row& oldRow, dbc_Row& newRow, int arg);
 
-void kbeC_RegisterRenames(dbc_OldClassRegistrar& registrar);

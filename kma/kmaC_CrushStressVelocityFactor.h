@@ -11,7 +11,7 @@ class kmaC_CrushStressVelocityFactor : public kmaC_MaterialOption {
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_CrushStressVelocityFactor";
   static constexpr const char* kScriptName = "CrushStressVelocityFactor";
-  static constexpr int kVersion = 2218;
+  static constexpr int kVersion = 203;
   static constexpr unsigned TypeId() { return kmaC_OptionTypeId(kmaC_OptionClass::CrushStressVelocityFactor); }
 
   static constexpr auto Fields() {

@@ -35,33 +35,3 @@ void kmaC_DamageInitiation::AssertValid() const {
     seen.push_back(index);
   }
 }
-
-namespace {
-bool IsOneOf(std::string_view slot, std::initializer_list<std::string_view> names) {
-  return std::find(names.begin(), names.end(), slot) != names.end();
-}
-// The criteria of fibre-reinforced composites: four failure modes (fibre and matrix, each in
-// tension and in compression), and no use without an evolution of the modes.
-bool IsCompositeCriterion(std::string_view slot) {
-  return IsOneOf(slot, {"hashinDamageInitiation", "laRC05DamageInitiation"});
-}
-// The criteria of ductile metals, stated in terms of the equivalent plastic strain.
-bool IsPlasticityCriterion(std::string_view slot) {
-  return IsOneOf(slot, {"ductileDamageInitiation", "fldDamageInitiation", "flsdDamageInitiation",
-                        "johnsonCookDamageInitiation", "mkDamageInitiation", "msfldDamageInitiation",
-                        "shearDamageInitiation", "hosfordCoulombDamageInitiation"});
-}
-}  // namespace
-
-int kmaC_DamageInitiation::FailureModes(std::string_view slot) { return IsCompositeCriterion(slot) ? 4 : 1; }
-
-void kmaC_DamageInitiation::AssertValidInSlot(std::string_view slot, bool materialHasPlasticity) const {
-  const int modes = FailureModes(slot);
-  kmaC_Assert(damageEvolutions.size() <= static_cast<std::size_t>(modes), kmaC_TooManyDamageEvolutions);
-  for (const kmaC_OptionHandle& h : damageEvolutions.List()) {
-    const std::int32_t index = static_cast<const kmaC_DamageEvolution&>(h.Get()).GetFailureIndex();
-    kmaC_Assert(index >= 1 && index <= modes, kmaC_FailureIndexTooLarge);
-  }
-  if (IsCompositeCriterion(slot)) kmaC_Assert(!damageEvolutions.empty(), kmaC_DamageEvolutionRequired);
-  if (IsPlasticityCriterion(slot)) kmaC_Assert(materialHasPlasticity, kmaC_InitiationNeedsPlasticity);
-}

@@ -54,14 +54,6 @@ class kmaC_DamageInitiation : public kmaC_MaterialOption {
   // Dependencies (code 0), the table (code 23), then the damage evolutions: each of its class
   // (code 11) and valid, no failure index twice (code 74).
   void AssertValid() const override;
-  // The rules that depend on the criterion, that is on the material slot that holds the option:
-  // at most as many evolutions as the criterion has failure modes (code 75), each failure index
-  // among them (code 73), an evolution where the criterion needs one (code 71), and a plasticity
-  // option in the material where the criterion is one of ductile metals (code 72). Called by
-  // the material's validation after AssertValid.
-  void AssertValidInSlot(std::string_view slot, bool materialHasPlasticity) const;
-  // The number of failure modes of the criterion of a slot, 1 for the single-mode criteria.
-  static int FailureModes(std::string_view slot);
   unsigned DynTypeId() const override { return TypeId(); }
   void DBWrite(const cls_WriteVisitor& w) const override;
   const kmaC_MaterialOptionList* OptionList(std::string_view member) const override;

@@ -15,7 +15,7 @@ class kmaC_MagneticPermeability : public kmaC_MaterialOption {
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_MagneticPermeability";
   static constexpr const char* kScriptName = "MagneticPermeability";
-  static constexpr int kVersion = 2002;
+  static constexpr int kVersion = 1701;
   static constexpr unsigned TypeId() { return kmaC_OptionTypeId(kmaC_OptionClass::MagneticPermeability); }
 
   static constexpr auto Fields() {

@@ -1,6 +1,5 @@
 #include "kma/kmaC_Material.h"
 
-#include "kma/kmaC_DamageInitiation.h"
 #include "kma/kmaC_Elastic.h"
 #include "kma/kmaC_OptionSlotTraits.h"
 #include "kma/kmaC_Plastic.h"
@@ -95,21 +94,15 @@ kmaC_Plastic& kmaC_Material::ModifyPlastic() {
 
 void kmaC_Material::SetPlastic(const kmaC_Plastic& v) { plastic.Set(v, "plastic"); }
 
-// The slots in persistent order; the first failing option decides the message. A damage
-// initiation is checked here also against its criterion (its slot) and the rest of the material,
-// which the option alone cannot see.
+// The slots in persistent order; the first failing option decides the message. The material adds
+// no rule of its own (how a damage initiation fits its slot is advice, kmaC_DamageInitiationFit.h).
 void kmaC_Material::AssertValid() const {
-  const bool hasPlasticity = !plastic.IsNull() || !druckerPrager.IsNull() || !foam.IsNull();
   std::apply(
       [&](const auto&... f) {
         auto one = [&](const auto& field) {
           using M = typename fw_MemberType<std::remove_cvref_t<decltype(field)>>::type;
           if constexpr (IsSlot<M>::value) {
-            if (const kmaC_MaterialOption* o = (this->*(field.member)).ConstGet()) {
-              o->AssertValid();
-              if constexpr (M::kClass == kmaC_OptionClass::DamageInitiation)
-                static_cast<const kmaC_DamageInitiation*>(o)->AssertValidInSlot(field.name, hasPlasticity);
-            }
+            if (const kmaC_MaterialOption* o = (this->*(field.member)).ConstGet()) o->AssertValid();
           }
         };
         (one(f), ...);

@@ -18,8 +18,8 @@
 #include "kam/kamC_EquallySpaced.h"
 #include "kam/kamC_Periodic.h"
 #include "kam/kamC_PsdDefinition.h"
-#include "kam/kamC_ResponseTable.h"
-#include "kam/kamC_ResponseAmplitude.h"
+#include "kam/kamC_Spectrum.h"
+#include "kam/kamC_SpectrumAmplitude.h"
 #include "kam/kamC_Tabular.h"
 #include "kam/kamC_TypeLabelMap.h"
 #include "kam/kamC_UserAmplitude.h"
@@ -318,6 +318,26 @@ TEST_F(KamCommands, MembersAreSetAndReadByScriptingName) {
   EXPECT_EQ(omu_ChangeHistory::Instance().Entries(), (Changes{{"kamC_AmplitudeContainer", "Remove", "PSD"}}));
   Ok(R"({"op":"validate","path":["M"]})");
   EXPECT_EQ(Ok(R"({"op":"list","path":["M","amplitudes"]})"), cmd_Json::parse(R"(["Ramp","SA"])"));
+}
+
+// Rows without cells are kept as written, refused by validation with the module's message, and
+// survive a save and an open (the check of the opened file reads no cell it lacks).
+TEST_F(KamCommands, TablesOfRowsWithoutCellsAreRefusedByValidationAndSurviveTheFile) {
+  Ok(R"({"op":"create","path":["M","amplitudes","Empty"],"type":"TabularAmplitude","values":{"data":[[],[]]}})");
+  Ok(R"({"op":"create","path":["M","amplitudes","Step"],"type":"SmoothStepAmplitude","values":{"data":[[],[],[]]}})");
+  for (const char* name : {"Empty", "Step"}) {
+    SCOPED_TRACE(name);
+    cmd_Json e = Fails(std::string(R"({"op":"validate","path":["M","amplitudes",")") + name + R"("]})");
+    EXPECT_EQ(e["message"], "The Time-Amplitude table should have at least two rows of data.");
+  }
+  const cmd_Json before = Ok(R"({"op":"get","path":["M","amplitudes"]})");
+  EXPECT_EQ(Ok(R"({"op":"get","path":["M","amplitudes","Step","data"]})"), cmd_Json::parse("[[],[],[]]"));
+  const std::string file = qmx_TempDir("kam-shapes") + "/shapes.odb";
+  Ok(R"({"op":"save","file":")" + file + R"("})");
+  Ok(R"({"op":"delete","path":["M"]})");
+  Ok(R"({"op":"open","file":")" + file + R"("})");
+  EXPECT_EQ(Ok(R"({"op":"get","path":["M","amplitudes"]})"), before);
+  EXPECT_EQ(Fails(R"({"op":"validate","path":["M"]})")["message"], "The Time-Amplitude table should have at least two rows of data.");
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 #include "kam/kamC_CorrelationComponent.h"
 #include "kam/kamC_EquallySpaced.h"
 #include "kam/kamC_PsdDefinition.h"
-#include "kam/kamC_ResponseAmplitude.h"
+#include "kam/kamC_SpectrumAmplitude.h"
 #include "kam/kamC_Tabular.h"
 #include "platform/base/cow_COW.h"
 #include "platform/persist/cls_ClassRegistrar.h"

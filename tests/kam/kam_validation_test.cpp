@@ -11,8 +11,8 @@
 #include "kam/kamC_PsdDefinition.h"
 #include "kam/kamC_SmoothStep.h"
 #include "kam/kamC_SolutionDependent.h"
-#include "kam/kamC_ResponseTable.h"
-#include "kam/kamC_ResponseAmplitude.h"
+#include "kam/kamC_Spectrum.h"
+#include "kam/kamC_SpectrumAmplitude.h"
 #include "kam/kamC_Tabular.h"
 #include "kam/kamC_UserAmplitude.h"
 #include "tests/kam/kam_test.h"
@@ -107,6 +107,34 @@ TEST_F(KamValidation, SmoothStepAndPeriodic) {
       {"three columns", [](kamC_Periodic& a) { a.SetData(T2{{1, 0, 0}}); }, 11},
       {"several rows", [](kamC_Periodic& a) { a.SetData(T2{{1, 0}, {0.5, 0.25}}); }, kam_kPasses},
   });
+}
+
+// Every table shape (no rows, rows without cells, cells without rows) is validated without
+// reading a cell the table does not have; rows without a cell hold no data.
+TEST_F(KamValidation, EveryTableShapeIsValidatedWithoutReadingMissingCells) {
+  struct Shape {
+    std::size_t rows, columns;
+    int tabular, periodic, psd, psdUser, spectrum;
+  };
+  const Shape shapes[] = {
+      {0, 0, 12, 22, 15, kam_kPasses, 15}, {2, 0, 12, 22, 15, kam_kPasses, 15}, {3, 0, 12, 22, 15, kam_kPasses, 15},
+      {0, 2, 12, 22, 15, kam_kPasses, 15}, {0, 3, 11, 22, kam_kPasses, kam_kPasses, kam_kPasses},
+      {1, 1, 12, kam_kPasses, 15, 24, 15}, {2, 1, kam_kPasses, kam_kPasses, 15, 24, 15},
+  };
+  for (const Shape& sh : shapes) {
+    SCOPED_TRACE(std::to_string(sh.rows) + " x " + std::to_string(sh.columns));
+    const T2 table(sh.rows, sh.columns, 0.0);
+    kam_CheckCases<kamC_Tabular>({{"tabular", [&](kamC_Tabular& a) { a.SetData(table); }, sh.tabular}});
+    kam_CheckCases<kamC_SmoothStep>({{"smooth step", [&](kamC_SmoothStep& a) { a.SetData(table); }, sh.tabular}});
+    kam_CheckCases<kamC_Periodic>({{"periodic", [&](kamC_Periodic& a) { a.SetData(table); }, sh.periodic}});
+    kam_CheckCases<kamC_PsdDefinition>({
+        {"psd", [&](kamC_PsdDefinition& a) { a.SetData(table); }, sh.psd},
+        {"psd in decibels", [&](kamC_PsdDefinition& a) { a.SetUnitType(kamC_PsdDefinition::PsdTypeEnm::DB); a.SetData(table); },
+         sh.psd},
+        {"psd of a subroutine", [&](kamC_PsdDefinition& a) { a.SetUserSubroutine(true); a.SetData(table); }, sh.psdUser},
+    });
+    kam_CheckCases<kamC_Spectrum>({{"spectrum", [&](kamC_Spectrum& a) { a.SetData(table); }, sh.spectrum}});
+  }
 }
 
 TEST_F(KamValidation, SolutionDependentDecayAndModulated) {

@@ -414,6 +414,15 @@ TEST_F(KbeUpgrade, AMissingSourceRowStopsTheUpgradeWithItsMessage) {
        "rename_kbeC_Stops failed: inputTable for kbeC_Stops can't be NULL"},
       {"a table of a damping", "UPDATE kbeC_Damping SET \"table#OID\" = 99;",
        "rename_kbeC_Damping failed: inputTable can't be NULL"},
+      {"the potential container of a plasticity", "UPDATE kbeC_Plasticity SET \"potentials#OID\" = 99;",
+       "rename_kbeC_Plasticity failed: inputTable can't be NULL"},
+      {"an operator of a potential container", "UPDATE kbeC_PotentialContainer SET operator = 'PRODUCT' WHERE OID = 2;",
+       "rename_kbeC_Plasticity failed: inputMdlPropertyTable can't be NULL"},
+      {"an operator of no literal", "UPDATE kbeC_PotentialContainer SET operator = 'sum' WHERE OID = 1;",
+       "rename_kbeC_Damage failed: inputMdlPropertyTable can't be NULL"},
+      {"a potential of a class the file does not know",
+       "UPDATE kbeC_PotentialContainer SET potentials = '[[3,12345]]' WHERE OID = 2;",
+       "rename_kbeC_Plasticity failed: outputTable can't be NULL"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.what);

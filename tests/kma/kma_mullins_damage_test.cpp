@@ -12,6 +12,7 @@
 #include "kma/kmaC_CrushStressVelocityFactor.h"
 #include "kma/kmaC_DamageEvolution.h"
 #include "kma/kmaC_DamageInitiation.h"
+#include "kma/kmaC_DamageInitiationFit.h"
 #include "kma/kmaC_Density.h"
 #include "kma/kmaC_DruckerPrager.h"
 #include "kma/kmaC_Elastic.h"
@@ -282,8 +283,9 @@ TEST(KmaDamageEvolution, TypeSofteningAndMixedModeCombinations) {
   kmaT_ExpectFailure([&] { e.AssertValid(); }, kCombination);
 }
 
-// The checks of a damage initiation inside a material, which depend on the slot (the criterion)
-// and on the material's other options.
+// How a damage initiation fits its criterion (its slot) and the material's other options: advice
+// given by kmaC_AssertDamageInitiationsFitMaterial, never a failure of the material's validation,
+// which only validates each option it holds.
 TEST(KmaDamageInitiation, EvolutionListRulesDependOnTheCriterionAndTheMaterial) {
   kmaT_Start();
   kmaC_Plastic plastic;
@@ -293,52 +295,62 @@ TEST(KmaDamageInitiation, EvolutionListRulesDependOnTheCriterionAndTheMaterial) 
     const char* slot;
     kmaC_DamageInitiation initiation;
     std::function<void(kmaC_Material&)> other;
-    std::string message;
+    std::string validation;  // of the material ("" = valid)
+    std::string fit;         // of the advice ("" = fits)
   };
   const auto none = [](kmaC_Material&) {};
   const auto withPlastic = [&](kmaC_Material& m) { m.SetOption("plastic", plastic); };
   const Case cases[] = {
-      {"ductile with plastic", "ductileDamageInitiation", InitiationWith({Evolution(1)}), withPlastic, ""},
-      {"ductile without plasticity", "ductileDamageInitiation", InitiationWith({}), none, kNeedsPlasticity},
+      {"ductile with plastic", "ductileDamageInitiation", InitiationWith({Evolution(1)}), withPlastic, "", ""},
+      {"ductile without plasticity", "ductileDamageInitiation", InitiationWith({}), none, "", kNeedsPlasticity},
       {"johnson-cook with drucker prager", "johnsonCookDamageInitiation", InitiationWith({}),
-       [](kmaC_Material& m) { m.SetOption("druckerPrager", kmaC_DruckerPrager()); }, ""},
+       [](kmaC_Material& m) { m.SetOption("druckerPrager", kmaC_DruckerPrager()); }, "", ""},
       {"hosford-coulomb with crushable foam", "hosfordCoulombDamageInitiation", InitiationWith({}),
-       [](kmaC_Material& m) { m.SetOption("foam", kmaC_Foam()); }, ""},
-      {"msfld without plasticity", "msfldDamageInitiation", InitiationWith({}), none, kNeedsPlasticity},
-      {"maxps needs no plasticity", "maxpsDamageInitiation", InitiationWith({Evolution(1)}), none, ""},
-      {"two evolutions for a single mode", "maxpsDamageInitiation", InitiationWith({Evolution(1), Evolution(2)}), none, kTooMany},
-      {"count before the plasticity", "shearDamageInitiation", InitiationWith({Evolution(1), Evolution(2)}), none, kTooMany},
-      {"index two for a single mode", "quadeDamageInitiation", InitiationWith({Evolution(2)}), none, kIndexTooLarge},
-      {"index zero", "quadeDamageInitiation", InitiationWith({Evolution(0)}), none, kIndexTooLarge},
+       [](kmaC_Material& m) { m.SetOption("foam", kmaC_Foam()); }, "", ""},
+      {"msfld without plasticity", "msfldDamageInitiation", InitiationWith({}), none, "", kNeedsPlasticity},
+      {"maxps needs no plasticity", "maxpsDamageInitiation", InitiationWith({Evolution(1)}), none, "", ""},
+      {"two evolutions for a single mode", "maxpsDamageInitiation", InitiationWith({Evolution(1), Evolution(2)}), none, "",
+       kTooMany},
+      {"count before the plasticity", "shearDamageInitiation", InitiationWith({Evolution(1), Evolution(2)}), none, "", kTooMany},
+      {"index two for a single mode", "quadeDamageInitiation", InitiationWith({Evolution(2)}), none, "", kIndexTooLarge},
+      {"index zero", "quadeDamageInitiation", InitiationWith({Evolution(0)}), none, "", kIndexTooLarge},
       {"hashin with four modes", "hashinDamageInitiation",
-       InitiationWith({Evolution(4), Evolution(1), Evolution(3), Evolution(2)}), none, ""},
+       InitiationWith({Evolution(4), Evolution(1), Evolution(3), Evolution(2)}), none, "", ""},
       {"hashin with five", "hashinDamageInitiation",
-       InitiationWith({Evolution(1), Evolution(2), Evolution(3), Evolution(4), Evolution(5)}), none, kTooMany},
-      {"hashin index five", "hashinDamageInitiation", InitiationWith({Evolution(5)}), none, kIndexTooLarge},
-      {"hashin duplicate", "hashinDamageInitiation", InitiationWith({Evolution(2), Evolution(2)}), none, kDuplicateIndex},
-      {"hashin without evolution", "hashinDamageInitiation", InitiationWith({}), none, kEvolutionRequired},
-      {"laRC05 without evolution", "laRC05DamageInitiation", InitiationWith({}), withPlastic, kEvolutionRequired},
+       InitiationWith({Evolution(1), Evolution(2), Evolution(3), Evolution(4), Evolution(5)}), none, "", kTooMany},
+      {"hashin index five", "hashinDamageInitiation", InitiationWith({Evolution(5)}), none, "", kIndexTooLarge},
+      {"hashin without evolution", "hashinDamageInitiation", InitiationWith({}), none, "", kEvolutionRequired},
+      {"laRC05 without evolution", "laRC05DamageInitiation", InitiationWith({}), withPlastic, "", kEvolutionRequired},
+      // The option's own rules fail the material; the advice does not repeat them.
+      {"hashin duplicate", "hashinDamageInitiation", InitiationWith({Evolution(2), Evolution(2)}), none, kDuplicateIndex, ""},
       {"an invalid evolution", "maxeDamageInitiation",
        InitiationWith({[] {
          kmaC_DamageEvolution e = Evolution(1);
          e.SetMixedModeBehavior(kmaC_DamageEvolution::MixedModeBehaviorEnm::BK);
          return e;
        }()}),
-       none, kCombination},
+       none, kCombination, ""},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.what);
     kmaC_Material m;
     c.other(m);
     m.SetOption(c.slot, c.initiation);
-    Expect<kmaC_Material>(m, c.message, [](const kmaC_Material& o) { o.AssertValid(); });
+    Expect<kmaC_Material>(m, c.validation, [](const kmaC_Material& o) { o.AssertValid(); });
+    Expect<kmaC_Material>(m, c.fit, [](const kmaC_Material& o) { kmaC_AssertDamageInitiationsFitMaterial(o); });
+    const bool plasticity = m.GetOption("plastic") || m.GetOption("druckerPrager") || m.GetOption("foam");
+    Expect<kmaC_DamageInitiation>(c.initiation, c.fit, [&](const kmaC_DamageInitiation& o) {
+      kmaC_AssertDamageInitiationFitsSlot(o, c.slot, plasticity);
+    });
   }
-  // The option's own checks come before those of its criterion: a duplicate among five is reported
-  // as the duplicate, not as the count.
-  kmaC_Material m;
-  m.SetOption("hashinDamageInitiation",
-              InitiationWith({Evolution(1), Evolution(1), Evolution(2), Evolution(3), Evolution(4)}));
-  kmaT_ExpectFailure([&] { m.AssertValid(); }, kDuplicateIndex);
+  // The first initiation in slot order decides the advice.
+  kmaC_Material two;
+  two.SetOption("ductileDamageInitiation", InitiationWith({}));
+  two.SetOption("hashinDamageInitiation", InitiationWith({}));
+  kmaT_ExpectFailure([&] { kmaC_AssertDamageInitiationsFitMaterial(two); }, kNeedsPlasticity);
+  two.SetOption("plastic", plastic);
+  kmaT_ExpectFailure([&] { kmaC_AssertDamageInitiationsFitMaterial(two); }, kEvolutionRequired);
+  EXPECT_NO_THROW(two.AssertValid());
   // The option alone knows nothing of its criterion.
   EXPECT_NO_THROW(InitiationWith({}).AssertValid());
   kmaC_DamageInitiation wrong = InitiationWith({});

@@ -1,4 +1,4 @@
-#include "kam/kamC_ResponseAmplitude.h"
+#include "kam/kamC_SpectrumAmplitude.h"
 
 #include "framework/fw_FieldTable.h"
 #include "kam/kamC_assert.h"

@@ -1,4 +1,4 @@
-#include "kam/kamC_ResponseTable.h"
+#include "kam/kamC_Spectrum.h"
 
 #include "framework/fw_FieldTable.h"
 #include "kam/kamC_assert.h"

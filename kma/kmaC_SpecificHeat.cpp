@@ -1,4 +1,4 @@
-#include "kma/kmaC_HeatCapacity.h"
+#include "kma/kmaC_SpecificHeat.h"
 
 #include "framework/fw_FieldTable.h"
 #include "kma/kmaC_assert.h"

@@ -1,6 +1,6 @@
 #pragma once
 // The retired layouts of kmaC_SpecificHeat: 203.
-#include "kma/kmaC_HeatCapacity.h"
+#include "kma/kmaC_SpecificHeat.h"
 #include "kma/kmaC_OldClassStep.h"
 
 // 203 to 2002: adds law "CONSTANTVOLUME".

@@ -19,6 +19,7 @@
 #include "platform/base/nex_Exception.h"
 #include "platform/base/typ_ArchCompTable.h"
 #include "platform/model/ddr_Database.h"
+#include "platform/model/mdl_Repository.h"
 #include "platform/model/omu_ChangeHistory.h"
 #include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/persist/cls_Record.h"
@@ -52,6 +53,24 @@ TEST(KflModule, ArchitectureTableNamesEveryClassAtItsTypeId) {
     EXPECT_EQ(classes[row - 1].second, (849u << 16) | static_cast<unsigned>(row));
   }
   EXPECT_EQ(cls_ClassRegistrar::Instance().ByScriptName("Chebyshev2Filter")->Name(), "kflC_Chebyshev2Filter");
+}
+
+// The upgrade a file written before filters existed needs: its models hold no container of
+// them, and read with an empty one.
+TEST(KflModule, AModelStoredWithoutTheRepositoryReadsWithAnEmptyOne) {
+  qmx_StartLibrary();
+  const ddr_Model model;
+  cls_Record rec = cls_ToRecord(model);
+  auto* list = std::get_if<std::vector<cls_RecordPtr>>(rec.Find("extensions"));
+  ASSERT_NE(list, nullptr);
+  const std::size_t stored = list->size();
+  std::erase_if(*list, [](const cls_RecordPtr& e) { return e && e->typeId == kflC_FCWrapper::TypeId(); });
+  ASSERT_EQ(list->size(), stored - 1);
+  const ddr_Model back{cls_RecordReader(rec)};
+  const mdl_Repository* found = back.FindRepository("filters");
+  ASSERT_NE(found, nullptr);
+  EXPECT_EQ(found->Count(), 0u);
+  EXPECT_EQ(back.RepositoryNames().size(), model.RepositoryNames().size());
 }
 
 class KflCommands : public ::testing::Test {

@@ -1,6 +1,5 @@
 // The filters' rules: each kind's at their boundaries and in order, with their exact messages and
-// the module's source position; a suppressed rule is not a thing filters have, so every filter is
-// always checked.
+// the module's source position. Filters have no suppress switch: every filter is checked.
 #include <gtest/gtest.h>
 
 #include <functional>

@@ -16,6 +16,7 @@
 #include "platform/base/nex_Exception.h"
 #include "platform/base/typ_ArchCompTable.h"
 #include "platform/model/ddr_Database.h"
+#include "platform/model/mdl_Repository.h"
 #include "platform/model/omu_ChangeHistory.h"
 #include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/persist/cls_Record.h"
@@ -48,6 +49,24 @@ TEST(KlcModule, ArchitectureTableNamesEveryClassAtItsTypeId) {
 }
 
 const std::string kCase = R"("path":["Model-1","loadCases","LC-1")";
+
+// The upgrade a file written before load cases existed needs: its models hold no container of
+// them, and read with an empty one.
+TEST(KlcModule, AModelStoredWithoutTheRepositoryReadsWithAnEmptyOne) {
+  qmx_StartLibrary();
+  const ddr_Model model;
+  cls_Record rec = cls_ToRecord(model);
+  auto* list = std::get_if<std::vector<cls_RecordPtr>>(rec.Find("extensions"));
+  ASSERT_NE(list, nullptr);
+  const std::size_t stored = list->size();
+  std::erase_if(*list, [](const cls_RecordPtr& e) { return e && e->typeId == klcC_LCCWrapper::TypeId(); });
+  ASSERT_EQ(list->size(), stored - 1);
+  const ddr_Model back{cls_RecordReader(rec)};
+  const mdl_Repository* found = back.FindRepository("loadCases");
+  ASSERT_NE(found, nullptr);
+  EXPECT_EQ(found->Count(), 0u);
+  EXPECT_EQ(back.RepositoryNames().size(), model.RepositoryNames().size());
+}
 
 class KlcCommands : public ::testing::Test {
  protected:

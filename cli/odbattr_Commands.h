@@ -12,8 +12,9 @@ constexpr int kUnusable = 2;
 // Runs a script of JSON Lines ("-" reads standard input), one result line per command; with a
 // database file, opens it (or starts an empty one) and saves it at the end.
 int Run(const std::string& script, const std::string& db);
-// Opens (upgrading in memory) and validates every object; prints each failure with its path.
-int Check(const std::string& file);
+// Opens (upgrading in memory) and validates every object; prints each failure with its path, then
+// each warning of the advice. Warnings fail the check only when `strict`.
+int Check(const std::string& file, bool strict = false);
 // Prints the database, or what a path names in it, as JSON.
 int Dump(const std::string& file, const std::string& path);
 // Writes the file upgraded to the current versions as a new file.

@@ -25,8 +25,10 @@ int main(int argc, char** argv) {
 
   CLI::App* check = app.add_subcommand(
       "check", "Open a database file (upgrading it in memory) and validate every object; exit 1 when an object is "
-               "invalid, 2 when the file is unusable");
+               "invalid, 2 when the file is unusable; warnings of the advice are printed too");
   check->add_option("FILE", file, "the database file")->required();
+  bool strict = false;
+  check->add_flag("--strict", strict, "exit 1 also when the advice has warnings");
 
   CLI::App* dump = app.add_subcommand("dump", "Print a database file, or what a path names in it, as JSON");
   dump->add_option("FILE", file, "the database file")->required();
@@ -61,7 +63,7 @@ int main(int argc, char** argv) {
   int code = odbattr::kOk;
   try {
     if (*run) code = odbattr::Run(script, db);
-    else if (*check) code = odbattr::Check(file);
+    else if (*check) code = odbattr::Check(file, strict);
     else if (*dump) code = odbattr::Dump(file, path);
     else if (*upgrade) code = odbattr::Upgrade(in, out);
     else if (*example) code = odbattr::Example(dir, db);

@@ -10,6 +10,8 @@
 
 #include "platform/base/QMXBasException.h"
 #include "platform/persist/cls_Record.h"
+#include "command/cmd_Advice.h"
+#include "command/cmd_AdviceJson.h"
 #include "command/cmd_Check.h"
 #include "command/cmd_Line.h"
 #include "command/cmd_Path.h"
@@ -25,6 +27,7 @@ namespace {
 // A validation failure of an object below the validated node: reported with its own path.
 struct ValidationFailure {
   std::vector<cmd_Failure> failures;  // at least one; first failure first
+  std::vector<cmd_Warning> warnings;
 };
 
 struct OpKeys {
@@ -251,6 +254,7 @@ cmd_Json cmd_Session::Execute(const cmd_Json& command, std::size_t number) {
       one["path"] = PathJson(f.path);
       error["failures"].push_back(std::move(one));
     }
+    if (!v.warnings.empty()) error["warnings"] = cmd_WarningsJson(v.warnings);
   } catch (const cmd_MemberError& e) {
     error = ErrorOf(e.kind, e.message, e.file, e.line);
     // The path of the object whose member failed: the command's path (less the member itself when
@@ -479,9 +483,13 @@ cmd_Json cmd_Session::Validate(const cmd_Json& command) {
   const cmd_Path path = PathOf(command);
   cmd_Checker checker;
   cmd_WalkConst(db_, path, [&](const cmd_Node& n) { checker.CheckNode(n, path); });
-  if (!checker.Failures().empty()) throw ValidationFailure{checker.Failures()};
+  // Advice beside validation: it changes no verdict, failures or not.
+  cmd_Adviser adviser;
+  adviser.AdvisePath(db_, path);
+  if (!checker.Failures().empty()) throw ValidationFailure{checker.Failures(), adviser.Warnings()};
   cmd_Json r = cmd_Json::object();
   r["validated"] = checker.Checked();
+  if (!adviser.Warnings().empty()) r["warnings"] = cmd_WarningsJson(adviser.Warnings());  // none: no key
   return r;
 }
 

@@ -1,6 +1,7 @@
 #include "kad/QMXOdbKadC.h"
 
 #include "kad/kadC_ACWrapper.h"
+#include "kad/kadC_Advice.h"
 #include "kad/kadC_ADWrapper.h"
 #include "kad/kadC_AdptMeshCtrl.h"
 #include "kad/kadC_AdptMeshCtrl_302.h"
@@ -49,6 +50,7 @@ int QMXOdbKadC_count() { return count; }
 
 void QMXOdbKadC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kadC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKadC");
   typ_ArchCompTable::InsertEntry(kArchKey, kadC_ArchEntry());
   {
@@ -78,6 +80,7 @@ void QMXOdbKadC_initialize(int& tally) {
 
 void QMXOdbKadC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kadC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKadC");
   ddr_Model::UnRegisterAdaptiveMeshControlContainer();
   ddr_Model::UnRegisterExtension(kadC_AdptMeshDomCont::Names::kRepositoryName);

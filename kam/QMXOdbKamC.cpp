@@ -1,6 +1,7 @@
 #include "kam/QMXOdbKamC.h"
 
 #include <iterator>
+#include "kam/kamC_Advice.h"
 
 #include "kam/kamC_ActuatorAmplitude.h"
 #include "kam/kamC_Amplitude.h"
@@ -80,6 +81,7 @@ int QMXOdbKamC_count() { return count; }
 
 void QMXOdbKamC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kamC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKamC");
   typ_ArchCompTable::InsertEntry(kArchKey, kamC_ArchEntry());
   {
@@ -116,6 +118,7 @@ void QMXOdbKamC_initialize(int& tally) {
 
 void QMXOdbKamC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kamC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKamC");
   ddr_Model::UnRegisterExtension(kamC_AmplitudeContainer::Names::kRepositoryName);
   kamC_TypeLabelMap::Release();

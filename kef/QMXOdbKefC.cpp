@@ -1,6 +1,7 @@
 #include "kef/QMXOdbKefC.h"
 
 #include <iterator>
+#include "kef/kefC_Advice.h"
 
 #include "kef/kefC_AssembledFastener.h"
 #include "kef/kefC_ContourIntegral.h"
@@ -81,6 +82,7 @@ int QMXOdbKefC_count() { return count; }
 
 void QMXOdbKefC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kefC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKefC");
   typ_ArchCompTable::InsertEntry(kArchKey, kefC_ArchEntry());
   ddr_Model::RegisterExtension(kefC_EngineeringFeatures());
@@ -115,6 +117,7 @@ void QMXOdbKefC_initialize(int& tally) {
 
 void QMXOdbKefC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kefC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKefC");
   ddr_Model::UnRegisterExtension(kefC_EngineeringFeatures::kExtensionName);
   kefC_TypeLabelMap::Release();

@@ -1,6 +1,7 @@
 #include "kfd/QMXOdbKfdC.h"
 
 #include <iterator>
+#include "kfd/kfdC_Advice.h"
 
 #include "kfd/kfdC_AnalyticalField.h"
 #include "kfd/kfdC_AnalyticalFieldContainer.h"
@@ -53,6 +54,7 @@ int QMXOdbKfdC_count() { return count; }
 
 void QMXOdbKfdC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kfdC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKfdC");
   typ_ArchCompTable::InsertEntry(kArchKey, kfdC_ArchEntry());
   ddr_Model::RegisterExtension(kfdC_AnalyticalFieldContainer());
@@ -88,6 +90,7 @@ void QMXOdbKfdC_initialize(int& tally) {
 
 void QMXOdbKfdC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kfdC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKfdC");
   ddr_Model::UnRegisterExtension(kfdC_AnalyticalFieldContainer::Names::kRepositoryName);
   ddr_Model::UnRegisterExtension(kfdC_DiscreteFieldContainer::Names::kRepositoryName);

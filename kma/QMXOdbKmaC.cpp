@@ -1,6 +1,7 @@
 #include "kma/QMXOdbKmaC.h"
 
 #include <iterator>
+#include "kma/kmaC_Advice.h"
 
 #include "kma/kmaC_RateDependent.h"
 #include "kma/kmaC_Potential.h"
@@ -161,6 +162,7 @@ int QMXOdbKmaC_count() { return count; }
 
 void QMXOdbKmaC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kmaC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKmaC");
   typ_ArchCompTable::InsertEntry(kmaC_kArchKey, kmaC_ArchEntry());
   {
@@ -380,6 +382,7 @@ void QMXOdbKmaC_initialize(int& tally) {
 
 void QMXOdbKmaC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kmaC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKmaC");
   ddr_Model::UnRegisterExtension(kmaC_FieldConstituentContainer::Names::kRepositoryName);
   ddr_Model::UnRegisterExtension(kmaC_MaterialContainer::Names::kRepositoryName);

@@ -1,6 +1,7 @@
 #include "kop/QMXOdbKopC.h"
 
 #include <iterator>
+#include "kop/kopC_Advice.h"
 
 #include "kop/kopC_BaseOptimization.h"
 #include "kop/kopC_BeadCyclicSymmetry.h"
@@ -239,6 +240,7 @@ int QMXOdbKopC_count() { return count; }
 
 void QMXOdbKopC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kopC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKopC");
   typ_ArchCompTable::InsertEntry(kArchKey, kopC_ArchEntry());
   {
@@ -335,6 +337,7 @@ void QMXOdbKopC_initialize(int& tally) {
 
 void QMXOdbKopC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kopC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKopC");
   ddr_Model::UnRegisterExtension(kopC_TaskContainer::Names::kRepositoryName);
   kopC_TaskTypeLabelMap::Finalize();

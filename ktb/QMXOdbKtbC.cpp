@@ -1,6 +1,7 @@
 #include "ktb/QMXOdbKtbC.h"
 
 #include <iterator>
+#include "ktb/ktbC_Advice.h"
 
 #include "ktb/ktbC_ActivateElem.h"
 #include "ktb/ktbC_CompositeColTable.h"
@@ -136,6 +137,7 @@ int QMXOdbKtbC_count() { return count; }
 
 void QMXOdbKtbC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  ktbC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKtbC");
   typ_ArchCompTable::InsertEntry(kArchKey, ktbC_ArchEntry());
   RegisterContainer<ktbC_TCWrapper, ktbC_TableCollContainer>();
@@ -174,6 +176,7 @@ void QMXOdbKtbC_initialize(int& tally) {
 
 void QMXOdbKtbC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  ktbC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKtbC");
   ddr_Model::UnRegisterExtension(ktbC_TableCollContainer::Names::kRepositoryName);
   ddr_Model::UnRegisterExtension(ktbC_EventSeriesTypeCont::Names::kRepositoryName);

@@ -1,5 +1,6 @@
 #include "kam/kamC_Advice.h"
 
+#include <charconv>
 #include <string>
 
 #include "command/cmd_Advice.h"
@@ -8,11 +9,11 @@
 
 namespace {
 
+// The shortest text that reads back as the same number (7.8e-09, 0.05, 210000).
 std::string kamAdvice_Number(double v) {
-  std::string s = std::to_string(v);
-  while (s.size() > 1 && s.back() == '0') s.pop_back();
-  if (!s.empty() && s.back() == '.') s.pop_back();
-  return s;
+  char buf[32];
+  const auto r = std::to_chars(buf, buf + sizeof buf, v);
+  return std::string(buf, r.ptr);
 }
 
 // A time table (time, amplitude): over the step it should start at the step's start, and a time

@@ -1,6 +1,7 @@
 #include "kma/kmaC_Advice.h"
 
 #include <cstdint>
+#include <charconv>
 #include <string>
 #include <vector>
 
@@ -19,11 +20,11 @@ namespace {
 
 constexpr const char* kKmaAdviceOwner = "kma";
 
+// The shortest text that reads back as the same number (7.8e-09, 0.05, 210000).
 std::string kmaAdvice_Number(double v) {
-  std::string s = std::to_string(v);
-  while (s.size() > 1 && s.back() == '0') s.pop_back();
-  if (!s.empty() && s.back() == '.') s.pop_back();
-  return s;
+  char buf[32];
+  const auto r = std::to_chars(buf, buf + sizeof buf, v);
+  return std::string(buf, r.ptr);
 }
 
 std::string kmaAdvice_Row(std::size_t r) { return "row " + std::to_string(r + 1); }

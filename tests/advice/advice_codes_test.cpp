@@ -26,8 +26,7 @@ const char* const kSteel = R"({"op":"create","path":["M","materials","Steel"],"t
 const char* const kTask =
     R"({"op":"create","path":["M","optimizationTasks","T"],"type":"TopologyTask","values":{"region":"DS"}})";
 const char* const kVolume =
-    R"({"op":"create","path":["M","optimizationTasks","T","designResponses","Volume"],"type":"SingleTermDesignResponse",
-        "values":{"request":{"identifier":"VOLUME","operation":"SUM","drivingRegion":"DS"}}})";
+    R"({"op":"create","path":["M","optimizationTasks","T","designResponses","Volume"],"type":"SingleTermDesignResponse","values":{"request":{"identifier":"VOLUME","operation":"SUM","drivingRegion":"DS"}}})";
 const char* const kPlastic =
     R"({"op":"set","path":["M","materials","Steel","plastic"],"type":"Plastic","values":{"table":[[250,0]]}})";
 const char* const kDuctileTable = R"("table":[[0.2,0.33,0.001]])";

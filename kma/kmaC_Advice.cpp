@@ -156,6 +156,11 @@ void kmaAdvice_Elastic(const kmaC_Elastic& e, cmd_AdviceContext& ctx) {
 // ---- other options
 
 void kmaAdvice_Density(const kmaC_Density& d, cmd_AdviceContext& ctx) {
+  // A density distributed by a field names it in the repository of its kind; a uniform one names
+  // none, whatever the member still holds.
+  using D = kmaC_Density::DistributionTypeEnm;
+  if (d.GetDistributionType() == D::ANALYTICAL_FIELD) ctx.Reference({}, "fieldName", "analyticalFields", d.GetFieldName());
+  if (d.GetDistributionType() == D::DISCRETE_FIELD) ctx.Reference({}, "fieldName", "discreteFields", d.GetFieldName());
   const cow_2DArray<double>& t = d.GetTable().GetTable();
   if (!kmaAdvice_Table(ctx, "density", t, 1, d.GetTemperatureDependency(), d.GetDependencies())) return;
   kmaAdvice_Column(ctx, t, 0, "density-sign", "density", "a positive mass density", kmaAdvice_Positive);
@@ -239,7 +244,6 @@ void kmaC_RegisterAdvice() {
   cmd_RegisterAdvisorOf<kmaC_Expansion, kmaAdvice_Expansion>(kKmaAdviceOwner);
   cmd_RegisterAdvisorOf<kmaC_Conductivity, kmaAdvice_Conductivity>(kKmaAdviceOwner);
   cmd_RegisterAdvisorOf<kmaC_Plastic, kmaAdvice_Plastic>(kKmaAdviceOwner);
-  cmd_RegisterReference(kKmaAdviceOwner, "kmaC_Density", "fieldName", "analyticalFields");
   cmd_RegisterReference(kKmaAdviceOwner, "kmaC_FieldConstituent", "material", "materials");
   cmd_RegisterReference(kKmaAdviceOwner, "kmaC_MeanFieldHomogenization", "constituents", "fieldConstituents");
 }

@@ -115,6 +115,11 @@ const std::vector<AdviceCase>& Cases() {
        R"({"op":"create","path":["M","engineeringFeatures","fasteners","F"],"type":"PointFastener","values":{"region":"R","influenceRadius":"WHOLE_SURFACE","physicalRadius":2,"searchRadius":6,"sectionName":"Wild"}})",
        R"({"op":"create","path":["M","engineeringFeatures","fasteners","F"],"type":"PointFastener","values":{"region":"R","influenceRadius":"WHOLE_SURFACE","physicalRadius":2,"searchRadius":6,"sectionName":"Weld"}})",
        {"M", "engineeringFeatures", "fasteners", "F"}, "sectionName"},
+      {"dangling-reference",
+       {kSteel, R"({"op":"create","path":["M","analyticalFields","AF"],"type":"ExpressionField","values":{"expression":"1.0 + 0.1*X"}})"},
+       R"({"op":"set","path":["M","materials","Steel","density"],"type":"Density","values":{"distributionType":"DISCRETE_FIELD","fieldName":"AF","table":[[7.8e-9]]}})",
+       R"({"op":"set","path":["M","materials","Steel","density"],"type":"Density","values":{"distributionType":"ANALYTICAL_FIELD","fieldName":"AF","table":[[7.8e-9]]}})",
+       {"M", "materials", "Steel", "density"}, "fieldName"},
   };
   return kCases;
 }

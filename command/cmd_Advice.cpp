@@ -153,6 +153,14 @@ void cmd_Adviser::AdvisePath(const ddr_Database& db, const cmd_Path& path) {
   });
 }
 
+void cmd_Adviser::AdviseObject(const void* obj, const cls_ClassMetadata& md) {
+  ctx_.scopes_.clear();
+  ctx_.model_ = nullptr;
+  ctx_.modelDepth_ = 0;
+  ctx_.path_.clear();
+  Object(obj, md);
+}
+
 void cmd_Adviser::Node(const cmd_Node& node) {
   switch (node.kind) {
     case cmd_Node::kDatabase: return AdviseDatabase(*node.db);

@@ -85,6 +85,8 @@ class cmd_Adviser {
   void AdviseDatabase(const ddr_Database& db);
   // Everything under what `path` names in the database (a model, a repository or an object).
   void AdvisePath(const ddr_Database& db, const cmd_Path& path);
+  // An object that no model holds (names it holds are looked up only among its own members).
+  void AdviseObject(const void* obj, const cls_ClassMetadata& md);
 
   std::size_t Visited() const noexcept { return visited_; }
   const std::vector<cmd_Warning>& Warnings() const noexcept { return warnings_; }

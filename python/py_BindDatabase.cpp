@@ -39,6 +39,8 @@ void BindRepository(py::module_& m) {
              for (const auto& k : Keys(*r.session, r.path)) out.append(Element(r.session, Append(r.path, k)));
              return out;
            })
+      .def("advise", [](const Repository& r) { return Advise(*r.session, r.path); },
+           "The warnings of the advice on every element.")
       .def("validate", [](const Repository& r) { return FromJson(Run(*r.session, Command("validate", r.path))); },
            "Validates every element; the first failure raises ValidationError with the failing path.")
       .def("to_dict", [](const Repository& r) { return FromJson(Run(*r.session, Command("get", r.path))); })
@@ -61,6 +63,8 @@ void BindModel(py::module_& m) {
            })
       .def("__getitem__", [](const Model& self, const std::string& name) { return ModelRepository(self, name); })
       .def("__dir__", [](py::handle self) { return Dir(self, py::cast(ModelRepositories(self.cast<const Model&>()))); })
+      .def("advise", [](const Model& self) { return Advise(*self.session, cmd_Path{self.name}); },
+           "The warnings of the advice on every object of the model.")
       .def("validate", [](const Model& self) { return FromJson(Run(*self.session, Command("validate", cmd_Path{self.name}))); },
            "Validates every object of the model; the first failure raises ValidationError with the failing path.")
       .def("to_dict", [](const Model& self) { return FromJson(Run(*self.session, Command("get", cmd_Path{self.name}))); })
@@ -110,6 +114,8 @@ void BindDatabase(py::module_& m) {
       .def("__delitem__", [](const Database& db, const std::string& name) {
         DeleteElement(*db.session, cmd_Path{cow_String(name)});
       })
+      .def("advise", [](const Database& db) { return Advise(*db.session, cmd_Path{}); },
+           "The warnings of the advice on every object of every model: dicts of path, member, code and message.")
       .def("validate", [](const Database& db) { return FromJson(Run(*db.session, Command("validate", cmd_Path{}))); },
            "Validates every object of every model.")
       .def("execute",

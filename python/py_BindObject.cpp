@@ -46,6 +46,8 @@ void BindObject(py::module_& m) {
              const cls_ClassMetadata& b = ClassOf(other.cast<const Object&>());
              return py::bool_(&a == &b && ObjectToJson(self) == ObjectJson(other));
            })
+      .def("advise", [](const Object& self) { return AdviseObject(self); },
+           "The warnings of the advice on the object and what it holds: dicts of path, member, code and message.")
       .def("validate", [](const Object& self) { return Validate(self); },
            "Checks the object's rules in their order; the first failing rule raises ValidationError with its "
            "message.")

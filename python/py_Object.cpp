@@ -7,6 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "command/cmd_AdviceJson.h"
 #include "command/cmd_Check.h"
 #include "platform/base/omu_PrimEnum.h"
 #include "platform/persist/cls_Family.h"
@@ -244,5 +245,23 @@ std::string Repr(const Object& o) {
 bool IsObject(py::handle value) { return py::isinstance<Object>(value); }
 
 cmd_Json ObjectJson(py::handle value) { return ObjectToJson(value.cast<const Object&>()); }
+
+py::object Advise(cmd_Session& s, const cmd_Path& path) {
+  return Guarded([&] {
+    cmd_Adviser adviser;
+    adviser.AdvisePath(s.Database(), path);
+    return FromJson(cmd_WarningsJson(adviser.Warnings()));
+  });
+}
+
+py::object AdviseObject(const Object& o) {
+  if (!Live(o).root) return Advise(*o.session, o.path);
+  return Guarded([&] {
+    Found at = Resolve(o, false);
+    cmd_Adviser adviser;
+    adviser.AdviseObject(at.obj, *at.md);
+    return FromJson(cmd_WarningsJson(adviser.Warnings()));
+  });
+}
 
 }  // namespace qmxpy

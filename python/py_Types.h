@@ -70,6 +70,10 @@ py::object Detached(const cls_ClassMetadata& md, void* obj);
 py::object GetMember(const Object& o, const std::string& name);
 void SetMember(const Object& o, const std::string& name, py::handle value);
 py::object Validate(const Object& o);
+// The warnings of the advice under what the path names, or on the object (a detached one on its
+// own), as a list of dicts of path, member, code and message.
+py::object Advise(cmd_Session& s, const cmd_Path& path);
+py::object AdviseObject(const Object& o);
 cmd_Json ObjectToJson(const Object& o);
 py::list Members(const cls_ClassMetadata& md);
 // The description of a class for its docstring: its members with their types and literals.

@@ -8,6 +8,7 @@
 #include "command/cmd_Advice.h"
 #include "kma/kmaC_Conductivity.h"
 #include "kma/kmaC_DamageInitiation.h"
+#include "kma/kmaC_DamageInitiationFit.h"
 #include "kma/kmaC_Density.h"
 #include "kma/kmaC_Elastic.h"
 #include "kma/kmaC_Expansion.h"
@@ -208,8 +209,8 @@ constexpr const char* kKmaAdviceInitiationSlots[] = {
     "mkDamageInitiation",      "msfldDamageInitiation", "quadeDamageInitiation", "quadsDamageInitiation",
     "shearDamageInitiation",   "hashinDamageInitiation", "laRC05DamageInitiation", "hosfordCoulombDamageInitiation"};
 
-// The rules of how an initiation fits its criterion and its material, which the material's
-// validation does not apply, each as a warning with its own code.
+// How an initiation fits its criterion and its material (no part of the material's validation),
+// each failing rule as a warning with its own code and the module's message.
 void kmaAdvice_Material(const kmaC_Material& m, cmd_AdviceContext& ctx) {
   const bool hasPlasticity = m.GetOption("plastic") || m.GetOption("druckerPrager") || m.GetOption("foam");
   struct Code {
@@ -227,7 +228,7 @@ void kmaAdvice_Material(const kmaC_Material& m, cmd_AdviceContext& ctx) {
     const auto* di = static_cast<const kmaC_DamageInitiation*>(m.GetOption(slot));
     if (!di) continue;
     try {
-      di->AssertValidInSlot(slot, hasPlasticity);
+      kmaC_AssertDamageInitiationFitsSlot(*di, slot, hasPlasticity);
     } catch (const QMXBasException& e) {
       for (const Code& c : kCodes)
         if (e.Message() == kmaC_ErrorMessage(c.error)) ctx.WarnAt({slot}, c.member, c.code, e.Message());

@@ -10,8 +10,8 @@
 namespace qmxpy {
 
 void BindRepository(py::module_& m) {
-  py::class_<Repository>(m, "Repository", "A repository of a model (or of an object): its elements by key.")
-      .def("keys", [](const Repository& r) { return Keys(*r.session, r.path); })
+  py::class_<Repository> repository(m, "Repository", "A repository of a model (or of an object): its elements by key.");
+  repository.def("keys", [](const Repository& r) { return Keys(*r.session, r.path); })
       .def("__iter__", [](const Repository& r) { return py::iter(py::cast(Keys(*r.session, r.path))); })
       .def("__len__", [](const Repository& r) { return Keys(*r.session, r.path).size(); })
       .def("__contains__",
@@ -47,11 +47,12 @@ void BindRepository(py::module_& m) {
         return "Repository at " + cmd_PathText(r.path) + " with " + std::to_string(Keys(*r.session, r.path).size()) +
                " elements";
       });
+  RefuseNew(repository, "through its model, such as db[\"Model-1\"].profiles");
 }
 
 void BindModel(py::module_& m) {
-  py::class_<Model>(m, "Model", "A model of a database; its repositories are attributes by scripting name.")
-      .def_property_readonly("name", [](const Model& self) { return self.name.str(); })
+  py::class_<Model> model(m, "Model", "A model of a database; its repositories are attributes by scripting name.");
+  model.def_property_readonly("name", [](const Model& self) { return self.name.str(); })
       .def("repositories", [](const Model& self) { return ModelRepositories(self); },
            "The scripting names of the model's repositories.")
       .def("__getattr__",
@@ -65,11 +66,12 @@ void BindModel(py::module_& m) {
            "Validates every object of the model; the first failure raises ValidationError with the failing path.")
       .def("to_dict", [](const Model& self) { return FromJson(Run(*self.session, Command("get", cmd_Path{self.name}))); })
       .def("__repr__", [](const Model& self) { return "Model \"" + self.name.str() + "\""; });
+  RefuseNew(model, "through its database, such as db[\"Model-1\"]");
 }
 
 void BindDatabase(py::module_& m) {
-  py::class_<Database>(m, "Database", "A database of models, saved to and opened from a model database file.")
-      .def(py::init<>())
+  py::class_<Database> database(m, "Database", "A database of models, saved to and opened from a model database file.");
+  database.def(py::init<>())
       .def_static("open",
                   [](const std::string& file) {
                     Database db;
@@ -119,6 +121,7 @@ void BindDatabase(py::module_& m) {
       .def("__repr__", [](const Database& db) {
         return "Database with " + std::to_string(Keys(*db.session, cmd_Path{}).size()) + " models";
       });
+  ConstructOnNew(database);
 }
 
 }  // namespace qmxpy

@@ -83,13 +83,16 @@ void BindDatabase(py::module_& m) {
                   },
                   py::arg("path"), "Opens a model database file (upgrading rows of older versions in memory).")
       .def("save",
-           [](const Database& db, const std::string& file) {
+           [](const Database& db, const std::string& file, bool overwrite) {
              cmd_Json c = cmd_Json::object();
              c["op"] = "save";
              c["file"] = file;
+             if (overwrite) c["overwrite"] = true;
              Run(*db.session, std::move(c));
            },
-           py::arg("path"), "Saves every model into a model database file, atomically.")
+           py::arg("path"), py::arg("overwrite") = false,
+           "Saves every model into a model database file, atomically. A file that another process saved "
+           "since this database opened or saved it is refused unless overwrite is true.")
       .def("create_model",
            [](const Database& db, const std::string& name) {
              Run(*db.session, Command("create", cmd_Path{cow_String(name)}));

@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "dbfile/dbf_Faults.h"
 #include "platform/base/nex_Exception.h"
 
 namespace {
@@ -22,7 +23,7 @@ std::string Errno(const std::string& what) { return what + " (" + std::strerror(
 void SyncPath(const std::string& path, int flags, const std::string& what) {
   int fd = ::open(path.c_str(), flags | O_CLOEXEC);
   if (fd < 0) nex_ThrowCmd(Errno("cannot open " + what + " to sync it"));
-  int rc = ::fsync(fd);
+  int rc = dbf_FaultHere("fsync") ? (errno = EIO, -1) : ::fsync(fd);
   int err = errno;
   ::close(fd);
   // Some file systems cannot sync a directory; the rename itself is still atomic there.
@@ -84,6 +85,18 @@ void dbf_RemoveLeftovers(const std::string& target) {
       std::fprintf(stderr, "Note: removed \"%s\", left by a save that did not finish\n", f.c_str());
 }
 
+void dbf_CheckWritable(const std::string& target) {
+  namespace fs = std::filesystem;
+  const fs::path p(target);
+  const fs::path dir = p.parent_path().empty() ? fs::path(".") : p.parent_path();
+  // Named like a save's temporary file, so that a probe a kill leaves behind is removed like one.
+  const std::string probe = (dir / ("." + p.filename().string() + ".saving-" + std::to_string(::getpid()) + "-probe")).string();
+  const int fd = ::open(probe.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+  if (fd < 0) nex_ThrowCmd(Errno("the directory \"" + dir.string() + "\" cannot be written"));
+  ::close(fd);
+  ::unlink(probe.c_str());
+}
+
 dbf_AtomicFile::dbf_AtomicFile(const std::string& path) : path_(dbf_SaveTarget(path)) {
   namespace fs = std::filesystem;
   fs::path p(path_);
@@ -121,7 +134,8 @@ void dbf_AtomicFile::Commit() {
                    static_cast<unsigned>(old.st_uid), static_cast<unsigned>(old.st_gid), std::strerror(errno));
     ::chmod(temp_.c_str(), old.st_mode & 07777);
   }
-  if (::rename(temp_.c_str(), path_.c_str()) != 0) nex_ThrowCmd(Errno("cannot put the new file in place"));
+  const int renamed = dbf_FaultHere("rename") ? (errno = EIO, -1) : ::rename(temp_.c_str(), path_.c_str());
+  if (renamed != 0) nex_ThrowCmd(Errno("cannot put the new file in place"));
   committed_ = true;
   SyncPath(dir_, O_RDONLY | O_DIRECTORY, "the directory");
 }

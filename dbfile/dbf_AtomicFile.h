@@ -16,6 +16,10 @@ std::string dbf_SaveTarget(const std::string& path);
 // (a save killed before its rename), saying so on standard error. Files it cannot remove stay.
 void dbf_RemoveLeftovers(const std::string& target);
 
+// Refuses a target whose directory does not take the new file a save writes beside it (a
+// read-only directory or file system), by making and removing such a file.
+void dbf_CheckWritable(const std::string& target);
+
 class dbf_AtomicFile {
  public:
   // Refuses what dbf_SaveTarget refuses and a destination whose directory does not exist.

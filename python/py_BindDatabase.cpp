@@ -13,17 +13,17 @@ void BindRepository(py::module_& m) {
   py::class_<Repository> repository(m, "Repository", "A repository of a model (or of an object): its elements by key.");
   repository.def("keys", [](const Repository& r) { return Keys(*r.session, r.path); })
       .def("__iter__", [](const Repository& r) { return py::iter(py::cast(Keys(*r.session, r.path))); })
-      .def("__len__", [](const Repository& r) { return Keys(*r.session, r.path).size(); })
+      .def("__len__", [](const Repository& r) { return RepositorySize(r); })
       .def("__contains__",
            [](const Repository& r, py::handle key) {
-             return py::isinstance<py::str>(key) && Contains(Keys(*r.session, r.path), key.cast<std::string>());
+             return py::isinstance<py::str>(key) && RepositoryHas(r, TextOf(key));
            })
       .def("__getitem__", [](const Repository& r, const std::string& key) { return Element(r.session, Append(r.path, key)); })
       .def("__setitem__", [](const Repository& r, const std::string& key, py::handle value) { PutElement(r, key, value); })
       .def("__delitem__", [](const Repository& r, const std::string& key) { DeleteElement(*r.session, Append(r.path, key)); })
       .def("get",
            [](const Repository& r, const std::string& key, py::object fallback) -> py::object {
-             if (!Contains(Keys(*r.session, r.path), key)) return fallback;
+             if (!RepositoryHas(r, key)) return fallback;
              return Element(r.session, Append(r.path, key));
            },
            py::arg("key"), py::arg("default") = py::none())

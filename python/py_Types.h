@@ -83,6 +83,10 @@ std::string Repr(const Object& o);
 
 std::vector<std::string> Keys(cmd_Session& s, const cmd_Path& path);
 bool Contains(const std::vector<std::string>& keys, const std::string& key);
+// The size of a repository and whether it holds a key, asked of the repository itself (a lookup,
+// not a listing of every key).
+std::size_t RepositorySize(const Repository& r);
+bool RepositoryHas(const Repository& r, const std::string& key);
 py::object Element(const Session& s, const cmd_Path& path);
 void PutElement(const Repository& r, const std::string& key, py::handle value);
 void DeleteElement(cmd_Session& s, const cmd_Path& path);

@@ -116,3 +116,23 @@ def test_models_and_repositories_are_not_made_directly(cls, message):
     with pytest.raises(qa.CommandError) as e:
         cls.__new__(cls)
     assert str(e.value) == message
+
+
+def test_size_and_lookup_of_a_repository_follow_its_changes():
+    db = qa.Database()
+    profiles = db.create_model("M").profiles
+    cases = []  # (keys put, keys deleted)
+    for n in range(0, 30, 7):
+        profiles[f"P-{n}"] = qa.CircularProfile(r=1.0 + n)
+        cases.append(f"P-{n}")
+    del profiles["P-7"]
+    cases.remove("P-7")
+    assert len(profiles) == len(cases) == len(profiles.keys())
+    for key in ["P-0", "P-7", "P-14", "p-14", "", "P-14 ", "P-280"]:
+        assert (key in profiles) == (key in cases), key
+        got = profiles.get(key, "none")
+        assert got == "none" if key not in cases else got.r == 1.0 + int(key[2:])
+    assert 14 not in profiles  # not a name: no element, no error
+    with pytest.raises(qa.CommandError) as e:
+        "\ud800" in profiles
+    assert str(e.value) == "A text holds a lone surrogate, which has no UTF-8 form"

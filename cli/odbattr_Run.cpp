@@ -36,14 +36,24 @@ int Run(const std::string& script, const std::string& db) {
       const std::filesystem::path dir = std::filesystem::path(target).parent_path();
       if (!dir.empty() && !std::filesystem::is_directory(dir))
         throw std::runtime_error("the directory \"" + dir.string() + "\" does not exist");
+      dbf_CheckWritable(target);
     } catch (const std::exception& e) {
       Complain("cannot use \"" + db + "\" as the database: " + e.what());
       return kUnusable;
     }
   }
+  // Opened and saved through the session's own commands, so that a save by another process while
+  // the script ran is refused, and the script's own saves of the file are not taken for one.
+  auto fileCommand = [&](const char* op) {
+    cmd_Json c = cmd_Json::object();
+    c["op"] = op;
+    c["file"] = db;
+    const cmd_Json r = session.Execute(c);
+    if (!r.value("ok", false)) throw std::runtime_error(r["error"].value("message", std::string()));
+  };
   if (!db.empty() && std::filesystem::exists(target)) {
     try {
-      session = cmd_Session(dbf_Open(db));
+      fileCommand("open");
     } catch (const std::exception& e) {
       Complain(e.what());
       return kUnusable;
@@ -60,7 +70,7 @@ int Run(const std::string& script, const std::string& db) {
   }
   if (!db.empty()) {
     try {
-      dbf_Save(session.Database(), db);
+      fileCommand("save");
       if (target != db) Complain(db + " is a symbolic link; saved " + target + ", which it leads to");
     } catch (const std::exception& e) {
       Complain(e.what());

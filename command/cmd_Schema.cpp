@@ -73,7 +73,8 @@ class Builder {
     ops.push_back(Op("create", {"path"}, {{"type", Typed("string")}, {"values", Typed("object")}}));
     ops.push_back(Op("set", {"path"}, {{"type", Typed("string")}, {"values", Typed("object")}, {"value", cmd_Json::object()}}));
     for (const char* op : {"get", "list", "delete", "validate"}) ops.push_back(Op(op, {"path"}, {}));
-    for (const char* op : {"save", "open"}) ops.push_back(Op(op, {"file"}, {}));
+    ops.push_back(Op("save", {"file"}, {{"overwrite", Typed("boolean")}}));
+    ops.push_back(Op("open", {"file"}, {}));
     s["oneOf"] = ops;
     s["allOf"] = RepositoryRules(repositories);
     s["x-maxDepth"] = cmd_kMaxDepth;

@@ -43,7 +43,7 @@ const std::vector<OpKeys>& Ops() {
       {"list", {"op", "path"}},
       {"delete", {"op", "path"}},
       {"validate", {"op", "path"}},
-      {"save", {"op", "file"}},
+      {"save", {"op", "file", "overwrite"}},
       {"open", {"op", "file"}},
   };
   return kOps;
@@ -495,7 +495,13 @@ cmd_Json cmd_Session::Validate(const cmd_Json& command) {
 
 cmd_Json cmd_Session::Save(const cmd_Json& command) {
   const std::string file = FileOf(command);
-  dbf_Save(db_, file);
+  dbf_SaveOptions options;
+  options.seen = &seen_;
+  if (command.contains("overwrite")) {
+    if (!command["overwrite"].is_boolean()) cmd_Refuse("The \"overwrite\" of a save is true or false");
+    options.overwrite = command["overwrite"].get<bool>();
+  }
+  dbf_Save(db_, file, options);
   cmd_Json r = cmd_Json::object();
   r["file"] = file;
   r["models"] = db_.GetModels().size();
@@ -506,7 +512,10 @@ cmd_Json cmd_Session::Save(const cmd_Json& command) {
 
 cmd_Json cmd_Session::Open(const cmd_Json& command) {
   const std::string file = FileOf(command);
+  dbf_Seen seen;  // the file as it was before it was read; the database read none other
+  seen.Opened(file);
   db_ = dbf_Open(file);
+  seen_ = std::move(seen);
   cmd_Json r = cmd_Json::object();
   r["file"] = file;
   r["models"] = cmd_Json::array();

@@ -8,6 +8,7 @@
 //   {"op":"set","path":[...,"member"],"type":"Ctor","values":{...}}     a new object in a member
 //   {"op":"get","path":[...]}  {"op":"list","path":[...]}  {"op":"validate","path":[...]}
 //   {"op":"delete","path":[...]}  {"op":"save","file":"x.db"}  {"op":"open","file":"x.db"}
+//   {"op":"save","file":"x.db","overwrite":true}  saves over another process's save of the file
 // Each command answers {"line":N,"ok":true,"result":...} or {"line":N,"ok":false,"error":{"kind":...,
 // "message":...,"file":...,"line":...,"path":[...],"member":...}}: "line" first is the script line,
 // the error's "message", "file" and "line" are the failure as the system raised it, "path" the
@@ -19,6 +20,7 @@
 #include <string_view>
 
 #include "command/cmd_Json.h"
+#include "dbfile/dbf_Seen.h"
 #include "platform/model/ddr_Database.h"
 
 class cmd_Session {
@@ -50,6 +52,7 @@ class cmd_Session {
   cmd_Json Open(const cmd_Json& command);
 
   ddr_Database db_;
+  dbf_Seen seen_;  // the files this database read or saved, as it left them
   std::size_t succeeded_ = 0;
   std::size_t failed_ = 0;
 };

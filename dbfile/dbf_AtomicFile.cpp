@@ -1,6 +1,7 @@
 #include "dbfile/dbf_AtomicFile.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,8 +9,11 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <cstdlib>
 #include <filesystem>
+#include <vector>
 
+#include "dbfile/dbf_Faults.h"
 #include "platform/base/nex_Exception.h"
 
 namespace {
@@ -19,7 +23,7 @@ std::string Errno(const std::string& what) { return what + " (" + std::strerror(
 void SyncPath(const std::string& path, int flags, const std::string& what) {
   int fd = ::open(path.c_str(), flags | O_CLOEXEC);
   if (fd < 0) nex_ThrowCmd(Errno("cannot open " + what + " to sync it"));
-  int rc = ::fsync(fd);
+  int rc = dbf_FaultHere("fsync") ? (errno = EIO, -1) : ::fsync(fd);
   int err = errno;
   ::close(fd);
   // Some file systems cannot sync a directory; the rename itself is still atomic there.
@@ -58,6 +62,41 @@ std::string dbf_SaveTarget(const std::string& path) {
   return p.string();
 }
 
+void dbf_RemoveLeftovers(const std::string& target) {
+  namespace fs = std::filesystem;
+  const fs::path p(target);
+  const fs::path dir = p.parent_path().empty() ? fs::path(".") : p.parent_path();
+  const std::string prefix = "." + p.filename().string() + ".saving-";
+  std::error_code ec;
+  std::vector<fs::path> stale;
+  for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
+    const std::string name = it->path().filename().string();
+    if (!name.starts_with(prefix)) continue;
+    // ".NAME.saving-PID-N" and SQLite's side files of it: the saving process's id comes first.
+    const char* digits = name.c_str() + prefix.size();
+    char* endp = nullptr;
+    const long pid = std::strtol(digits, &endp, 10);
+    if (endp == digits || *endp != '-' || pid <= 0) continue;
+    if (::kill(static_cast<pid_t>(pid), 0) == 0 || errno != ESRCH) continue;  // still running (or not ours to judge)
+    stale.push_back(it->path());
+  }
+  for (const auto& f : stale)
+    if (fs::remove(f, ec))
+      std::fprintf(stderr, "Note: removed \"%s\", left by a save that did not finish\n", f.c_str());
+}
+
+void dbf_CheckWritable(const std::string& target) {
+  namespace fs = std::filesystem;
+  const fs::path p(target);
+  const fs::path dir = p.parent_path().empty() ? fs::path(".") : p.parent_path();
+  // Named like a save's temporary file, so that a probe a kill leaves behind is removed like one.
+  const std::string probe = (dir / ("." + p.filename().string() + ".saving-" + std::to_string(::getpid()) + "-probe")).string();
+  const int fd = ::open(probe.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+  if (fd < 0) nex_ThrowCmd(Errno("the directory \"" + dir.string() + "\" cannot be written"));
+  ::close(fd);
+  ::unlink(probe.c_str());
+}
+
 dbf_AtomicFile::dbf_AtomicFile(const std::string& path) : path_(dbf_SaveTarget(path)) {
   namespace fs = std::filesystem;
   fs::path p(path_);
@@ -86,8 +125,17 @@ void dbf_AtomicFile::SyncTemp() { SyncPath(temp_, O_RDONLY, "the new file"); }
 
 void dbf_AtomicFile::Commit() {
   struct stat old;
-  if (::stat(path_.c_str(), &old) == 0) ::chmod(temp_.c_str(), old.st_mode & 07777);
-  if (::rename(temp_.c_str(), path_.c_str()) != 0) nex_ThrowCmd(Errno("cannot put the new file in place"));
+  if (::stat(path_.c_str(), &old) == 0) {
+    // Owner first: changing it may clear the set-id bits that the mode then restores.
+    if ((old.st_uid != ::geteuid() || old.st_gid != ::getegid()) &&
+        ::chown(temp_.c_str(), old.st_uid, old.st_gid) != 0)
+      std::fprintf(stderr, "Note: the saved file \"%s\" now belongs to user %u, group %u, not to user %u, group %u as "
+                   "before (%s)\n", path_.c_str(), static_cast<unsigned>(::geteuid()), static_cast<unsigned>(::getegid()),
+                   static_cast<unsigned>(old.st_uid), static_cast<unsigned>(old.st_gid), std::strerror(errno));
+    ::chmod(temp_.c_str(), old.st_mode & 07777);
+  }
+  const int renamed = dbf_FaultHere("rename") ? (errno = EIO, -1) : ::rename(temp_.c_str(), path_.c_str());
+  if (renamed != 0) nex_ThrowCmd(Errno("cannot put the new file in place"));
   committed_ = true;
   SyncPath(dir_, O_RDONLY | O_DIRECTORY, "the directory");
 }

@@ -12,6 +12,14 @@
 // a socket): replacing those by a regular file would break whoever uses them.
 std::string dbf_SaveTarget(const std::string& path);
 
+// Removes the temporary files that saves of `target` by processes no longer running left behind
+// (a save killed before its rename), saying so on standard error. Files it cannot remove stay.
+void dbf_RemoveLeftovers(const std::string& target);
+
+// Refuses a target whose directory does not take the new file a save writes beside it (a
+// read-only directory or file system), by making and removing such a file.
+void dbf_CheckWritable(const std::string& target);
+
 class dbf_AtomicFile {
  public:
   // Refuses what dbf_SaveTarget refuses and a destination whose directory does not exist.
@@ -22,10 +30,12 @@ class dbf_AtomicFile {
   dbf_AtomicFile& operator=(const dbf_AtomicFile&) = delete;
 
   const std::string& TempPath() const noexcept { return temp_; }
+  const std::string& Target() const noexcept { return path_; }
+  const std::string& Directory() const noexcept { return dir_; }
   // Flushes the temporary file to the disk.
   void SyncTemp();
-  // Gives the temporary file the destination's permissions, renames it over the destination and
-  // syncs the directory.
+  // Gives the temporary file the destination's owner, group and permissions (saying on standard
+  // error when the process may not), renames it over the destination and syncs the directory.
   void Commit();
 
  private:

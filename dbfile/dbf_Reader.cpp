@@ -304,6 +304,10 @@ std::vector<dbf_LoadedRoot> dbf_Reader::LoadRoots(const cls_ClassMetadata* requi
     if (cls < 0 || cls > UINT32_MAX) dbf_Damaged("its list of roots holds a malformed entry");
     Entry e{cow_String(dbf_Text(s, 0)), dbf_Ref{sqlite3_column_int64(s, 1), static_cast<std::uint32_t>(cls)}};
     if (dbf_InvalidUtf8At(e.name.view())) dbf_Damaged("its list of roots holds a name that is not UTF-8");
+    // The names the command layer gives models: not empty, no NUL.
+    if (e.name.empty()) dbf_Damaged("its list of roots holds an empty name");
+    if (e.name.view().find('\0') != std::string_view::npos)
+      dbf_Damaged("its list of roots holds a name with a NUL character");
     const dbf_ReadTable& t = TableOf(e.ref.classId);
     if (!t.cls) dbf_Damaged("a root names a row of class " + t.className + ", which is only ever part of other rows");
     if (required && !t.cls->IsA(*required))

@@ -32,7 +32,8 @@ bool SameBytes(const char* a, const char* b, std::size_t n) noexcept {
   return word(a + n - 8) == word(b + n - 8);  // the last word, overlapping the one before
 }
 
-// Stored text reaches keys, names and JSON dumps; text that is not UTF-8 is damage, not data.
+// Stored text reaches keys, names and JSON dumps; text that is not UTF-8, or holds a NUL, is
+// damage, not data.
 // Checked as rows are loaded, once per value read from the file.
 void CheckUtf8(const dbf_ReadTable& t, std::int64_t oid, const dbf_ReadField& f, std::string_view text) {
   if (auto at = dbf_InvalidUtf8At(text)) {
@@ -41,6 +42,10 @@ void CheckUtf8(const dbf_ReadTable& t, std::int64_t oid, const dbf_ReadField& f,
     nex_ThrowCmd("the field \"" + f.name + "\" of row " + std::to_string(oid) + " of class " + t.className +
                  " holds text that is not UTF-8 (byte " + hex + " at offset " + std::to_string(*at) + ")");
   }
+  // No command can name, change or delete what holds a NUL; the file may not bring one in either.
+  if (const auto at = text.find('\0'); at != std::string_view::npos)
+    nex_ThrowCmd("the field \"" + f.name + "\" of row " + std::to_string(oid) + " of class " + t.className +
+                 " holds text with a NUL character (at offset " + std::to_string(at) + ")");
 }
 
 }  // namespace
@@ -219,7 +224,8 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
             ok = dbf_ParseTextList(text, v.emplace<std::vector<cow_String>>());
             // Without escapes every element is a piece of the text between two quotes, so one pass
             // over valid text clears them all; otherwise each is checked, and the first bad one named.
-            if (ok && (text.find('\\') != std::string_view::npos || dbf_InvalidUtf8At(text)))
+            if (ok && (text.find('\\') != std::string_view::npos || text.find('\0') != std::string_view::npos ||
+                       dbf_InvalidUtf8At(text)))
               for (const cow_String& e : std::get<std::vector<cow_String>>(v)) CheckUtf8(t, row.oid, f, e.view());
             break;
           default: {

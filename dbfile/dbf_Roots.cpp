@@ -4,6 +4,7 @@
 
 #include "platform/persist/dbc_Converter.h"
 #include "dbfile/dbf_AtomicFile.h"
+#include "dbfile/dbf_Seen.h"
 #include "dbfile/dbf_Reader.h"
 #include "dbfile/dbf_Vfs.h"
 #include "dbfile/dbf_Writer.h"
@@ -63,7 +64,12 @@ void Save(const std::vector<dbf_Root>& roots, const std::string& path, const dbf
   if (progress) (*progress)("sync", rows);
   file.SyncTemp();
   if (progress) (*progress)("rename", rows);
+  // Another process's save into this directory waits here, so it sees this one's result.
+  dbf_DirectoryLock lock(file.Directory());
+  if (options.seen && !options.overwrite) options.seen->Check(file.Target());
+  dbf_RemoveLeftovers(file.Target());
   file.Commit();
+  if (options.seen) options.seen->Saved(file.Target());
 }
 
 // The path as a message shows it: a NUL (refused as a file name) would end the message there.
@@ -88,6 +94,11 @@ std::vector<dbf_LoadedRoot> dbf_OpenRoots(const std::string& path, const dbc_Upg
   try {
     std::shared_ptr<const dbc_UpgradeDriver> registered;
     if (!driver) driver = (registered = dbc_UpgradeDriver::Registered()).get();
+    try {
+      dbf_RemoveLeftovers(dbf_SaveTarget(path));
+    } catch (const std::exception&) {
+      // not a name a save could have written; the reader says what is wrong with it
+    }
     dbf_Reader reader(path, *driver);
     return reader.LoadRoots(required);
   } catch (const std::exception& e) {

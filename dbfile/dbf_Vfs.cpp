@@ -4,6 +4,8 @@
 #include <cstring>
 #include <mutex>
 
+#include "dbfile/dbf_Faults.h"
+
 namespace {
 
 std::uint64_t Rotl(std::uint64_t x, int r) { return (x << r) | (x >> (64 - r)); }
@@ -65,6 +67,7 @@ int Read(sqlite3_file* f, void* buf, int amount, sqlite3_int64 offset) {
 }
 
 int Write(sqlite3_file* f, const void* buf, int amount, sqlite3_int64 offset) {
+  if (dbf_FaultHere("write")) return SQLITE_IOERR_WRITE;
   if (!Ck(f)->mainDb || !IsPage(amount, offset)) return M(f)->xWrite(Real(f), buf, amount, offset);
   // A first page whose header reserves no room for the checksum means every page would lose its
   // last bytes to it: refuse the write rather than damage the file.
@@ -77,8 +80,14 @@ int Write(sqlite3_file* f, const void* buf, int amount, sqlite3_int64 offset) {
   return M(f)->xWrite(Real(f), page, amount, offset);
 }
 
-int Truncate(sqlite3_file* f, sqlite3_int64 size) { return M(f)->xTruncate(Real(f), size); }
-int Sync(sqlite3_file* f, int flags) { return M(f)->xSync(Real(f), flags); }
+int Truncate(sqlite3_file* f, sqlite3_int64 size) {
+  if (dbf_FaultHere("truncate")) return SQLITE_IOERR_TRUNCATE;
+  return M(f)->xTruncate(Real(f), size);
+}
+int Sync(sqlite3_file* f, int flags) {
+  if (dbf_FaultHere("sync")) return SQLITE_IOERR_FSYNC;
+  return M(f)->xSync(Real(f), flags);
+}
 int FileSize(sqlite3_file* f, sqlite3_int64* size) { return M(f)->xFileSize(Real(f), size); }
 int Lock(sqlite3_file* f, int level) { return M(f)->xLock(Real(f), level); }
 int Unlock(sqlite3_file* f, int level) { return M(f)->xUnlock(Real(f), level); }

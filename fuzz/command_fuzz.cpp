@@ -1,6 +1,6 @@
 // The command reader. Each input is a script of JSON Lines run line by line in one session, as
 // "odbattr run" does. A failed command must leave the database and the change history as they
-// were; at the end the database must save and read back equal. Files named by "save" and "open"
+// were; at the end the database must save and read back equal (checked on one input in 16). Files named by "save" and "open"
 // are redirected to a few names in the scratch folder, so that a script never reaches outside it.
 #include <cstddef>
 #include <cstdint>
@@ -20,6 +20,7 @@
 namespace {
 
 constexpr std::size_t kMaxLines = 256;
+constexpr std::size_t kRoundTripOneIn = 16;
 
 // The line's command with a string "file" replaced by a scratch file, or nothing when the line
 // has no such key (it then runs as it stands, parse errors and all).
@@ -70,7 +71,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       fuzz_Fail("a failed command left changes in the history: ",
                 r.dump(-1, ' ', false, cmd_Json::error_handler_t::replace));
   }
-  fuzz_RequireRoundTrip(session.Database(), "end.odb");
+  // The round trip through a file costs most of an input's time: it runs on a sample of the
+  // inputs (chosen by the input's bytes, so that a finding replays), the per-line checks on all.
+  if (std::hash<std::string_view>()(script) % kRoundTripOneIn == 0) fuzz_RequireRoundTrip(session.Database(), "end.odb");
   omu_ChangeHistory::Instance().Clear();
   return 0;
 }

@@ -10,20 +10,20 @@
 namespace qmxpy {
 
 void BindRepository(py::module_& m) {
-  py::class_<Repository>(m, "Repository", "A repository of a model (or of an object): its elements by key.")
-      .def("keys", [](const Repository& r) { return Keys(*r.session, r.path); })
+  py::class_<Repository> repository(m, "Repository", "A repository of a model (or of an object): its elements by key.");
+  repository.def("keys", [](const Repository& r) { return Keys(*r.session, r.path); })
       .def("__iter__", [](const Repository& r) { return py::iter(py::cast(Keys(*r.session, r.path))); })
-      .def("__len__", [](const Repository& r) { return Keys(*r.session, r.path).size(); })
+      .def("__len__", [](const Repository& r) { return RepositorySize(r); })
       .def("__contains__",
            [](const Repository& r, py::handle key) {
-             return py::isinstance<py::str>(key) && Contains(Keys(*r.session, r.path), key.cast<std::string>());
+             return py::isinstance<py::str>(key) && RepositoryHas(r, TextOf(key));
            })
       .def("__getitem__", [](const Repository& r, const std::string& key) { return Element(r.session, Append(r.path, key)); })
       .def("__setitem__", [](const Repository& r, const std::string& key, py::handle value) { PutElement(r, key, value); })
       .def("__delitem__", [](const Repository& r, const std::string& key) { DeleteElement(*r.session, Append(r.path, key)); })
       .def("get",
            [](const Repository& r, const std::string& key, py::object fallback) -> py::object {
-             if (!Contains(Keys(*r.session, r.path), key)) return fallback;
+             if (!RepositoryHas(r, key)) return fallback;
              return Element(r.session, Append(r.path, key));
            },
            py::arg("key"), py::arg("default") = py::none())
@@ -49,11 +49,12 @@ void BindRepository(py::module_& m) {
         return "Repository at " + cmd_PathText(r.path) + " with " + std::to_string(Keys(*r.session, r.path).size()) +
                " elements";
       });
+  RefuseNew(repository, "through its model, such as db[\"Model-1\"].profiles");
 }
 
 void BindModel(py::module_& m) {
-  py::class_<Model>(m, "Model", "A model of a database; its repositories are attributes by scripting name.")
-      .def_property_readonly("name", [](const Model& self) { return self.name.str(); })
+  py::class_<Model> model(m, "Model", "A model of a database; its repositories are attributes by scripting name.");
+  model.def_property_readonly("name", [](const Model& self) { return self.name.str(); })
       .def("repositories", [](const Model& self) { return ModelRepositories(self); },
            "The scripting names of the model's repositories.")
       .def("__getattr__",
@@ -69,11 +70,12 @@ void BindModel(py::module_& m) {
            "Validates every object of the model; the first failure raises ValidationError with the failing path.")
       .def("to_dict", [](const Model& self) { return FromJson(Run(*self.session, Command("get", cmd_Path{self.name}))); })
       .def("__repr__", [](const Model& self) { return "Model \"" + self.name.str() + "\""; });
+  RefuseNew(model, "through its database, such as db[\"Model-1\"]");
 }
 
 void BindDatabase(py::module_& m) {
-  py::class_<Database>(m, "Database", "A database of models, saved to and opened from a model database file.")
-      .def(py::init<>())
+  py::class_<Database> database(m, "Database", "A database of models, saved to and opened from a model database file.");
+  database.def(py::init<>())
       .def_static("open",
                   [](const std::string& file) {
                     Database db;
@@ -85,13 +87,16 @@ void BindDatabase(py::module_& m) {
                   },
                   py::arg("path"), "Opens a model database file (upgrading rows of older versions in memory).")
       .def("save",
-           [](const Database& db, const std::string& file) {
+           [](const Database& db, const std::string& file, bool overwrite) {
              cmd_Json c = cmd_Json::object();
              c["op"] = "save";
              c["file"] = file;
+             if (overwrite) c["overwrite"] = true;
              Run(*db.session, std::move(c));
            },
-           py::arg("path"), "Saves every model into a model database file, atomically.")
+           py::arg("path"), py::arg("overwrite") = false,
+           "Saves every model into a model database file, atomically. A file that another process saved "
+           "since this database opened or saved it is refused unless overwrite is true.")
       .def("create_model",
            [](const Database& db, const std::string& name) {
              Run(*db.session, Command("create", cmd_Path{cow_String(name)}));
@@ -125,6 +130,7 @@ void BindDatabase(py::module_& m) {
       .def("__repr__", [](const Database& db) {
         return "Database with " + std::to_string(Keys(*db.session, cmd_Path{}).size()) + " models";
       });
+  ConstructOnNew(database);
 }
 
 }  // namespace qmxpy

@@ -28,7 +28,8 @@ void BindObject(py::module_& m) {
            })
       .def("__getattr__",
            [](const Object& self, const std::string& name) -> py::object {
-             if (name.starts_with("__") || (!self.root && !self.session)) throw py::attribute_error(name);
+             if (name.starts_with("__")) throw py::attribute_error(name);
+             if (!self.root && !self.session) Raise("CmdException", kNoConstructor, "py_BindObject.cpp", __LINE__, nullptr, "MemberError");
              return GetMember(self, name);
            })
       .def("__setattr__", [](const Object& self, const std::string& name,
@@ -75,6 +76,7 @@ void BindObject(py::module_& m) {
                              },
                              "The path of scripting names of an object inside a database; None when detached.");
   object.attr("__hash__") = py::none();
+  ConstructOnNew(object);
 }
 
 }  // namespace qmxpy

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "command/cmd_Check.h"
+#include "platform/model/mdl_Repository.h"
 #include "python/py_Types.h"
 
 namespace qmxpy {
@@ -19,6 +20,33 @@ bool Contains(const std::vector<std::string>& keys, const std::string& key) {
   for (const auto& k : keys)
     if (k == key) return true;
   return false;
+}
+
+std::size_t RepositorySize(const Repository& r) {
+  std::size_t size = 0;
+  bool counted = false;
+  Guarded([&] {
+    cmd_WalkConst(r.session->Database(), r.path, [&](const cmd_Node& n) {
+      if (n.kind == cmd_Node::kRepository && n.repo) {
+        size = n.repo->Count();
+        counted = true;
+      }
+    });
+  });
+  return counted ? size : Keys(*r.session, r.path).size();
+}
+
+bool RepositoryHas(const Repository& r, const std::string& key) {
+  bool found = false, asked = false;
+  Guarded([&] {
+    cmd_WalkConst(r.session->Database(), r.path, [&](const cmd_Node& n) {
+      if (n.kind == cmd_Node::kRepository && n.repo) {
+        found = n.repo->Contains(cow_String(key));
+        asked = true;
+      }
+    });
+  });
+  return asked ? found : Contains(Keys(*r.session, r.path), key);
 }
 
 py::object Element(const Session& s, const cmd_Path& path) {

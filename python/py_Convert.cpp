@@ -1,10 +1,12 @@
 // Python values and the command layer's JSON, and the module's exceptions.
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 #include <pybind11/eval.h>
 
+#include "command/cmd_Line.h"
 #include "python/py_Core.h"
 
 namespace qmxpy {
@@ -76,7 +78,44 @@ void RaiseError(const cmd_Json& error, const char* flavour) {
         error.value("line", 0), path, flavour);
 }
 
-cmd_Json ToJson(py::handle value) {
+namespace {
+
+// The containers being converted, outermost first: a value that holds itself is refused, and so
+// is nesting deeper than a command line may nest, before the recursion could exhaust the stack.
+struct ConvertStack {
+  std::vector<PyObject*> open;
+};
+
+// A Python str as UTF-8; a lone surrogate has no UTF-8 form and is refused as bad input.
+std::string Utf8Of(py::handle text) {
+  Py_ssize_t size = 0;
+  const char* p = PyUnicode_AsUTF8AndSize(text.ptr(), &size);
+  if (!p) {
+    PyErr_Clear();
+    Raise("CmdException", "A text holds a lone surrogate, which has no UTF-8 form", "py_Convert.cpp", __LINE__);
+  }
+  return std::string(p, static_cast<std::size_t>(size));
+}
+
+cmd_Json Convert(py::handle value, ConvertStack& stack);
+
+// Converts the items of a list or mapping one level further in.
+template <class F>
+cmd_Json Nested(py::handle value, ConvertStack& stack, F&& items) {
+  for (PyObject* o : stack.open)
+    if (o == value.ptr())
+      Raise("CmdException", "A value of type " + py::str(py::type::of(value).attr("__name__")).cast<std::string>() +
+            " contains itself", "py_Convert.cpp", __LINE__);
+  if (stack.open.size() >= cmd_kMaxDepth)
+    Raise("CmdException", "The value nests lists and mappings more than " + std::to_string(cmd_kMaxDepth) +
+          " levels deep", "py_Convert.cpp", __LINE__);
+  stack.open.push_back(value.ptr());
+  cmd_Json out = items();
+  stack.open.pop_back();
+  return out;
+}
+
+cmd_Json Convert(py::handle value, ConvertStack& stack) {
   if (value.is_none()) return nullptr;
   if (py::isinstance<py::bool_>(value)) return value.cast<bool>();
   if (py::isinstance<py::int_>(value)) {
@@ -87,26 +126,43 @@ cmd_Json ToJson(py::handle value) {
     }
   }
   if (py::isinstance<py::float_>(value)) return value.cast<double>();
-  if (py::isinstance<py::str>(value)) return value.cast<std::string>();
+  if (py::isinstance<py::str>(value)) return Utf8Of(value);
   if (IsObject(value)) return ObjectJson(value);
   if (py::isinstance<py::dict>(value)) {
-    cmd_Json out = cmd_Json::object();
-    for (auto item : value.cast<py::dict>()) {
-      if (!py::isinstance<py::str>(item.first)) throw py::type_error("The keys of a mapping of values are names");
-      out[item.first.cast<std::string>()] = ToJson(item.second);
-    }
-    return out;
+    return Nested(value, stack, [&] {
+      cmd_Json out = cmd_Json::object();
+      for (auto item : value.cast<py::dict>()) {
+        if (!py::isinstance<py::str>(item.first)) throw py::type_error("The keys of a mapping of values are names");
+        out[Utf8Of(item.first)] = Convert(item.second, stack);
+      }
+      return out;
+    });
   }
   if (py::isinstance<py::sequence>(value) && !py::isinstance<py::bytes>(value)) {
-    cmd_Json out = cmd_Json::array();
-    for (auto item : value.cast<py::sequence>()) out.push_back(ToJson(item));
-    return out;
+    return Nested(value, stack, [&] {
+      cmd_Json out = cmd_Json::array();
+      for (auto item : value.cast<py::sequence>()) out.push_back(Convert(item, stack));
+      return out;
+    });
   }
   // Numbers of other kinds (numpy scalars, decimals) through their index or float form.
-  if (py::hasattr(value, "__index__")) return ToJson(py::reinterpret_steal<py::object>(PyNumber_Index(value.ptr())));
+  if (py::hasattr(value, "__index__")) {
+    PyObject* index = PyNumber_Index(value.ptr());
+    if (!index) throw py::error_already_set();
+    return Convert(py::reinterpret_steal<py::object>(index), stack);
+  }
   if (py::hasattr(value, "__float__")) return py::float_(py::reinterpret_borrow<py::object>(value)).cast<double>();
   throw py::type_error("A value of type " + py::str(py::type::of(value).attr("__name__")).cast<std::string>() +
                        " cannot be given to the attribute library");
+}
+
+}  // namespace
+
+std::string TextOf(py::handle text) { return Utf8Of(text); }
+
+cmd_Json ToJson(py::handle value) {
+  ConvertStack stack;
+  return Convert(value, stack);
 }
 
 py::object FromJson(const cmd_Json& value) {

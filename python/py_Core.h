@@ -18,6 +18,8 @@ namespace py = pybind11;
 // module (as their JSON form with their constructor name).
 cmd_Json ToJson(py::handle value);
 py::object FromJson(const cmd_Json& value);
+// A Python str as UTF-8; a lone surrogate raises the module's CommandError.
+std::string TextOf(py::handle text);
 
 // The JSON form of an object of the module (bound or detached); null when `value` is none.
 bool IsObject(py::handle value);

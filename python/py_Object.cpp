@@ -52,8 +52,7 @@ const cls_ClassMetadata& BoundClass(const Object& o) {
 // An Object made without a constructor holds nothing to work on.
 const Object& Live(const Object& o) {
   if (!o.root && !o.session)
-    Raise("CmdException", "An object is made by the constructor of its class, such as CircularProfile(r=1.0)",
-          "py_Object.cpp", __LINE__);
+    Raise("CmdException", kNoConstructor, "py_Object.cpp", __LINE__);
   return o;
 }
 

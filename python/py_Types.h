@@ -65,6 +65,9 @@ py::list Dir(py::handle self, const py::list& extra);
 
 // --- objects (py_Object.cpp) ---------------------------------------------------------------------
 
+// What an Object made without a constructor says when it is used.
+inline constexpr const char* kNoConstructor =
+    "An object is made by the constructor of its class, such as CircularProfile(r=1.0)";
 const cls_ClassMetadata& ClassOf(const Object& o);
 py::object Detached(const cls_ClassMetadata& md, void* obj);
 py::object GetMember(const Object& o, const std::string& name);
@@ -84,6 +87,10 @@ std::string Repr(const Object& o);
 
 std::vector<std::string> Keys(cmd_Session& s, const cmd_Path& path);
 bool Contains(const std::vector<std::string>& keys, const std::string& key);
+// The size of a repository and whether it holds a key, asked of the repository itself (a lookup,
+// not a listing of every key).
+std::size_t RepositorySize(const Repository& r);
+bool RepositoryHas(const Repository& r, const std::string& key);
 py::object Element(const Session& s, const cmd_Path& path);
 void PutElement(const Repository& r, const std::string& key, py::handle value);
 void DeleteElement(cmd_Session& s, const cmd_Path& path);
@@ -96,5 +103,9 @@ void BindObject(py::module_& m);
 void BindRepository(py::module_& m);
 void BindModel(py::module_& m);
 void BindDatabase(py::module_& m);
+// `Cls.__new__(Cls)` of a bound class (py_New.cpp): constructs the value with the class's
+// `__init__` taking no values, or refuses, telling `how` the class's objects are reached.
+void ConstructOnNew(py::handle type);
+void RefuseNew(py::handle type, const std::string& how);
 
 }  // namespace qmxpy

@@ -210,6 +210,12 @@ TEST_F(ToolLines, TargetsThatAreNotRegularFilesAreRefusedAndLinksAreWrittenThrou
   EXPECT_EQ(nodir.err, "odbattr: cannot use \"" + (dir / "missing" / "m.db").string() + "\" as the database: the directory \"" +
                            (dir / "missing").string() + "\" does not exist\n");
   EXPECT_TRUE(nodir.out.empty());
+  // A directory that takes no new file is found before the script runs, not by the save after it.
+  const Outcome readOnly = Tool("run --db /proc/self/m.db " + Q(dir / "script.jsonl"));
+  EXPECT_EQ(readOnly.code, 2);
+  const std::string refused = "odbattr: cannot use \"/proc/self/m.db\" as the database: the directory \"/proc/self\" cannot be written (";
+  EXPECT_EQ(readOnly.err.substr(0, refused.size()), refused) << readOnly.err;
+  EXPECT_TRUE(readOnly.out.empty());
 
   // save in a script: the line fails, the others run
   Write(dir / "save.jsonl", "{\"op\":\"create\",\"path\":[\"M\"]}\n{\"op\":\"save\",\"file\":\"" + fifo.string() +

@@ -111,7 +111,7 @@ TEST_F(DbRoundTrip, ValuesThatStressTheFileComeBackBitForBit) {
   const dbtT_Sample want = dbtT_Sample::Filled();
   EXPECT_TRUE(std::isnan(s.ratio));
   EXPECT_EQ(s.label.size(), want.label.size());
-  EXPECT_EQ(s.label.view(), want.label.view());  // embedded NUL and UTF-8 kept
+  EXPECT_EQ(s.label.view(), want.label.view());  // escapes and UTF-8 kept
   EXPECT_TRUE(std::signbit(s.table(0, 1)));      // negative zero in a table
   EXPECT_EQ(std::bit_cast<std::uint64_t>(s.table(0, 2)), std::bit_cast<std::uint64_t>(1e-310));
   EXPECT_EQ(s.doubles[5], 5e-324);

@@ -27,7 +27,7 @@ dbtT_Sample dbtT_Sample::Filled() {
   s.count = -2147483647 - 1;
   s.ratio = std::numeric_limits<double>::quiet_NaN();
   s.enabled = true;
-  static constexpr char kLabel[] = "quote \" backslash \\ tab\t newline\n nul\0 end \xC3\xA9\xE2\x82\xAC";
+  static constexpr char kLabel[] = "quote \" backslash \\ tab\t newline\n end \xC3\xA9\xE2\x82\xAC";
   s.label = cow_String(std::string_view(kLabel, sizeof kLabel - 1));
   s.mode = ModeEnm::THIRD_MODE;
   s.region = rgnC_Region("Part-1.Set-2");

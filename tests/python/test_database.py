@@ -222,3 +222,43 @@ def test_example_script(workdir):
     assert m.profiles["Pipe-50x5"].integrationScheme == "THICK_WALL"
     assert m.amplitudes["Load-History"].baselineCorrection.intervals == [0.5, 1.0, 2.0]
     back.validate()
+
+
+CHANGED = ("Cannot save the model database \"{}\": it was changed by another process since it was "
+           "opened; save to another file or reopen")
+
+SAVER = """
+import sys, qmxodbattr as qa
+db = qa.Database.open(sys.argv[1])
+db["M"].profiles[sys.argv[2]] = qa.CircularProfile(r=1.0)
+sys.stdout.write("opened\\n"); sys.stdout.flush()
+sys.stdin.readline()
+try:
+    db.save(sys.argv[1])
+    print("saved")
+except qa.CommandError as e:
+    print(str(e))
+"""
+
+
+def test_two_processes_saving_one_file_lose_nothing_silently(workdir):
+    path = str(workdir / "shared.db")
+    db = qa.Database()
+    db.create_model("M")
+    db.save(path)
+    procs = [subprocess.Popen([sys.executable, "-c", SAVER, path, key], stdin=subprocess.PIPE,
+                              stdout=subprocess.PIPE, text=True) for key in ("A", "B")]
+    for p in procs:
+        assert p.stdout.readline() == "opened\n"  # both read the file before either saves
+    for p in procs:
+        p.stdin.write("go\n")
+        p.stdin.flush()
+    answers = sorted(p.communicate()[0].strip() for p in procs)
+    assert answers == sorted(["saved", CHANGED.format(path)])
+    assert len(qa.Database.open(path)["M"].profiles) == 1
+    # This process never read the file since: its own save asks for overwrite to replace it.
+    with pytest.raises(qa.CommandError) as e:
+        db.save(path)
+    assert str(e.value) == CHANGED.format(path)
+    db.save(path, overwrite=True)
+    assert len(qa.Database.open(path)["M"].profiles) == 0

@@ -179,10 +179,21 @@ class Builder {
     return cmd_Json{{"anyOf", {text, {{"type", "integer"}, {"enum", values}}}}};
   }
 
+  // A number member as scripts write it: the number, or the literal it may hold instead, or null
+  // when it may be left unspecified.
+  cmd_Json Number(const cls_ScriptField& f) {
+    cmd_Json number = f.type == cls_AttrInt ? Int32() : Typed("number");
+    if (!f.literals && !f.optional) return number;
+    cmd_Json any = cmd_Json::array({number});
+    if (f.literals) any.push_back(Literals(f, false));
+    if (f.optional) any.push_back(Typed("null"));
+    return cmd_Json{{"anyOf", any}};
+  }
+
   cmd_Json Member(const cls_ScriptField& f) {
     switch (f.type) {
-      case cls_AttrInt: return Int32();
-      case cls_AttrDouble: return Typed("number");
+      case cls_AttrInt:
+      case cls_AttrDouble: return Number(f);
       case cls_AttrBool: return Typed("boolean");
       case cls_AttrString:
       case cls_AttrRegion: return Typed("string");

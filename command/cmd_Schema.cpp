@@ -74,6 +74,11 @@ class Builder {
     ops.push_back(Op("set", {"path"}, {{"type", Typed("string")}, {"values", Typed("object")}, {"value", cmd_Json::object()}}));
     for (const char* op : {"get", "list", "delete", "validate"}) ops.push_back(Op(op, {"path"}, {}));
     for (const char* op : {"save", "open"}) ops.push_back(Op(op, {"file"}, {}));
+    for (const char* op : {"undo", "redo", "begin", "commit", "rollback"}) ops.push_back(Op(op, {}, {}));
+    // A transaction holds commands of this very schema.
+    cmd_Json transaction = Op("transaction", {}, {{"commands", {{"type", "array"}, {"items", {{"$ref", "#"}}}}}});
+    transaction["required"].push_back("commands");
+    ops.push_back(std::move(transaction));
     s["oneOf"] = ops;
     s["allOf"] = RepositoryRules(repositories);
     s["x-maxDepth"] = cmd_kMaxDepth;

@@ -50,6 +50,8 @@ class cmd_Session {
   std::size_t UndoDepth() const noexcept { return undo_.size(); }
   std::size_t RedoDepth() const noexcept { return redo_.size(); }
   bool InTransaction() const noexcept { return transaction_.has_value(); }
+  // The databases undo would bring back, the next one last.
+  const std::vector<ddr_Database>& UndoHistory() const noexcept { return undo_; }
 
  private:
   cmd_Json Dispatch(const cmd_Json& command);

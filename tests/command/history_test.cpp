@@ -2,11 +2,14 @@
 // command leaves no step; a transaction is all of its commands or none.
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 #include <vector>
 
 #include <nlohmann/json.hpp>
 
+#include "platform/model/ddr_Model.h"
+#include "platform/model/mdl_Repository.h"
 #include "tests/command/cmdT_Holder.h"
 #include "tests/command/cmd_test_util.h"
 #include "tests/support/qmx_test.h"
@@ -127,6 +130,30 @@ TEST_F(HistoryTest, ATransactionWhoseThirdCommandFailsLeavesTheFirstTwoUndone) {
       {"op":"create","path":["M","adaptiveMeshControls","C-3"],"type":"AdaptiveMeshControl"}]})"),
             cmd_Json::parse(R"([["C-1"],null])"));
   EXPECT_EQ(s.UndoDepth(), depth + 1);
+}
+
+// The history grows with what changed, not with the model: every step shares every element it did
+// not change with the others, so across all of them there is one object per element made and one
+// per change, however many steps there are.
+TEST_F(HistoryTest, TheStepsShareEverythingTheyDidNotChange) {
+  constexpr int kElements = 2000, kChanges = 300;
+  for (int i = 0; i < kElements; ++i)
+    cmdT_Ok(s, R"({"op":"create","path":["M","adaptiveMeshControls","E-)" + std::to_string(i) +
+                   R"("],"type":"AdaptiveMeshControl"})");
+  for (int i = 0; i < kChanges; ++i)
+    cmdT_Ok(s, R"({"op":"set","path":["M","adaptiveMeshControls","E-)" + std::to_string(i * 7 % kElements) +
+                   R"(","meshConstraintAngle"],"value":)" + std::to_string(10 + i % 50) + "}");
+  std::set<const void*> objects;
+  auto collect = [&](const ddr_Database& db) {
+    const ddr_Model* m = db.FindModel("M");
+    if (!m) return;
+    const mdl_Repository* r = m->FindRepository("adaptiveMeshControls");
+    for (const auto& key : r->Keys()) objects.insert(r->Find(key));
+  };
+  collect(s.Database());
+  for (const auto& step : s.UndoHistory()) collect(step);
+  EXPECT_EQ(s.UndoHistory().size(), 2u + kElements + kChanges);
+  EXPECT_EQ(objects.size(), 1u + kElements + kChanges);  // C-1 of SetUp, the elements, the changes
 }
 
 TEST_F(HistoryTest, WhatTheHistoryRefuses) {

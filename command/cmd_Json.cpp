@@ -9,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/base/QMXBasException.h"
+#include "platform/base/omu_PrimEnum.h"
 #include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/persist/cls_Record.h"
 #include "command/cmd_Path.h"
@@ -22,8 +23,10 @@ void cmd_WithinMember(const std::string& member, const std::function<void()>& fn
   } catch (cmd_MemberError& e) {
     e.members.insert(e.members.begin(), member);
     throw;
+  } catch (const cmd_StepError& e) {  // an unknown member below this one
+    throw cmd_MemberError{{member, e.Step()}, e.Kind(), e.Message(), e.File(), e.Line(), e.Candidates()};
   } catch (const QMXBasException& e) {
-    throw cmd_MemberError{{member}, e.Kind(), e.Message(), e.File(), e.Line()};
+    throw cmd_MemberError{{member}, e.Kind(), e.Message(), e.File(), e.Line(), {}};
   }
 }
 
@@ -74,6 +77,16 @@ const char* Wanted(int type) {
   }
 }
 
+// What a member takes, with the literal or null that a number member may take instead.
+std::string WantedOf(const cls_ScriptField& f) {
+  std::string wanted = Wanted(f.type);
+  if (f.type != cls_AttrInt && f.type != cls_AttrDouble) return wanted;
+  if (f.literals)
+    for (const omu_EnumLiteral* l = f.literals; l->text; ++l) wanted += std::string(" or \"") + l->text + "\"";
+  if (f.optional) wanted += " or null";
+  return wanted;
+}
+
 class Converter {
  public:
   Converter(const cls_ClassMetadata& owner, const cls_ScriptField& field) : owner_(owner), field_(field) {}
@@ -81,7 +94,7 @@ class Converter {
   [[noreturn]] void Refuse(const cmd_Json& v, const std::string& where = "") const {
     const bool rows = field_.type == cls_AttrObject && field_.declared && cmd_TableShorthand(*field_.declared);
     cmd_Refuse("The member \"" + std::string(field_.scriptName) + "\" of " + cmd_ClassLabel(owner_) + " takes " +
-               (rows ? "an object, a table (an array of rows of numbers) or null" : Wanted(field_.type)) + ", not " +
+               (rows ? std::string("an object, a table (an array of rows of numbers) or null") : WantedOf(field_)) + ", not " +
                Describe(v) + (where.empty() ? "" : " " + where));
   }
 
@@ -129,6 +142,7 @@ class Converter {
     switch (field_.type) {
       case cls_AttrInt:
       case cls_AttrDouble:
+        if (v.is_null() && field_.optional) return std::monostate{};  // unspecified
         if (v.is_string() && field_.literals) return cow_String(v.get<std::string>());  // a number or a literal
         return field_.type == cls_AttrInt ? cls_Value(integer(v, "")) : cls_Value(number(v, ""));
       case cls_AttrBool: return boolean(v, "");
@@ -230,12 +244,11 @@ void SetMembers(void* obj, const cls_ClassMetadata& md, const cmd_Json& values, 
         cmd_Refuse("The values name the constructor " + v.dump() + ", but the object is of " + cmd_ClassLabel(md));
       continue;
     }
-    const cls_ScriptField* f = md.FindScriptField(key);
-    if (!f) {
-      std::string names;
-      for (const auto& sf : md.ScriptFields()) names += (names.empty() ? "" : ", ") + std::string(sf.scriptName);
-      cmd_Refuse(cmd_ClassLabel(md) + " has no member \"" + key + "\"; its members are " +
-                 (names.empty() ? "none" : names));
+    const cls_ScriptField* f = nullptr;
+    try {
+      f = &cmd_FindMember(obj, md, key, {});
+    } catch (const cmd_StepError& e) {
+      throw cmd_MemberError{{key}, e.Kind(), e.Message(), e.File(), e.Line(), e.Candidates()};
     }
     cmd_WithinMember(key, [&] { f->set(obj, cmd_ValueFromJson(md, *f, v)); });
   }

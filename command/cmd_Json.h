@@ -33,6 +33,7 @@ struct cmd_MemberError {
   std::string message;
   std::string file;
   int line = 0;
+  std::vector<std::string> candidates;  // for an unknown member: the members there are
 };
 
 // Runs fn; a failure inside it becomes (or stays) a cmd_MemberError with `member` in front.

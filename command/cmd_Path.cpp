@@ -32,6 +32,34 @@ std::string Listing(const std::vector<cow_String>& names) {
   return out;
 }
 
+// At most this many candidates travel with a refusal: a repository may hold 10^5 keys.
+constexpr std::size_t kMaxCandidates = 100;
+
+std::vector<std::string> Texts(const std::vector<cow_String>& names) {
+  std::vector<std::string> out;
+  for (std::size_t i = 0; i < names.size() && i < kMaxCandidates; ++i) out.push_back(names[i].str());
+  return out;
+}
+
+// Refuses step i of the path: by the module's rule when it throws, else with `generic`; either way
+// with the command layer's context around the refusal.
+[[noreturn]] void RefuseStep(const cmd_Path& path, std::size_t i, const std::vector<cow_String>& candidates,
+                             const std::function<void()>& rule, const std::string& generic) {
+  try {
+    if (rule) rule();
+    cmd_Refuse(generic);
+  } catch (const QMXBasException& e) {
+    throw cmd_StepError(e, cmd_Path(path.begin(), path.begin() + static_cast<std::ptrdiff_t>(i)), path[i].str(),
+                        Texts(candidates));
+  }
+}
+
+std::vector<cow_String> MemberNames(const cls_ClassMetadata& md) {
+  std::vector<cow_String> names;
+  for (const auto& sf : md.ScriptFields()) names.emplace_back(sf.scriptName);
+  return names;
+}
+
 // An object owned by the walk: a copy of an element of a list of objects.
 struct OwnedObject {
   const cls_ClassMetadata* md;
@@ -50,7 +78,7 @@ class Walker {
     if (count_ == 0) return fn_(n);
     const cow_String& name = path_[0];
     ddr_Model* m = modify_ ? db.ModifyModel(name) : const_cast<ddr_Model*>(db.FindModel(name));
-    if (!m) cmd_Refuse("There is no model " + Quoted(name.view()));
+    if (!m) RefuseStep(path_, 0, db.ModelNames(), nullptr, "There is no model " + Quoted(name.view()));
     n.kind = cmd_Node::kModel;
     n.model = m;
     n.modelName = name;
@@ -85,8 +113,9 @@ class Walker {
         if (!r) {
           std::vector<cow_String> names = n.model->RepositoryNames();
           for (const auto& o : n.model->ObjectNames()) names.push_back(o);
-          cmd_Refuse("The model " + Quoted(n.modelName.view()) + " has no repository " + Quoted(step.view()) +
-                     "; it has " + Listing(names));
+          RefuseStep(path_, i, names, nullptr,
+                     "The model " + Quoted(n.modelName.view()) + " has no repository " + Quoted(step.view()) +
+                         "; it has " + Listing(names));
         }
         c.kind = cmd_Node::kRepository;
         c.repo = r;
@@ -94,7 +123,7 @@ class Walker {
       }
       case cmd_Node::kRepository: {
         if (!n.repo->Contains(step))
-          cmd_Refuse("There is no " + Quoted(step.view()) + " in " + n.repo->RepositoryName());
+          RefuseStep(path_, i, n.repo->Keys(), [&] { n.repo->RefuseMissingKey(step); }, "");
         const cls_ClassMetadata* cls = nullptr;
         void* o = modify_ ? n.repo->Modify(step, &cls) : const_cast<void*>(n.repo->Find(step, &cls));
         cmd_Node c = Below(n);
@@ -121,13 +150,7 @@ class Walker {
 
   void Member(cmd_Node& n, std::size_t i) {
     const cow_String& step = path_[i];
-    const cls_ScriptField* f = n.md->FindScriptField(step.view());
-    if (!f) {
-      std::vector<cow_String> names;
-      for (const auto& sf : n.md->ScriptFields()) names.emplace_back(sf.scriptName);
-      cmd_Refuse(cmd_ClassLabel(*n.md) + " has no member " + Quoted(step.view()) + "; its members are " +
-                 Listing(names));
-    }
+    const cls_ScriptField* f = &cmd_FindMember(n.obj, *n.md, step.view(), cmd_Path(path_.begin(), path_.begin() + static_cast<std::ptrdiff_t>(i)));
     cmd_Node c = Below(n);
     c.owner = n.obj;
     c.ownerMd = n.md;
@@ -163,9 +186,13 @@ class Walker {
     auto list = std::get<std::vector<cls_RecordPtr>>(m.field->get(m.owner));
     const cow_String& step = path_[i];
     auto index = mdl_ParseIntegerKey(step.view());
-    if (!index || *index < 0 || static_cast<std::size_t>(*index) >= list.size())
-      cmd_Refuse("The list " + Quoted(m.field->scriptName) + " of " + cmd_ClassLabel(*m.ownerMd) +
-                 " has no element " + Quoted(step.view()) + "; it holds " + std::to_string(list.size()));
+    if (!index || *index < 0 || static_cast<std::size_t>(*index) >= list.size()) {
+      std::vector<cow_String> positions;
+      for (std::size_t k = 0; k < list.size() && k < kMaxCandidates; ++k) positions.emplace_back(std::to_string(k));
+      RefuseStep(path_, i, positions, nullptr,
+                 "The list " + Quoted(m.field->scriptName) + " of " + cmd_ClassLabel(*m.ownerMd) + " has no element " +
+                     Quoted(step.view()) + "; it holds " + std::to_string(list.size()));
+    }
     const std::size_t k = static_cast<std::size_t>(*index);
     if (!list[k])
       cmd_Refuse("Element " + std::to_string(k) + " of the list " + Quoted(m.field->scriptName) + " is empty");
@@ -191,6 +218,24 @@ class Walker {
 };
 
 }  // namespace
+
+cmd_StepError::~cmd_StepError() = default;
+
+const cls_ScriptField& cmd_FindMember(const void* obj, const cls_ClassMetadata& md, std::string_view step,
+                                      const cmd_Path& at) {
+  if (const cls_ScriptField* f = md.FindScriptField(step)) return *f;
+  const std::vector<cow_String> names = MemberNames(md);
+  try {
+    if (obj) md.RefuseUnknownStep(obj, step);
+    cmd_Refuse(cmd_ClassLabel(md) + " has no member " + Quoted(step) + "; its members are " + Listing(names));
+  } catch (const QMXBasException& e) {
+    throw cmd_StepError(e, at, std::string(step), Texts(names));
+  }
+}
+
+void cmd_RefuseKey(const mdl_Repository& repo, const cmd_Path& path) {
+  RefuseStep(path, path.size() - 1, repo.Keys(), [&] { repo.RefuseMissingKey(path.back()); }, "");
+}
 
 std::string cmd_PathText(const cmd_Path& path, std::size_t count) {
   std::string out = "[";

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/persist/cls_ClassMetadata.h"
+#include "platform/base/QMXBasException.h"
 #include "platform/base/cow_String.h"
 
 class ddr_Database;
@@ -27,6 +28,41 @@ std::string cmd_PathText(const cmd_Path& path, std::size_t count = std::numeric_
 // How messages name a class: its scripting constructor name, or its class name for classes that
 // scripts do not construct.
 std::string cmd_ClassLabel(const cls_ClassMetadata& md);
+
+// A step of a path that names nothing: the refusal as the system raised it (the owning module's
+// own message where its shortcuts have one, with its kind, file and line), and around it the
+// command layer's context: the path that resolved, the step that did not, and the names that
+// would have been valid there.
+class __attribute__((visibility("default"))) cmd_StepError : public QMXBasException {
+ public:
+  cmd_StepError(const QMXBasException& refusal, cmd_Path at, std::string step, std::vector<std::string> candidates)
+      : QMXBasException(refusal), kind_(refusal.Kind()), at_(std::move(at)), step_(std::move(step)),
+        candidates_(std::move(candidates)) {}
+  ~cmd_StepError() override;
+  const char* Kind() const noexcept override { return kind_.c_str(); }
+  const cmd_Path& At() const noexcept { return at_; }
+  const std::string& Step() const noexcept { return step_; }
+  const std::vector<std::string>& Candidates() const noexcept { return candidates_; }
+
+ protected:
+  [[noreturn]] void Raise() const override { throw *this; }
+
+ private:
+  std::string kind_;
+  cmd_Path at_;
+  std::string step_;
+  std::vector<std::string> candidates_;
+};
+
+// The member of an object that a step names: its script field, or the refusal of the object's
+// own class ("Unknown material option"), or else the command layer's, as a cmd_StepError with
+// the members as candidates. `at` is the path of the object.
+const cls_ScriptField& cmd_FindMember(const void* obj, const cls_ClassMetadata& md, std::string_view step,
+                                      const cmd_Path& at);
+
+// Refuses the last step of the path, a key the repository (reached by the other steps) does not
+// hold: with the repository's own refusal and the keys it holds as candidates.
+[[noreturn]] void cmd_RefuseKey(const mdl_Repository& repo, const cmd_Path& path);
 
 // What a path leads to.
 struct cmd_Node {

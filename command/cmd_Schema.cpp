@@ -75,6 +75,11 @@ class Builder {
     for (const char* op : {"get", "list", "delete", "validate"}) ops.push_back(Op(op, {"path"}, {}));
     ops.push_back(Op("save", {"file"}, {{"overwrite", Typed("boolean")}}));
     ops.push_back(Op("open", {"file"}, {}));
+    for (const char* op : {"undo", "redo", "begin", "commit", "rollback"}) ops.push_back(Op(op, {}, {}));
+    // A transaction holds commands of this very schema.
+    cmd_Json transaction = Op("transaction", {}, {{"commands", {{"type", "array"}, {"items", {{"$ref", "#"}}}}}});
+    transaction["required"].push_back("commands");
+    ops.push_back(std::move(transaction));
     s["oneOf"] = ops;
     s["allOf"] = RepositoryRules(repositories);
     s["x-maxDepth"] = cmd_kMaxDepth;
@@ -180,10 +185,21 @@ class Builder {
     return cmd_Json{{"anyOf", {text, {{"type", "integer"}, {"enum", values}}}}};
   }
 
+  // A number member as scripts write it: the number, or the literal it may hold instead, or null
+  // when it may be left unspecified.
+  cmd_Json Number(const cls_ScriptField& f) {
+    cmd_Json number = f.type == cls_AttrInt ? Int32() : Typed("number");
+    if (!f.literals && !f.optional) return number;
+    cmd_Json any = cmd_Json::array({number});
+    if (f.literals) any.push_back(Literals(f, false));
+    if (f.optional) any.push_back(Typed("null"));
+    return cmd_Json{{"anyOf", any}};
+  }
+
   cmd_Json Member(const cls_ScriptField& f) {
     switch (f.type) {
-      case cls_AttrInt: return Int32();
-      case cls_AttrDouble: return Typed("number");
+      case cls_AttrInt:
+      case cls_AttrDouble: return Number(f);
       case cls_AttrBool: return Typed("boolean");
       case cls_AttrString:
       case cls_AttrRegion: return Typed("string");

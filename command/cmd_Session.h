@@ -9,15 +9,24 @@
 //   {"op":"get","path":[...]}  {"op":"list","path":[...]}  {"op":"validate","path":[...]}
 //   {"op":"delete","path":[...]}  {"op":"save","file":"x.db"}  {"op":"open","file":"x.db"}
 //   {"op":"save","file":"x.db","overwrite":true}  saves over another process's save of the file
+//   {"op":"undo"}  {"op":"redo"}                each undoes or redoes one command that changed something
+//   {"op":"begin"} ... {"op":"commit"} / {"op":"rollback"}   a transaction: all of it or nothing
+//   {"op":"transaction","commands":[{...},{...}]}            the same in one command
 // Each command answers {"line":N,"ok":true,"result":...} or {"line":N,"ok":false,"error":{"kind":...,
-// "message":...,"file":...,"line":...,"path":[...],"member":...}}: "line" first is the script line,
+// "message":...,"file":...,"line":...,"path":[...],"member":...,"candidates":[...]}}: "line" first is the script line,
 // the error's "message", "file" and "line" are the failure as the system raised it, "path" the
-// path of the object concerned and "member" the member that failed, when one did. A failed
-// validate lists every failure under "failures", first failure first. A failed command changes nothing: the one repository element it may
-// change is copied before it runs and put back on failure, and the change history is cut back to
-// where it was.
+// path of the object concerned and "member" the member (or key) that failed, when one did, with
+// "candidates" the names that would have been valid there. A failed validate lists every failure
+// under "failures", first failure first. A failed command changes nothing: the database as it was
+// (an O(1) copy that shares every model) is put back and the change history is cut back to where
+// it was. Inside a transaction a failed command also ends the transaction, undoing every command
+// of it ("rolledBack": true). Every command that changed the database (create, set, delete,
+// open), and every committed transaction, is one entry of the history that undo steps back over.
 #include <cstddef>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "command/cmd_Json.h"
 #include "dbfile/dbf_Seen.h"
@@ -39,6 +48,12 @@ class cmd_Session {
 
   std::size_t Succeeded() const noexcept { return succeeded_; }
   std::size_t Failed() const noexcept { return failed_; }
+  // The entries of the history: commands that undo and redo would step over.
+  std::size_t UndoDepth() const noexcept { return undo_.size(); }
+  std::size_t RedoDepth() const noexcept { return redo_.size(); }
+  bool InTransaction() const noexcept { return transaction_.has_value(); }
+  // The databases undo would bring back, the next one last.
+  const std::vector<ddr_Database>& UndoHistory() const noexcept { return undo_; }
 
  private:
   cmd_Json Dispatch(const cmd_Json& command);
@@ -50,9 +65,15 @@ class cmd_Session {
   cmd_Json Validate(const cmd_Json& command);
   cmd_Json Save(const cmd_Json& command);
   cmd_Json Open(const cmd_Json& command);
+  cmd_Json Step(bool undo);
+  cmd_Json Bracket(const std::string& op);  // begin, commit, rollback
+  cmd_Json Transaction(const cmd_Json& command);
 
   ddr_Database db_;
   dbf_Seen seen_;  // the files this database read or saved, as it left them
+  std::vector<ddr_Database> undo_;  // the database before each entry, the last entry last
+  std::vector<ddr_Database> redo_;
+  std::optional<ddr_Database> transaction_;  // the database when the open transaction began
   std::size_t succeeded_ = 0;
   std::size_t failed_ = 0;
 };

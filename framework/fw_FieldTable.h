@@ -171,6 +171,7 @@ struct fw_ScriptAccess {
     else if constexpr (requires { Tr::Literals(); }) literals = Tr::Literals();  // a number or a literal
     const cls_ClassMetadata* declared = nullptr;
     bool optional = false;
+    if constexpr (requires { Tr::kNullable; }) optional = true;  // a number that may be null
     if constexpr (requires { typename Tr::Element; }) {
       declared = cls_ClassRegistrar::Instance().ByName(Tr::Element::kClassName);
       optional = !fw_Persistent<M>;

@@ -174,12 +174,13 @@ struct fw_Traits<E> {
   static void Set(const char* n, E& m, const cls_Value& v) { m = FromValue(n, v); }
 };
 
-// A number or the one literal of E (fw_OrLiteral): stored as the number, offered to scripts as the
-// literal's text when it holds the literal. A text is looked up through omu_PrimEnum, so that
-// anything but the literal is refused with the enumeration's message.
-template <class N, class E>
-struct fw_Traits<fw_OrLiteral<N, E>> {
-  using T = fw_OrLiteral<N, E>;
+// A number or a literal of E, held in T::value as the number's largest value (fw_OrLiteral and
+// its module-specific kin): stored as the number, offered to scripts as the literal's text when it
+// holds the sentinel. A text is looked up through omu_PrimEnum, so that anything but a literal of
+// E is refused with the enumeration's message.
+template <class T, class N, class E>
+struct fw_LiteralNumberTraits {
+  static constexpr N kSentinel = std::numeric_limits<N>::max();
   static constexpr int kType = fw_Traits<N>::kType, kCollection = cls_Single;
   static const omu_EnumLiteral* Literals() { return omu_LiteralTable(E{}); }
   static void Write(const cls_WriteVisitor& w, const char* n, const T& v) { fw_Traits<N>::Write(w, n, v.value); }
@@ -188,11 +189,37 @@ struct fw_Traits<fw_OrLiteral<N, E>> {
   static void WriteCell(cls_WriteCell& c, const T& v) { fw_Traits<N>::WriteCell(c, v.value); }
   static bool Equal(const T& a, const T& b) { return fw_Traits<N>::Equal(a.value, b.value); }
   static cls_Value Get(const T& v) {
-    return v.IsLiteral() ? cls_Value(fw_Traits<E>::Literal(E{})) : fw_Traits<N>::Get(v.value);
+    return v.value == kSentinel ? cls_Value(fw_Traits<E>::Literal(E{})) : fw_Traits<N>::Get(v.value);
   }
   static void Set(const char* n, T& m, const cls_Value& v) {
-    if (auto p = std::get_if<cow_String>(&v)) return void(m = T(omu_PrimEnum<E, 1>(*p).GetValue()));
-    fw_Traits<N>::Set(n, m.value, v);
+    if (auto p = std::get_if<cow_String>(&v)) {
+      (void)omu_PrimEnum<E, 1>(*p);  // refuses anything but a literal of E
+      return void(m.value = kSentinel);
+    }
+    N number = m.value;
+    fw_Traits<N>::Set(n, number, v);
+    m.value = number;
+  }
+};
+
+template <class N, class E>
+struct fw_Traits<fw_OrLiteral<N, E>> : fw_LiteralNumberTraits<fw_OrLiteral<N, E>, N, E> {};
+
+// A double that may be unspecified: null to scripts.
+template <>
+struct fw_Traits<fw_Unspecified> {
+  using T = fw_Unspecified;
+  static constexpr int kType = cls_AttrDouble, kCollection = cls_Single;
+  static constexpr bool kNullable = true;
+  static void Write(const cls_WriteVisitor& w, const char* n, const T& v) { w.WriteDouble(n, v.value); }
+  static void Read(const cls_ReadVisitor& r, const char* n, T& v) { v.value = r.ReadDouble(n); }
+  static void ReadCell(const char*, const cls_ReadCell& c, T& v) { v.value = c.number; }
+  static void WriteCell(cls_WriteCell& c, const T& v) { c.number = v.value; }
+  static bool Equal(const T& a, const T& b) { return fw_Traits<double>::Equal(a.value, b.value); }
+  static cls_Value Get(const T& v) { return v.IsUnspecified() ? cls_Value() : cls_Value(v.value); }
+  static void Set(const char* n, T& m, const cls_Value& v) {
+    if (std::holds_alternative<std::monostate>(v)) return void(m.value = T::kUnspecified);
+    fw_Traits<double>::Set(n, m.value, v);
   }
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 // kamC_SpectrumAmplitude, a response spectrum defined by a table or calculated from an event amplitude.
+#include "framework/fw_OrLiteral.h"
 #include "kam/kamC_Amplitude.h"
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_String.h"
@@ -81,9 +82,9 @@ class kamC_SpectrumAmplitude : public kamC_Amplitude {
   SpecificationUnitsEnm specificationUnits = SpecificationUnitsEnm::ACCELERATION;
   EventUnitsEnm eventUnits = EventUnitsEnm::EVENT_ACCELERATION;
   SolutionEnm solution = SolutionEnm::ABSOLUTE_VALUE;
-  double timeIncrement = kamC_kUnspecified;
-  double gravity = kamC_kUnspecified;
-  double criticalDamping = kamC_kUnspecified;
+  fw_Unspecified timeIncrement = kamC_kUnspecified;
+  fw_Unspecified gravity = kamC_kUnspecified;
+  fw_Unspecified criticalDamping = kamC_kUnspecified;
   cow_2DArray<double> data;
   cow_String amplitude;
 };

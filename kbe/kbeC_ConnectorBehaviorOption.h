@@ -3,6 +3,7 @@
 // damping, plasticity, friction, damage, failure, lock and stop. Lists, repositories and readers
 // hold options through this class; each kind writes, copies, validates and compares itself.
 #include <cstdint>
+#include <string_view>
 
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
@@ -24,6 +25,9 @@ class kbeC_ConnectorBehaviorOption : public mem_Allocated {
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
   virtual kbeC_ConnectorBehaviorOption* Copy() const = 0;
   virtual void AssertValid() const = 0;
+  // The member shortcuts' refusal of a step that names a member of other kinds of option
+  // ("options" on a lock); returns for any other name.
+  static void RefuseUnknownStep(const kbeC_ConnectorBehaviorOption& option, std::string_view step);
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;
   static void InitializeMetadata(cls_ClassRegistrar& registrar);

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "framework/fw_Field.h"
+#include "framework/fw_OrLiteral.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
 #include "kbe/kbeC_Values.h"
 #include "platform/base/cow_2DArray.h"
@@ -68,8 +69,8 @@ class kbeC_ConnectorFailure : public kbeC_ConnectorBehaviorOption {
  private:
   cow_List<std::int32_t> components;
   kbeC_ComponentOrAll<ReleaseComponentEnm> releaseComponent = kbeC_kAll;
-  double minMotion = kbeC_kUnspecified;
-  double maxMotion = kbeC_kUnspecified;
-  double minForce = kbeC_kUnspecified;
-  double maxForce = kbeC_kUnspecified;
+  fw_Unspecified minMotion = kbeC_kUnspecified;
+  fw_Unspecified maxMotion = kbeC_kUnspecified;
+  fw_Unspecified minForce = kbeC_kUnspecified;
+  fw_Unspecified maxForce = kbeC_kUnspecified;
 };

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "framework/fw_Field.h"
+#include "framework/fw_OrLiteral.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
 #include "kbe/kbeC_Values.h"
 #include "platform/base/cow_2DArray.h"
@@ -153,7 +154,7 @@ class kbeC_ConnectorFriction : public kbeC_ConnectorBehaviorOption {
   FrictionModelEnm frictionModel = FrictionModelEnm::PREDEFINED;
   SlipStyleEnm slipStyle = SlipStyleEnm::SPECIFY;
   std::int32_t tangentDirection = 1;
-  double stickStiffness = kbeC_kUnspecified;
+  fw_Unspecified stickStiffness = kbeC_kUnspecified;
   kbeC_StoredEnum<ComponentTypeEnm, kbeC_StoredComponentTypeEnm> componentType = ComponentTypeEnm::NO_INDEPENDENT_COMPONENTS;
   bool slipDependency = false;
   bool temperatureDependency = false;

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "framework/fw_Field.h"
+#include "framework/fw_OrLiteral.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
 #include "kbe/kbeC_Values.h"
 #include "platform/base/cow_2DArray.h"
@@ -55,6 +56,6 @@ class kbeC_ConnectorStop : public kbeC_ConnectorBehaviorOption {
 
  private:
   cow_List<std::int32_t> components;
-  double minMotion = kbeC_kUnspecified;
-  double maxMotion = kbeC_kUnspecified;
+  fw_Unspecified minMotion = kbeC_kUnspecified;
+  fw_Unspecified maxMotion = kbeC_kUnspecified;
 };

@@ -215,6 +215,26 @@ kbeC_DerivedComponent& kbeC_DerivedComponentMember::Modify(kbeC_ConnectorBehavio
   Refuse("DerivedComponent exists only for ConnectorFriction object.");
 }
 
+namespace {
+template <class Member>
+void kbeC_FindByStep(const kbeC_ConnectorBehaviorOption& o, std::string_view step) {
+  if (step == Member::kScriptName) Member::Find(o);  // refuses an option of the wrong kind
+}
+}  // namespace
+
+void kbeC_ConnectorBehaviorOption::RefuseUnknownStep(const kbeC_ConnectorBehaviorOption& o, std::string_view step) {
+  kbeC_FindByStep<kbeC_OptionsMember>(o, step);
+  kbeC_FindByStep<kbeC_InitiationOptionsMember>(o, step);
+  kbeC_FindByStep<kbeC_EvolutionOptionsMember>(o, step);
+  kbeC_FindByStep<kbeC_IsotropicOptionsMember>(o, step);
+  kbeC_FindByStep<kbeC_KinematicOptionsMember>(o, step);
+  kbeC_FindByStep<kbeC_InitiationPotentialsMember>(o, step);
+  kbeC_FindByStep<kbeC_EvolutionPotentialsMember>(o, step);
+  kbeC_FindByStep<kbeC_ConnectorPotentialsMember>(o, step);
+  kbeC_FindByStep<kbeC_TangentialBehaviorMember>(o, step);
+  kbeC_FindByStep<kbeC_DerivedComponentMember>(o, step);
+}
+
 // --- handles ------------------------------------------------------------------------------------
 
 kbeC_ConnectorBehaviorOptionShortcut kbeC_ConnectorBehaviorOptionShortcut::Ctor(const cls_ReadVisitor& r) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "framework/fw_Field.h"
+#include "framework/fw_OrLiteral.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/persist/cls_Uid.h"
 #include "kbe/kbeC_Values.h"
@@ -95,7 +96,7 @@ class kbeC_TangentialBehavior : public mem_Allocated {
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   ExponentialDecayDefinitionEnm exponentialDecayDefinition = ExponentialDecayDefinitionEnm::COEFFICIENTS;
-  double shearStressLimit = kbeC_kUnspecified;
+  fw_Unspecified shearStressLimit = kbeC_kUnspecified;
   MaximumElasticSlipEnm maximumElasticSlip = MaximumElasticSlipEnm::FRACTION;
   double fraction = 0.005;
   double absoluteDistance = 0.0;

@@ -22,23 +22,6 @@ struct fw_Traits<kbeC_StoredEnum<E, S>> {
   static void Set(const char* n, T& m, const cls_Value& v) { m = T(fw_Traits<E>::FromValue(n, v)); }
 };
 
+// A component number or "ALL": the generic number-or-literal conversion.
 template <class E>
-struct fw_Traits<kbeC_ComponentOrAll<E>> {
-  using T = kbeC_ComponentOrAll<E>;
-  static constexpr int kType = cls_AttrInt, kCollection = cls_Single;
-  static void Write(const cls_WriteVisitor& w, const char* n, const T& v) { w.WriteInt(n, v.value); }
-  static void Read(const cls_ReadVisitor& r, const char* n, T& v) { v = T(r.ReadInt(n)); }
-  static bool Equal(const T& a, const T& b) { return a.value == b.value; }
-  // Scripts see the stored number (2147483647 for "ALL"), so that what they get they can set.
-  static cls_Value Get(const T& v) { return v.value; }
-  // A number, or the literal "ALL" (checked by the enumeration, which refuses anything else).
-  static void Set(const char* n, T& m, const cls_Value& v) {
-    if (auto p = std::get_if<std::int32_t>(&v)) return void(m = T(*p));
-    if (auto p = std::get_if<cow_String>(&v)) {
-      omu_PrimEnum<E, 1> checked(*p);
-      (void)checked;
-      return void(m = T(kbeC_kAll));
-    }
-    fw_RefuseKind(n, v, "a component number or \"ALL\"");
-  }
-};
+struct fw_Traits<kbeC_ComponentOrAll<E>> : fw_LiteralNumberTraits<kbeC_ComponentOrAll<E>, std::int32_t, E> {};

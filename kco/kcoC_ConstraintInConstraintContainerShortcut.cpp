@@ -1,11 +1,10 @@
 #include "kco/kcoC_ConstraintInConstraintContainerShortcut.h"
 
 #include "kco/kcoC_assert.h"
+#include "platform/base/nex_Exception.h"
 
-kcoC_Constraint& kcoC_ConstraintInConstraintContainerShortcut::Get(ddr_Model& model) const {
-  if (const kcoC_ConstraintContainer* c = Owner().ConstGet(model)) {
-    kcoC_Assert(c->Size() != 0, kcoC_ContainerEmpty);
-    kcoC_Assert(c->Has(GetKey()), kcoC_ConstraintMissing);
-  }
-  return ddr_SequenceShortcut::Get(model);  // refuses a model without the container
+void kcoC_RefuseMissingConstraint(std::size_t count) {
+  kcoC_Assert(count != 0, kcoC_ContainerEmpty);
+  kcoC_Assert(false, kcoC_ConstraintMissing);
+  nex_ThrowCmd("unreachable");  // kcoC_Assert(false, ...) always throws
 }

@@ -1,6 +1,7 @@
 #pragma once
 // A constraint by name inside its container. Resolving it for modification refuses an empty
-// container and a missing name with the module's own messages.
+// container and a missing name with the module's own messages (the container's own refusal, which
+// every lookup by name shares).
 #include "framework/fw_Field.h"
 #include "kco/kcoC_ConstraintContainerInModelShortcut.h"
 #include "kco/kcoC_ConstraintContainerShortcut.h"
@@ -17,6 +18,4 @@ class kcoC_ConstraintInConstraintContainerShortcut
   // The constraint of that name in the model's own container.
   explicit kcoC_ConstraintInConstraintContainerShortcut(const cow_String& name)
       : ddr_SequenceShortcut(kcoC_ConstraintContainerInModelShortcut(), name) {}
-
-  kcoC_Constraint& Get(ddr_Model& model) const override;
 };

@@ -115,7 +115,7 @@ class kefC_PointFastener : public kefC_Fastener {
   rgnC_Region targetSurface;
   cow_List<rgnC_Region> targetSurfaces;
   cow_List<double> directionVector;  // two points, six coordinates; empty for the normals
-  double searchRadius = kefC_kUnspecified;  // unspecified: the solver's default
+  fw_Unspecified searchRadius = kefC_kUnspecified;  // unspecified: the solver's default
   fw_OrLiteral<std::int32_t, kefC_AllEnum> maximumLayers;  // "ALL" (the default) or a number
   bool adjustOrientation = true;
   bool unsorted = false;

@@ -1,6 +1,7 @@
 #pragma once
 // An extended finite element crack in a domain, with its initial location and the per-element
 // crack data.
+#include "framework/fw_OrLiteral.h"
 #include <cstdint>
 
 #include "kef/kefC_Crack.h"
@@ -78,7 +79,7 @@ class kefC_XFEMCrack : public kefC_Crack {
   rgnC_Region crackDomain;
   rgnC_Region crackLocation;
   bool allowCrackGrowth = true;
-  double singularityCalcRadius = kefC_kUnspecified;  // unspecified: no singularity
+  fw_Unspecified singularityCalcRadius = kefC_kUnspecified;  // unspecified: no singularity
   cow_String interactionProperty;
   cow_List<std::int32_t> elemId;
   cow_List<std::int32_t> nodeId;

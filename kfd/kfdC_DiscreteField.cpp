@@ -48,8 +48,13 @@ void kfdC_DiscreteField::AssertPartLevelUse() const {
   kfdC_Assert(!dataTable.HasInstanceInformation(), kfdC_PartLevelWithInstances);
 }
 
+void kfdC_RefuseMissingDiscreteField(std::size_t) {
+  kfdC_Assert(false, kfdC_NoSuchDiscreteField);
+  nex_ThrowCmd("unreachable");  // kfdC_Assert(false, ...) always throws
+}
+
 const kfdC_DiscreteField& kfdC_GetDiscreteField(const kfdC_DiscreteFieldContainer& fields, const cow_String& name) {
   const kfdC_DiscreteField* f = fields.Fields().ConstGet(name);
-  kfdC_Assert(f != nullptr, kfdC_NoSuchDiscreteField);
+  if (!f) fields.Fields().RefuseMissingKey(name);
   return *f;
 }

@@ -2,6 +2,7 @@
 // One particle kind of a porous electrode: its radius (blank until given), its data table (the
 // open-circuit potential over the state of charge) and the solid-phase diffusion and electrical
 // conduction of the particle as sub-options.
+#include "framework/fw_OrLiteral.h"
 #include <limits>
 
 #include "kma/kmaC_MaterialOption.h"
@@ -72,7 +73,7 @@ class kmaC_ElectrodeParticle : public kmaC_MaterialOption {
   bool SameAs(const kmaC_MaterialOption& o) const override;
 
  private:
-  double radius = std::numeric_limits<double>::max();
+  fw_Unspecified radius = std::numeric_limits<double>::max();
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;

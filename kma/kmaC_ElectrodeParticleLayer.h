@@ -2,6 +2,7 @@
 // One layer of a porous electrode through its thickness: the layer's thickness (blank until
 // given), the number of elements across it and its data table (the particle volume fractions of
 // the layer).
+#include "framework/fw_OrLiteral.h"
 #include <limits>
 
 #include "kma/kmaC_MaterialOption.h"
@@ -64,7 +65,7 @@ class kmaC_ElectrodeParticleLayer : public kmaC_MaterialOption {
   bool SameAs(const kmaC_MaterialOption& o) const override;
 
  private:
-  double thickness = std::numeric_limits<double>::max();
+  fw_Unspecified thickness = std::numeric_limits<double>::max();
   std::int32_t numElements = 1;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;

@@ -8,6 +8,7 @@
 // table holds, per row, the data the orientation kind needs: a direction (3 columns) for FIXED,
 // the normal of the plane (3 columns) for RANDOM_2D, the six components a11 a22 a33 a12 a13 a23 of
 // the second-order orientation tensor for ORIENTATION_TENSOR, and nothing for RANDOM_3D.
+#include "framework/fw_OrLiteral.h"
 #include <limits>
 
 #include "kma/kmaC_MaterialTable.h"
@@ -107,10 +108,10 @@ class kmaC_FieldConstituent : public mem_Allocated {
   cls_Uid uid;
   cow_String material;
   TypeEnm type = TypeEnm::INCLUSION;
-  double volumeFraction = kBlank;
-  double isotropizationCoefficient = kBlank;
+  fw_Unspecified volumeFraction = kBlank;
+  fw_Unspecified isotropizationCoefficient = kBlank;
   ShapeEnm shape = ShapeEnm::SPHERE;
-  double aspectRatio = kBlank;
+  fw_Unspecified aspectRatio = kBlank;
   OrientationEnm orientation = OrientationEnm::RANDOM_3D;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;

@@ -13,8 +13,9 @@ struct IsSlot<kmaC_OptionSlot<Class>> : std::true_type {};
 
 static_assert(std::tuple_size_v<decltype(kmaC_Material::Fields())> == kmaC_Material::kSlotCount + 2);
 
-[[noreturn]] void RefuseSlot() { nex_ThrowCmd("Unknown material option"); }
 }  // namespace
+
+void kmaC_Material::RefuseSlot() { nex_ThrowCmd("Unknown material option"); }
 
 kmaC_Material::kmaC_Material(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
 void kmaC_Material::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }

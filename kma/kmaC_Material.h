@@ -137,6 +137,9 @@ class kmaC_Material : public mem_Allocated {
 
   // Any slot by its scripting name. Unknown names are refused with "Unknown material option".
   static bool IsSlotName(std::string_view slot);
+  // The slot shortcut's refusal of a step that names nothing of a material.
+  [[noreturn]] static void RefuseUnknownStep(const kmaC_Material&, std::string_view) { RefuseSlot(); }
+  [[noreturn]] static void RefuseSlot();
   const kmaC_MaterialOption* GetOption(std::string_view slot) const;
   // The option for modification (separated from copies first); null when the slot is empty.
   kmaC_MaterialOption* ModifyOption(std::string_view slot);

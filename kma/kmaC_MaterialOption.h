@@ -35,6 +35,9 @@ class kmaC_MaterialOption : public mem_Allocated {
   // The list member of that scripting name ("uniaxialTests"), or null for an option without it.
   virtual const kmaC_MaterialOptionList* OptionList(std::string_view) const { return nullptr; }
   virtual kmaC_MaterialOptionList* ModifyOptionList(std::string_view) { return nullptr; }
+  // The option shortcuts' refusal of a step that names nothing of the option: a list member of
+  // another kind of option with that list's message, any other name with the option's own.
+  [[noreturn]] static void RefuseUnknownStep(const kmaC_MaterialOption& option, std::string_view step);
 
   // True when the object's class is the given one or derives from it.
   bool IsA(unsigned typeId) const;

@@ -5,6 +5,7 @@
 
 #include "kma/kmaC_MaterialOptionInMaterialOptionShortcut.h"
 #include "kma/kmaC_MaterialOptionInMaterialShortcut.h"
+#include "kma/kmaC_OptionListShortcuts.h"
 #include "platform/base/nex_Exception.h"
 #include "platform/persist/cls_ClassMetadata.h"
 #include "platform/persist/cls_Family.h"
@@ -35,10 +36,26 @@ const cls_ScriptField& SubOptionField(const kmaC_MaterialOption& option, const c
   const cls_ScriptField* f = md.FindScriptField(name.view());
   const bool isOption = f && f->type == cls_AttrObject &&
                         (!f->declared || std::string_view(f->declared->RootName()) == kmaC_MaterialOption::kClassName);
-  if (!isOption) nex_ThrowCmd(option.UnknownSubOptionMessage());
+  if (!isOption) kmaC_MaterialOption::RefuseUnknownStep(option, name.view());
   return *f;
 }
+
+template <class Names>
+bool kmaC_RefuseListOfOtherOwner(const kmaC_MaterialOption& option, std::string_view step) {
+  if (step != Names::kMember || option.OptionList(step)) return false;
+  nex_ThrowCmd(Names::kRefusal);
+}
 }  // namespace
+
+void kmaC_MaterialOption::RefuseUnknownStep(const kmaC_MaterialOption& option, std::string_view step) {
+  kmaC_RefuseListOfOtherOwner<kmaC_UniaxialTestsListNames>(option, step);
+  kmaC_RefuseListOfOtherOwner<kmaC_BiaxialTestsListNames>(option, step);
+  kmaC_RefuseListOfOtherOwner<kmaC_PlanarTestsListNames>(option, step);
+  kmaC_RefuseListOfOtherOwner<kmaC_DamageEvolutionListNames>(option, step);
+  kmaC_RefuseListOfOtherOwner<kmaC_ElectrodeParticleListNames>(option, step);
+  kmaC_RefuseListOfOtherOwner<kmaC_ElectrodeParticleLayerListNames>(option, step);
+  nex_ThrowCmd(option.UnknownSubOptionMessage());
+}
 
 // --- a slot of a material ---------------------------------------------------------------------
 

@@ -1,6 +1,7 @@
 #pragma once
 // Metal plasticity: the hardening law, the yield data table and seven optional sub-options. The
 // rules tie the table's layout and the permitted sub-options to the hardening law.
+#include "framework/fw_OrLiteral.h"
 #include <limits>
 
 #include "kma/kmaC_MaterialOption.h"
@@ -175,7 +176,7 @@ class kmaC_Plastic : public kmaC_MaterialOption {
   kmaC_OptionSlot<kmaC_OptionClass::TensileFailure> tensileFailure;
   std::int32_t properties = 0;
   // The largest finite double: no stress scale was set.
-  double scaleStress = std::numeric_limits<double>::max();
+  fw_Unspecified scaleStress = std::numeric_limits<double>::max();
   bool staticRecovery = false;
   ExtrapolationEnm extrapolation = ExtrapolationEnm::CONSTANT;
 };

@@ -121,6 +121,13 @@ void BindDatabase(py::module_& m) {
       })
       .def("advise", [](const Database& db) { return Advise(*db.session, cmd_Path{}); },
            "The warnings of the advice on every object of every model: dicts of path, member, code and message.")
+      .def("undo", [](const Database& db) { return FromJson(Run(*db.session, cmd_Json{{"op", "undo"}})); },
+           "Undoes the last command that changed the database (or the last transaction); returns the depths "
+           "of the history as {\"undo\": n, \"redo\": m}.")
+      .def("redo", [](const Database& db) { return FromJson(Run(*db.session, cmd_Json{{"op", "redo"}})); },
+           "Redoes the last command undone.")
+      .def("_bracket", [](const Database& db, const std::string& op) { Run(*db.session, cmd_Json{{"op", op}}); })
+      .def_property_readonly("in_transaction", [](const Database& db) { return db.session->InTransaction(); })
       .def("validate", [](const Database& db) { return FromJson(Run(*db.session, Command("validate", cmd_Path{}))); },
            "Validates every object of every model.")
       .def("execute",

@@ -32,14 +32,18 @@ void CreateErrors(py::module_& m) {
 class Error(Exception):
     """An error of the attribute library: the system's exact message, its kind ("PrimException",
     "CmdException", ...), the source file and line that reported it, and for a failed validation
-    of a repository or model the path of the first failing object."""
-    def __init__(self, message, kind="", file="", line=0, path=None):
+    of a repository or model the path of the first failing object; for a path or member that
+    named nothing, the path that resolved, the member (or key) that did not and the candidates,
+    the names that would have been valid there."""
+    def __init__(self, message, kind="", file="", line=0, path=None, member=None, candidates=None):
         super().__init__(message)
         self.message = message
         self.kind = kind
         self.file = file
         self.line = line
         self.path = path
+        self.member = member
+        self.candidates = candidates
     def __str__(self):
         return self.message
 
@@ -63,11 +67,12 @@ class NotFoundError(CommandError, KeyError):
 }
 
 void Raise(const std::string& kind, const std::string& message, const std::string& file, int line,
-           const cmd_Json& path, const char* flavour) {
+           const cmd_Json& path, const char* flavour, const cmd_Json& member, const cmd_Json& candidates) {
   const char* name = kind == "PrimException" ? "ValidationError" : kind == "CmdException" ? "CommandError" : "Error";
   if (flavour && kind == "CmdException") name = flavour;
   py::object cls = Errors()[name];
-  py::object err = cls(message, kind, file, line, path.is_null() ? py::object(py::none()) : FromJson(path));
+  py::object err = cls(message, kind, file, line, path.is_null() ? py::object(py::none()) : FromJson(path),
+                       FromJson(member), candidates.is_null() ? py::object(py::none()) : FromJson(candidates));
   PyErr_SetObject(cls.ptr(), err.ptr());
   throw py::error_already_set();
 }
@@ -75,7 +80,8 @@ void Raise(const std::string& kind, const std::string& message, const std::strin
 void RaiseError(const cmd_Json& error, const char* flavour) {
   const cmd_Json path = error.contains("path") ? error["path"] : cmd_Json();
   Raise(error.value("kind", std::string()), error.value("message", std::string()), error.value("file", std::string()),
-        error.value("line", 0), path, flavour);
+        error.value("line", 0), path, flavour, error.contains("member") ? error["member"] : cmd_Json(),
+        error.contains("candidates") ? error["candidates"] : cmd_Json());
 }
 
 namespace {

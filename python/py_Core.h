@@ -8,6 +8,7 @@
 #include <pybind11/pybind11.h>
 
 #include "command/cmd_Json.h"
+#include "command/cmd_Path.h"
 #include "platform/base/QMXBasException.h"
 
 namespace qmxpy {
@@ -31,7 +32,8 @@ void CreateErrors(py::module_& m);
 // "PrimException", a command error for a "CmdException"; `flavour` picks a subclass that also is
 // an AttributeError ("member") or a KeyError ("key").
 [[noreturn]] void Raise(const std::string& kind, const std::string& message, const std::string& file, int line,
-                        const cmd_Json& path = nullptr, const char* flavour = nullptr);
+                        const cmd_Json& path = nullptr, const char* flavour = nullptr, const cmd_Json& member = nullptr,
+                        const cmd_Json& candidates = nullptr);
 [[noreturn]] void RaiseError(const cmd_Json& error, const char* flavour = nullptr);
 
 // Runs fn, turning the library's exceptions into the module's.
@@ -39,11 +41,18 @@ template <class F>
 auto Guarded(F&& fn, const char* flavour = nullptr) -> decltype(fn()) {
   try {
     return fn();
+  } catch (const cmd_StepError& e) {
+    // A step that named nothing: where the path stopped, the step, and what was valid there.
+    cmd_Json at = cmd_Json::array();
+    for (const auto& s : e.At()) at.push_back(s.str());
+    Raise(e.Kind(), e.Message(), e.File(), e.Line(), at, flavour, e.Step(), cmd_Json(e.Candidates()));
   } catch (const QMXBasException& e) {
     Raise(e.Kind(), e.Message(), e.File(), e.Line(), nullptr, flavour);
   } catch (const cmd_MemberError& e) {
     // A member given to a constructor or an assignment failed: its path is the members leading to it.
-    Raise(e.kind, e.message, e.file, e.line, cmd_Json(e.members), flavour);
+    Raise(e.kind, e.message, e.file, e.line, cmd_Json(e.members), flavour,
+          e.members.empty() ? cmd_Json() : cmd_Json(e.members.back()),
+          e.candidates.empty() ? cmd_Json() : cmd_Json(e.candidates));
   }
 }
 

@@ -56,15 +56,15 @@ const Object& Live(const Object& o) {
   return o;
 }
 
+// The member of that name, found as the command layer finds it, so that an unknown name is refused
+// with the class's own message ("Unknown material option") where it has one. The refusal depends
+// on the class alone, so an object the class makes stands in for the one addressed.
 const cls_ScriptField& FieldOf(const cls_ClassMetadata& md, const std::string& name) {
-  const cls_ScriptField* f = md.FindScriptField(name);
-  if (!f) {
-    std::string names;
-    for (const auto& sf : md.ScriptFields()) names += (names.empty() ? "" : ", ") + std::string(sf.scriptName);
-    Raise("CmdException", cmd_ClassLabel(md) + " has no member \"" + name + "\"; its members are " +
-          (names.empty() ? "none" : names), "py_Object.cpp", __LINE__, nullptr, "MemberError");
-  }
-  return *f;
+  if (const cls_ScriptField* f = md.FindScriptField(name)) return *f;
+  return Guarded([&]() -> const cls_ScriptField& {
+    cmd_OwnedObject probe(md.CanConstruct() ? md.NewDefault() : nullptr, cmd_ObjectDeleter{&md});
+    return cmd_FindMember(probe.get(), md, name, {});
+  }, "MemberError");
 }
 
 const char* ConstructorKey(const cls_ClassMetadata& md) { return md.FindScriptField("type") ? "$type" : "type"; }

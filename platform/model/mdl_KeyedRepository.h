@@ -149,7 +149,7 @@ class mdl_KeyedRepository : public mem_Allocated,
   // For modification: separates a shared element and records "Modify".
   T& Get(const Key& key) {
     Handle* h = items_.Modify(key);  // copies the path to the key if the tree is shared
-    if (!h) nex_ThrowCmd("There is no \"" + KeyPolicy::Text(key).str() + "\" in " + Names::kRepositoryName);
+    if (!h) this->RefuseMissingKey(KeyPolicy::Text(key));
     T& obj = h->Get();
     Record("Modify", key);
     return obj;

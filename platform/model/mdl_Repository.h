@@ -36,6 +36,10 @@ class mdl_Repository {
   virtual void InsertNew(const cow_String& key, void* owned) = 0;
   // Recorded as "Remove"; false when the key is absent.
   virtual bool RemoveKey(const cow_String& key) = 0;
+  // Refuses a key the repository does not hold: with the owning module's own message when its
+  // shortcuts have one (the repository's traits give it), else with the framework's. Every lookup
+  // by key goes through here: the typed Get, the shortcuts and the command layer's paths.
+  [[noreturn]] virtual void RefuseMissingKey(const cow_String& key) const;
   // The number of elements.
   virtual std::size_t Count() const { return Keys().size(); }
   // True for a list whose keys are positions: InsertNew then inserts before the element at the

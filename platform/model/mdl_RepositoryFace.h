@@ -34,6 +34,10 @@ class mdl_RepositoryFace : public mdl_Repository {
     cow_COW<T, cow_Virtual<T>> h(static_cast<T*>(static_cast<cls_Root<T>*>(owned)));
     Self().InsertHandle(Derived::KeyOf(text), std::move(h));
   }
+  [[noreturn]] void RefuseMissingKey(const cow_String& key) const override {
+    if constexpr (requires(std::size_t n) { Derived::Names::RefuseMissing(n); }) Derived::Names::RefuseMissing(Count());
+    mdl_Repository::RefuseMissingKey(key);
+  }
   bool RemoveKey(const cow_String& text) override {
     auto k = Derived::ParseKey(text);
     return k && Self().Remove(*k);

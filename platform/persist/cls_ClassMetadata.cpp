@@ -61,6 +61,7 @@ cls_Uid cls_ClassMetadata::UidOf(const void*) const { return cls_Uid::Null(); }
 const cls_ClassMetadata& cls_ClassMetadata::ClassOf(const void*) const { return *this; }
 mdl_Repository* cls_ClassMetadata::AsRepository(void*) const { return nullptr; }
 const mdl_Repository* cls_ClassMetadata::AsRepository(const void*) const { return nullptr; }
+void cls_ClassMetadata::RefuseUnknownStep(const void*, std::string_view) const {}
 
 void cls_ClassMetadata::Destroy(void* obj) const {
   if (!obj) return;

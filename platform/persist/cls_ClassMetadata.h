@@ -31,7 +31,7 @@ struct cls_ScriptField {
   int type;                          // cls_AttrType
   const omu_EnumLiteral* literals;   // enumerations, and numbers that may hold a literal
   const cls_ClassMetadata* declared; // object members only: the declared class (may be a base)
-  bool optional;                     // object members only: may be null
+  bool optional;                     // object members and numbers that may be unspecified: may be null
   cls_Value (*get)(const void* obj);
   // Refuses a value of the wrong kind or an unknown literal with a nex_CmdException and leaves
   // the object unchanged.
@@ -95,6 +95,11 @@ class cls_ClassMetadata {
   virtual mdl_Repository* AsRepository(void* obj) const;
   virtual const mdl_Repository* AsRepository(const void* obj) const;
   void Destroy(void* obj) const;
+  // A step of a path that names no member of obj (an instance of this class): throws the
+  // refusal of the class's own shortcuts when they have one ("Unknown material option"), and
+  // returns otherwise, leaving the refusal to the caller. Shared by the shortcuts and every
+  // generic walk of paths, so that the refusal is the same wherever the path came from.
+  virtual void RefuseUnknownStep(const void* obj, std::string_view step) const;
 
  private:
   cow_String name_;

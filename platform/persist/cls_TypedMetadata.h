@@ -70,6 +70,11 @@ class cls_TypedMetadata : public cls_ClassMetadata {
     if constexpr (requires(const C& c) { c.RepositoryFace(); }) return Obj(p).RepositoryFace();
     else return nullptr;
   }
+  // A class (or the base of a family) that refuses unknown steps itself declares
+  // static void RefuseUnknownStep(const Base&, std::string_view).
+  void RefuseUnknownStep(const void* p, std::string_view step) const override {
+    if constexpr (requires(const C& c, std::string_view s) { C::RefuseUnknownStep(c, s); }) C::RefuseUnknownStep(Obj(p), step);
+  }
 
  protected:
   static const C& Obj(const void* p) { return *static_cast<const C*>(static_cast<const Root*>(p)); }

@@ -19,6 +19,33 @@ __all__ = ["Database", "Model", "Repository", "Object", "Error", "ValidationErro
            "MemberError", "NotFoundError", "constructors"]
 
 
+class _Transaction:
+    """All of the changes made inside it or none: committed when the block ends, rolled back when
+    an exception leaves it (a failed command of the library has already rolled it back)."""
+
+    def __init__(self, db):
+        self._db = db
+
+    def __enter__(self):
+        self._db._bracket("begin")
+        return self._db
+
+    def __exit__(self, exc_type, exc, tb):
+        if exc_type is None:
+            self._db._bracket("commit")
+        elif self._db.in_transaction:
+            self._db._bracket("rollback")
+        return False
+
+
+def _transaction(self):
+    """with db.transaction(): ... applies every change of the block, or none of them."""
+    return _Transaction(self)
+
+
+Database.transaction = _transaction
+
+
 def _make_class(ctor):
     members = tuple(_core.class_members(ctor))
 

@@ -66,11 +66,12 @@ TEST_F(ErrorPathTest, AnEnumerationRefusalKeepsItsMessageAndSaysWhichMemberOfWhi
   }
 }
 
-TEST_F(ErrorPathTest, ARefusalOfThePathCarriesTheCommandsPathAndNoMember) {
-  const cmd_Json e = cmdT_Fails(s, R"({"op":"get","path":["M","adaptiveMeshControls","C-9"]})");
+TEST_F(ErrorPathTest, ARefusalOfThePathCarriesWhereItStoppedTheStepAndTheCandidates) {
+  const cmd_Json e = cmdT_Fails(s, R"({"op":"get","path":["M","adaptiveMeshControls","C-9","remapping"]})");
   EXPECT_EQ(e["message"], R"(There is no "C-9" in adaptiveMeshControls)");
-  EXPECT_EQ(e["path"], cmd_Json::parse(R"(["M","adaptiveMeshControls","C-9"])"));
-  EXPECT_FALSE(e.contains("member"));
+  EXPECT_EQ(e["path"], cmd_Json::parse(R"(["M","adaptiveMeshControls"])"));
+  EXPECT_EQ(e["member"], "C-9");
+  EXPECT_EQ(e["candidates"], cmd_Json::parse(R"(["C-1"])"));
   // A wrong kind of value is the member's refusal too.
   const cmd_Json k = cmdT_Fails(s, R"({"op":"set","path":["M","adaptiveMeshControls","C-1"],"values":{"curvatureRefinement":"2"}})");
   EXPECT_EQ(k["message"], R"(The member "curvatureRefinement" of AdaptiveMeshControl takes a number, not the string "2")");

@@ -65,7 +65,7 @@ TEST_F(LineTest, EachBadLineIsItsOwnErrorAndTheSessionGoesOn) {
        R"(The command holds a string with a NUL character (\u0000), which no name, key or value may hold: )"
        R"("x.db\u0000.txt")"},
       {R"({"op":"frobnicate","path":["M"]})",
-       R"(Unknown op "frobnicate"; the ops are create, set, get, list, delete, validate, save, open)"},
+       R"(Unknown op "frobnicate"; the ops are create, set, get, list, delete, validate, save, open, undo, redo, begin, commit, rollback, transaction)"},
   };
   const ddr_Database before = s.Database();
   std::size_t number = 10;

@@ -105,7 +105,7 @@ TEST_F(KbePersistence, ScriptsBuildSectionsByName) {
                R"({"type":"ConnectorLock","components":[1],"lockingComponent":2147483647,"maxForce":10},)"
                R"({"type":"ConnectorFriction","componentType":"NO_INDEPENDENT_COMPONENTS","tangentDirection":3}]}})");
   ASSERT_TRUE(r["ok"].get<bool>()) << r.dump();
-  EXPECT_EQ(run(R"({"op":"get","path":["Model-1","connectorSections","B","behaviorOptions",0,"lockingComponent"]})")["result"], 2147483647);
+  EXPECT_EQ(run(R"({"op":"get","path":["Model-1","connectorSections","B","behaviorOptions",0,"lockingComponent"]})")["result"], "ALL");
   EXPECT_EQ(run(R"({"op":"get","path":["Model-1","connectorSections","B","behaviorOptions",1,"componentType"]})")["result"],
             "NO_INDEPENDENT_COMPONENTS");
   // Refusals: the stored literal, an unknown choice for "ALL"; nothing changes.

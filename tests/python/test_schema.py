@@ -61,3 +61,28 @@ DOMAIN = '"path":["Model-1","adaptiveMeshDomains","D-9"]'
 ])
 def test_lines_the_tool_refuses_do_not_fit(schema, line):
     assert not jsonschema.Draft202012Validator(schema).is_valid(json.loads(line))
+
+
+def test_numbers_offer_their_literal_or_null(schema):
+    lock = schema["$defs"]["ConnectorLock"]["properties"]
+    assert {"type": "string", "enum": ["ALL"]} in lock["lockingComponent"]["anyOf"]
+    assert lock["lockingComponent"]["default"] == "ALL"
+    assert {"type": "null"} in lock["minMotion"]["anyOf"]
+    assert lock["minMotion"]["default"] is None
+    validator = jsonschema.Draft202012Validator(schema)
+    section = '{"op":"set","path":["M","connectorSections","S"],"type":"ConnectorSection","values":{"behaviorOptions":[%s]}}'
+    assert validator.is_valid(json.loads(section % '{"type":"ConnectorLock","lockingComponent":"ALL","minMotion":null}'))
+    assert not validator.is_valid(json.loads(section % '{"type":"ConnectorLock","lockingComponent":"all"}'))
+    assert not validator.is_valid(json.loads(section % '{"type":"ConnectorLock","lockingComponent":null}'))
+
+
+@pytest.mark.parametrize("line, fits", [
+    ('{"op":"undo"}', True),
+    ('{"op":"rollback"}', True),
+    ('{"op":"transaction","commands":[{"op":"create","path":["M"]},{"op":"get","path":["M"]}]}', True),
+    ('{"op":"undo","path":[]}', False),
+    ('{"op":"transaction"}', False),
+    ('{"op":"transaction","commands":[{"op":"explode"}]}', False),
+])
+def test_history_lines(schema, line, fits):
+    assert jsonschema.Draft202012Validator(schema).is_valid(json.loads(line)) == fits

@@ -44,12 +44,9 @@ const std::string& Dir() {
 std::int64_t Tables(std::int64_t n) { return n / 10; }
 std::int64_t Controls(std::int64_t n) { return n - Tables(n); }
 
-const ddr_Database& Database(std::int64_t n) {
-  static std::map<std::int64_t, std::unique_ptr<ddr_Database>> cache;
-  auto& slot = cache[n];
-  if (slot) return *slot;
+std::unique_ptr<ddr_Database> BuildDatabase(std::int64_t n) {
   bnhT_Start();
-  slot = std::make_unique<ddr_Database>();
+  auto slot = std::make_unique<ddr_Database>();
   ddr_Model& m = slot->CreateModel("Model-1");
   auto& controls = dynamic_cast<kadC_AdptMeshCtrlCont&>(*m.ModifyRepository("adaptiveMeshControls"));
   for (std::int64_t i = 0; i < Controls(n); ++i) {
@@ -72,6 +69,13 @@ const ddr_Database& Database(std::int64_t n) {
     }
     tables.Insert("T-" + std::to_string(i), t);
   }
+  return slot;
+}
+
+const ddr_Database& Database(std::int64_t n) {
+  static std::map<std::int64_t, std::unique_ptr<ddr_Database>> cache;
+  auto& slot = cache[n];
+  if (!slot) slot = BuildDatabase(n);
   return *slot;
 }
 

@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "platform/base/cow_String.h"
@@ -16,8 +17,11 @@ namespace bnhT {
 const std::string& Dir();
 std::int64_t Tables(std::int64_t n);
 std::int64_t Controls(std::int64_t n);
-// One model: controls "C-i" with varied values and tables "T-i" of 16 rows by 2 columns.
+// One model: controls "C-i" with varied values and tables "T-i" of 16 rows by 2 columns, built
+// once per size and kept.
 const ddr_Database& Database(std::int64_t n);
+// The same model built anew, for measures that need its making or their own copy.
+std::unique_ptr<ddr_Database> BuildDatabase(std::int64_t n);
 
 // SQLite calls that must succeed (a failure ends the program: a benchmark has no one to tell).
 void Check(int rc, sqlite3* db);

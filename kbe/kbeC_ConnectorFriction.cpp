@@ -11,18 +11,8 @@ void kbeC_ConnectorFriction::DBWrite(const cls_WriteVisitor& w) const { fw_Write
 kbeC_ConnectorFriction* kbeC_ConnectorFriction::Copy() const { return new kbeC_ConnectorFriction(*this); }
 bool kbeC_ConnectorFriction::operator==(const kbeC_ConnectorFriction& o) const { return fw_EqualFields(*this, o); }
 bool kbeC_ConnectorFriction::SameAs(const kbeC_ConnectorBehaviorOption& o) const { return *this == static_cast<const kbeC_ConnectorFriction&>(o); }
-namespace {
-struct kbeFriction_Potentials {
-  using C = kbeC_ConnectorFriction;
-  static constexpr const char* kList = "connectorPotentials";
-  static constexpr const char* kLastId = "lastId";
-  static std::size_t Count(const C& c) { return c.GetConnectorPotentials().size(); }
-  static std::int32_t Last(const C& c) { return c.GetLastId(); }
-  static void Grow(C& c, std::int32_t n) { c.SetLastId(c.GetLastId() + n); }
-};
-}  // namespace
 void kbeC_ConnectorFriction::InitializeMetadata(cls_ClassRegistrar& r) {
-  kbeC_InitializePotentialIdMetadata<kbeC_ConnectorFriction, kbeFriction_Potentials>(r);
+  kbeC_InitializePotentialIdMetadata<kbeC_ConnectorFriction, kbeC_PlainPotentialIds<kbeC_ConnectorFriction>>(r);
 }
 void kbeC_ConnectorFriction::CowDtor(void* p) { fw_CowDtor<kbeC_ConnectorFriction>(p); }
 const kbeC_TangentialBehavior& kbeC_ConnectorFriction::GetTangentialBehavior() const { return kbeC_Present(tangentialBehavior, "tangentialBehavior"); }

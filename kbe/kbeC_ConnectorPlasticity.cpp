@@ -11,18 +11,8 @@ void kbeC_ConnectorPlasticity::DBWrite(const cls_WriteVisitor& w) const { fw_Wri
 kbeC_ConnectorPlasticity* kbeC_ConnectorPlasticity::Copy() const { return new kbeC_ConnectorPlasticity(*this); }
 bool kbeC_ConnectorPlasticity::operator==(const kbeC_ConnectorPlasticity& o) const { return fw_EqualFields(*this, o); }
 bool kbeC_ConnectorPlasticity::SameAs(const kbeC_ConnectorBehaviorOption& o) const { return *this == static_cast<const kbeC_ConnectorPlasticity&>(o); }
-namespace {
-struct kbePlasticity_Potentials {
-  using C = kbeC_ConnectorPlasticity;
-  static constexpr const char* kList = "connectorPotentials";
-  static constexpr const char* kLastId = "lastId";
-  static std::size_t Count(const C& c) { return c.GetConnectorPotentials().size(); }
-  static std::int32_t Last(const C& c) { return c.GetLastId(); }
-  static void Grow(C& c, std::int32_t n) { c.SetLastId(c.GetLastId() + n); }
-};
-}  // namespace
 void kbeC_ConnectorPlasticity::InitializeMetadata(cls_ClassRegistrar& r) {
-  kbeC_InitializePotentialIdMetadata<kbeC_ConnectorPlasticity, kbePlasticity_Potentials>(r);
+  kbeC_InitializePotentialIdMetadata<kbeC_ConnectorPlasticity, kbeC_PlainPotentialIds<kbeC_ConnectorPlasticity>>(r);
 }
 void kbeC_ConnectorPlasticity::CowDtor(void* p) { fw_CowDtor<kbeC_ConnectorPlasticity>(p); }
 const kbeC_ConnectorOptions& kbeC_ConnectorPlasticity::GetIsotropicOptions() const { return kbeC_Present(isotropicOptions, "isotropicOptions"); }

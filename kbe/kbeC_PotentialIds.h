@@ -53,6 +53,17 @@ struct kbeC_PotentialIdKeeper {
   }
 };
 
+// The plain list of an option that holds one: "connectorPotentials" counted by "lastId".
+template <class Option>
+struct kbeC_PlainPotentialIds {
+  using C = Option;
+  static constexpr const char* kList = "connectorPotentials";
+  static constexpr const char* kLastId = "lastId";
+  static std::size_t Count(const C& c) { return c.GetConnectorPotentials().size(); }
+  static std::int32_t Last(const C& c) { return c.GetLastId(); }
+  static void Grow(C& c, std::int32_t n) { c.SetLastId(c.GetLastId() + n); }
+};
+
 // The metadata of an option with potential lists: the scripting fields of its field table, with
 // the lists and their last ids kept as above.
 template <class C, class... Lists>

@@ -233,7 +233,8 @@ bool IsConstructorKey(const cls_ClassMetadata& md, const std::string& key) {
   return key == "$type" || (key == "type" && !md.FindScriptField("type"));
 }
 
-void SetMembers(void* obj, const cls_ClassMetadata& md, const cmd_Json& values, const std::string& skip) {
+// `made`: the object is being made here, so that its read-only members may be given.
+void SetMembers(void* obj, const cls_ClassMetadata& md, const cmd_Json& values, const std::string& skip, bool made) {
   if (!values.is_object()) cmd_Refuse("The values of " + cmd_ClassLabel(md) + " must be a JSON object keyed by scripting names, not " + Describe(values));
   for (const auto& item : values.items()) {
     const std::string& key = item.key();
@@ -250,7 +251,10 @@ void SetMembers(void* obj, const cls_ClassMetadata& md, const cmd_Json& values, 
     } catch (const cmd_StepError& e) {
       throw cmd_MemberError{{key}, e.Kind(), e.Message(), e.File(), e.Line(), e.Candidates()};
     }
-    cmd_WithinMember(key, [&] { f->set(obj, cmd_ValueFromJson(md, *f, v)); });
+    cmd_WithinMember(key, [&] {
+      if (f->readOnly && !made) cmd_RefuseReadOnly(*f, md);
+      f->set(obj, cmd_ValueFromJson(md, *f, v));
+    });
   }
 }
 
@@ -282,7 +286,7 @@ cmd_OwnedObject NewInline(const cls_ClassMetadata& declared, const cmd_Json& v) 
     }
     return obj;
   }
-  SetMembers(obj.get(), *cls, v, key);
+  SetMembers(obj.get(), *cls, v, key, true);
   return obj;
 }
 
@@ -306,7 +310,12 @@ cls_Value cmd_ValueFromJson(const cls_ClassMetadata& owner, const cls_ScriptFiel
   return Converter(owner, field).Convert(v);
 }
 
-void cmd_SetValues(void* obj, const cls_ClassMetadata& md, const cmd_Json& values) { SetMembers(obj, md, values, ""); }
+void cmd_SetValues(void* obj, const cls_ClassMetadata& md, const cmd_Json& values) { SetMembers(obj, md, values, "", false); }
+
+void cmd_RefuseReadOnly(const cls_ScriptField& field, const cls_ClassMetadata& owner) {
+  cmd_Refuse("The member \"" + std::string(field.scriptName) + "\" of " + cmd_ClassLabel(owner) +
+             " is read-only; it is given only where the object is made");
+}
 
 const cls_ClassMetadata& cmd_ClassForConstructor(const std::string& scriptName, const cls_ClassMetadata& declared) {
   const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(scriptName);
@@ -321,8 +330,10 @@ const cls_ClassMetadata& cmd_ClassForConstructor(const std::string& scriptName, 
 std::string cmd_ConstructorNames(const cls_ClassMetadata& declared) {
   std::string names;
   for (const cls_ClassMetadata* md : cls_ClassRegistrar::Instance().All())
-    if (*md->ScriptName() && md->CanConstruct() && md->IsA(declared))
+    if (*md->ScriptName() && md->CanConstruct() && md->IsA(declared)) {
       names += (names.empty() ? "" : ", ") + std::string(md->ScriptName());
+      for (const char* variant : md->ScriptVariants()) names += std::string(", ") + variant;
+    }
   return names.empty() ? "none" : names;
 }
 
@@ -330,7 +341,7 @@ cmd_OwnedObject cmd_NewObject(const cls_ClassMetadata& md, const cmd_Json* value
   if (!md.CanConstruct())
     cmd_Refuse(cmd_ClassLabel(md) + " cannot be constructed; name one of its kinds: " + cmd_ConstructorNames(md));
   cmd_OwnedObject obj(md.NewDefault(), cmd_ObjectDeleter{&md});
-  if (values) cmd_SetValues(obj.get(), md, *values);
+  if (values) SetMembers(obj.get(), md, *values, "", true);
   return obj;
 }
 

@@ -44,9 +44,13 @@ void cmd_WithinMember(const std::string& member, const std::function<void()>& fn
 // text (or integers) for the member's own set to check.
 cls_Value cmd_ValueFromJson(const cls_ClassMetadata& owner, const cls_ScriptField& field, const cmd_Json& v);
 
-// Sets members of an object from a JSON object keyed by scripting names, in the order given.
-// A constructor key ("type"/"$type") is accepted only when it names the object's own class.
+// Sets members of an existing object from a JSON object keyed by scripting names, in the order
+// given. A constructor key ("type"/"$type") is accepted only when it names the object's own class;
+// a read-only member is refused (it is given only where an object is made: cmd_NewObject).
 void cmd_SetValues(void* obj, const cls_ClassMetadata& md, const cmd_Json& values);
+
+// Refuses a change of a read-only member of an existing object.
+[[noreturn]] void cmd_RefuseReadOnly(const cls_ScriptField& field, const cls_ClassMetadata& owner);
 
 // The class a scripting constructor name stands for, which must be `declared` or one of its kinds
 // and constructible.

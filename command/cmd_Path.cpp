@@ -110,9 +110,14 @@ class Walker {
             return Next(c, i + 1);
           }
         }
+        // A read-only view over repositories ("allFields"): it lives while the rest of the path
+        // is walked, and refuses every change itself.
+        std::unique_ptr<mdl_Repository> view;
+        if (!r && !c.obj && (view = n.model->MakeView(step.view()))) r = view.get();
         if (!r) {
           std::vector<cow_String> names = n.model->RepositoryNames();
           for (const auto& o : n.model->ObjectNames()) names.push_back(o);
+          for (const auto& v : ddr_Model::ViewNames()) names.push_back(v);
           RefuseStep(path_, i, names, nullptr,
                      "The model " + Quoted(n.modelName.view()) + " has no repository " + Quoted(step.view()) +
                          "; it has " + Listing(names));

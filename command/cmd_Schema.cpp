@@ -56,10 +56,8 @@ class Builder {
     for (const auto& name : model.RepositoryNames()) {
       const cls_ClassMetadata& element = model.FindRepository(name.view())->ElementClass();
       cmd_Json names = cmd_Json::array();
-      for (const cls_ClassMetadata* c : Constructors(element)) {
-        names.push_back(c->ScriptName());
-        Define(*c);
-      }
+      for (const cls_ClassMetadata* c : Constructors(element))
+        for (const std::string& n : Names(*c)) names.push_back(n);
       repositories[name.str()] = names;
     }
 
@@ -125,6 +123,30 @@ class Builder {
     return rules;
   }
 
+  // Every name scripts construct the class under, each defined: its scripting name, then the
+  // variants it offers beside it.
+  std::vector<std::string> Names(const cls_ClassMetadata& md) {
+    Define(md);
+    std::vector<std::string> names{md.ScriptName()};
+    for (const char* variant : md.ScriptVariants()) {
+      DefineVariant(md, variant);
+      names.emplace_back(variant);
+    }
+    return names;
+  }
+
+  // A variant makes an object of the class and takes the class's members; only the name that
+  // constructs it differs.
+  void DefineVariant(const cls_ClassMetadata& md, const std::string& variant) {
+    if (defs_.contains(variant)) return;
+    cmd_Json d = defs_[md.ScriptName()];
+    cmd_Json& props = d["properties"];
+    if (!md.FindScriptField("type")) props["type"] = cmd_Json{{"const", variant}};
+    props["$type"] = cmd_Json{{"const", variant}};
+    d["x-variantOf"] = md.ScriptName();
+    defs_[variant] = std::move(d);
+  }
+
   // The definition of a constructor: its members by scripting name, each with its default.
   void Define(const cls_ClassMetadata& md) {
     const std::string name = md.ScriptName();
@@ -137,6 +159,7 @@ class Builder {
     props["$type"] = cmd_Json{{"const", name}};
     for (const auto& f : md.ScriptFields()) {
       cmd_Json m = Member(f);
+      if (f.readOnly) m["readOnly"] = true;  // given where the object is made, never changed after
       try {
         m["default"] = cmd_MemberToJson(fresh.get(), f);
       } catch (const std::exception&) {
@@ -157,18 +180,14 @@ class Builder {
     if (!f.declared) return Typed("object");
     if (const cls_ClassMetadata* element = ContainerElement(*f.declared)) {
       cmd_Json any = cmd_Json::array();
-      for (const cls_ClassMetadata* c : Constructors(*element)) {
-        Define(*c);
-        any.push_back(Ref(c->ScriptName()));
-      }
+      for (const cls_ClassMetadata* c : Constructors(*element))
+        for (const std::string& n : Names(*c)) any.push_back(Ref(n));
       if (any.empty()) return Typed("object");
       return cmd_Json{{"type", "object"}, {"additionalProperties", {{"anyOf", any}}}};
     }
     cmd_Json any = cmd_Json::array();
-    for (const cls_ClassMetadata* c : Constructors(*f.declared)) {
-      Define(*c);
-      any.push_back(Ref(c->ScriptName()));
-    }
+    for (const cls_ClassMetadata* c : Constructors(*f.declared))
+      for (const std::string& n : Names(*c)) any.push_back(Ref(n));
     if (any.empty()) return Typed("object");  // nothing registered can stand there yet
     if (any.size() == 1) return any[0];
     return cmd_Json{{"anyOf", any}};

@@ -131,6 +131,7 @@ cmd_Json cmd_Session::Set(const cmd_Json& command) {
       if (!node.field)
         cmd_Refuse("\"value\" sets one member; " + cmd_PathText(path) + " names no member of an object: use \"values\"");
       cmd_WithinMember(node.field->scriptName, [&] {
+        if (node.field->readOnly) cmd_RefuseReadOnly(*node.field, *node.ownerMd);
         node.field->set(node.owner, cmd_ValueFromJson(*node.ownerMd, *node.field, command["value"]));
       });
     } else {

@@ -42,6 +42,7 @@ cmd_Json cmd_Session::List(const cmd_Json& command) {
       case cmd_Node::kModel:
         for (const auto& name : n.model->RepositoryNames()) out.push_back(name.str());
         for (const auto& name : n.model->ObjectNames()) out.push_back(name.str());
+        for (const auto& name : ddr_Model::ViewNames()) out.push_back(name.str());
         break;
       case cmd_Node::kRepository:
         for (const auto& key : n.repo->Keys()) out.push_back(key.str());

@@ -2,6 +2,7 @@
 
 #include <iterator>
 #include "kfd/kfdC_Advice.h"
+#include "kfd/kfdC_AllFields.h"
 
 #include "kfd/kfdC_AnalyticalField.h"
 #include "kfd/kfdC_AnalyticalFieldContainer.h"
@@ -61,6 +62,7 @@ void QMXOdbKfdC_initialize(int& tally) {
   bas_StartJournal::Register("kfdC_AnalyticalFieldContainer");
   ddr_Model::RegisterExtension(kfdC_DiscreteFieldContainer());
   bas_StartJournal::Register("kfdC_DiscreteFieldContainer");
+  ddr_Model::RegisterView(kfdC_Field::kCollectionName, &kfdC_AllFieldsView);
 
   auto& metadata = omi_Singleton<cls_MetadataRegistrar>::Instance();
   metadata.initClassMetadata(&kfdC_Field::InitializeMetadata, 7);
@@ -94,4 +96,5 @@ void QMXOdbKfdC_finalize(int& tally) {
   bas_StartJournal::Stop("QMXOdbKfdC");
   ddr_Model::UnRegisterExtension(kfdC_AnalyticalFieldContainer::Names::kRepositoryName);
   ddr_Model::UnRegisterExtension(kfdC_DiscreteFieldContainer::Names::kRepositoryName);
+  ddr_Model::UnRegisterView(kfdC_Field::kCollectionName);
 }

@@ -32,6 +32,15 @@ PYBIND11_MODULE(_core, m) {
           return out;
         },
         "The scripting constructor names of every registered class that scripts construct.");
+  m.def("constructor_variants",
+        [] {
+          std::vector<std::pair<std::string, std::string>> out;
+          for (const cls_ClassMetadata* md : cls_ClassRegistrar::Instance().All())
+            if (*md->ScriptName() && md->CanConstruct())
+              for (const char* variant : md->ScriptVariants()) out.emplace_back(variant, md->ScriptName());
+          return out;
+        },
+        "Pairs of a constructor variant and the scripting constructor whose object it makes.");
   m.def("class_doc",
         [](const std::string& ctor) {
           const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);

@@ -155,6 +155,7 @@ void SetMember(const Object& o, const std::string& name, py::handle value) {
   cmd_Json v = ToJson(value);
   if (o.root) {
     Guarded([&] {
+      if (f.readOnly) cmd_RefuseReadOnly(f, md);
       Found at = Resolve(o, true);
       f.set(at.obj, cmd_ValueFromJson(*at.md, f, v));
     });
@@ -227,6 +228,7 @@ std::string ClassDoc(const cls_ClassMetadata& md) {
       const std::string ctors = Guarded([&] { return cmd_ConstructorNames(*f.declared); });
       doc += " (" + (ctors.empty() ? f.declared->Name().str() : ctors) + (f.optional ? "; may be None" : "") + ")";
     }
+    if (f.readOnly) doc += " (read-only: given only to the constructor)";
     doc += "\n";
   }
   if (md.ScriptFields().empty()) doc += "    none\n";

@@ -16,6 +16,16 @@ std::vector<Prototype>& Prototypes() {
   return prototypes;
 }
 
+struct View {
+  cow_String name;
+  ddr_Model::ViewFactory make;
+};
+
+std::vector<View>& Views() {
+  static std::vector<View> views;
+  return views;
+}
+
 const char* NameOf(const mdl_Extension& e) { return e.ExtensionName(); }
 
 void WriteExtension(const void* p, const cls_WriteVisitor& w) { static_cast<const mdl_Extension*>(p)->DBWrite(w); }
@@ -139,6 +149,38 @@ void ddr_Model::ReplaceExtension(const ExtensionHandle& extension) {
     }
   }
   nex_ThrowCmd(std::string("The model has no extension \"") + NameOf(extension.Get()) + "\" to replace");
+}
+
+void ddr_Model::RegisterView(std::string_view name, ViewFactory make) {
+  for (auto& v : Views()) {
+    if (v.name.view() == name) {
+      v.make = make;
+      return;
+    }
+  }
+  Views().push_back(View{cow_String(name), make});
+}
+
+void ddr_Model::UnRegisterView(std::string_view name) {
+  auto& views = Views();
+  for (auto it = views.begin(); it != views.end(); ++it) {
+    if (it->name.view() == name) {
+      views.erase(it);
+      return;
+    }
+  }
+}
+
+std::vector<cow_String> ddr_Model::ViewNames() {
+  std::vector<cow_String> names;
+  for (const auto& v : Views()) names.push_back(v.name);
+  return names;
+}
+
+std::unique_ptr<mdl_Repository> ddr_Model::MakeView(std::string_view name) const {
+  for (const auto& v : Views())
+    if (v.name.view() == name) return v.make(*this);
+  return nullptr;
 }
 
 const char* mdl_Extension::ExtensionName() const {

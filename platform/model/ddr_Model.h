@@ -1,6 +1,7 @@
 #pragma once
 // The model: its containers are the extensions that modules register at start; each new model
 // gets its own copy of every registered prototype.
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -59,6 +60,16 @@ class ddr_Model : public mem_Allocated {
   // by a handle held before (to undo a change). Replacing refuses a name the model lacks.
   const ExtensionHandle* FindExtension(std::string_view name) const;
   void ReplaceExtension(const ExtensionHandle& extension);
+
+  // Read-only views that a module registers over repositories of the model ("allFields": the
+  // fields of two repositories by name). A view is made on request over the model as it stands,
+  // is never stored, and refuses every change; its name is never a repository's.
+  using ViewFactory = std::unique_ptr<mdl_Repository> (*)(const ddr_Model& model);
+  static void RegisterView(std::string_view name, ViewFactory make);
+  static void UnRegisterView(std::string_view name);
+  static std::vector<cow_String> ViewNames();
+  // The view of that name over this model; null when no view has that name.
+  std::unique_ptr<mdl_Repository> MakeView(std::string_view name) const;
 
  private:
   std::vector<ExtensionHandle> extensions_;

@@ -39,6 +39,9 @@ struct cls_ScriptField {
   // Object members: the member object (null when absent); the mutable form separates it first.
   const void* (*child)(const void* obj);
   void* (*mutableChild)(void* obj);
+  // Kept by the object itself (a counter of what was added): given only when an object is made,
+  // where its own set checks the value; a change of an existing object's member is refused.
+  bool readOnly = false;
 };
 
 class cls_ClassMetadata {
@@ -69,6 +72,9 @@ class cls_ClassMetadata {
   // Whether scripts construct this class under that name: its scripting name, or a constructor
   // variant the class offers beside it.
   virtual bool AnswersTo(std::string_view constructor) const { return constructor == ScriptName(); }
+  // The constructor variants the class offers beside its scripting name ("DiscreteFieldFromAnalytic"),
+  // in the class's order; AnswersTo accepts exactly these and the scripting name.
+  virtual std::vector<const char*> ScriptVariants() const { return {}; }
   virtual const std::vector<cls_ScriptField>& ScriptFields() const;
   const cls_ScriptField* FindScriptField(std::string_view scriptName) const noexcept;
   // The script fields that hold member objects, found once: walks over many instances skip

@@ -2,6 +2,7 @@
 // Class metadata for a C++ class with the persistent members (kClassName, TypeId(), kVersion,
 // a reading constructor, DBWrite, operator==, GetUid, CowDtor): the type-erased operations
 // derived from them. Untyped pointers point at the class's family root.
+#include <iterator>
 #include <string>
 #include <type_traits>
 
@@ -18,10 +19,13 @@ class cls_TypedMetadata : public cls_ClassMetadata {
     if constexpr (requires { C::kScriptName; }) return C::kScriptName;
     else return "";
   }
+  std::vector<const char*> ScriptVariants() const override {
+    if constexpr (requires { C::kScriptVariants; }) return {std::begin(C::kScriptVariants), std::end(C::kScriptVariants)};
+    else return {};
+  }
   bool AnswersTo(std::string_view constructor) const override {
-    if constexpr (requires { C::kScriptVariants; })
-      for (const char* variant : C::kScriptVariants)
-        if (constructor == variant) return true;
+    for (const char* variant : ScriptVariants())
+      if (constructor == variant) return true;
     return constructor == ScriptName();
   }
   const char* RootName() const override { return Root::kClassName; }

@@ -66,3 +66,15 @@ for _ctor in _core.constructors():
     globals()[_ctor] = _make_class(_ctor)
     __all__.append(_ctor)
 del _ctor
+
+# A constructor variant makes an object of its class from the same members: the class itself
+# under the variant's name.
+def _alias_variants():
+    for variant, ctor in _core.constructor_variants():
+        if variant not in globals() and ctor in globals():
+            globals()[variant] = globals()[ctor]
+            __all__.append(variant)
+
+
+_alias_variants()
+del _alias_variants

@@ -206,3 +206,57 @@ TEST_F(KfdScript, TheFromAnalyticVariantAndTheBasesByTheirScriptingNames) {
 }
 
 }  // namespace
+
+namespace {
+
+// "allFields" shows both repositories by name to scripts, read-only: a name held by both shows
+// the analytical field (what a lookup by name finds), and every change through it is refused
+// without touching the model.
+TEST_F(KfdScript, AllFieldsIsAReadOnlyViewOfBothRepositories) {
+  Ok(R"({"op":"create","path":["Model-1","discreteFields","DF-1"],"type":"DiscreteField"})");
+  Ok(R"({"op":"create","path":["Model-1","discreteFields","AF-1"],"type":"DiscreteField","values":{"location":"ELEMENTS"}})");
+  Ok(R"({"op":"create","path":["Model-1","analyticalFields","AF-1"],"type":"ExpressionField","values":{"expression":"X"}})");
+  const cmd_Json models = Ok(R"({"op":"list","path":["Model-1"]})");
+  EXPECT_NE(std::find(models.begin(), models.end(), "allFields"), models.end());
+  EXPECT_EQ(Ok(R"({"op":"list","path":["Model-1","allFields"]})"), cmd_Json::parse(R"(["AF-1","DF-1"])"));
+  EXPECT_EQ(Ok(R"({"op":"get","path":["Model-1","allFields","AF-1","expression"]})"), "X");
+  EXPECT_EQ(Ok(R"({"op":"get","path":["Model-1","allFields","DF-1"]})"),
+            Ok(R"({"op":"get","path":["Model-1","discreteFields","DF-1"]})"));
+  const cmd_Json all = Ok(R"({"op":"get","path":["Model-1","allFields"]})");
+  EXPECT_EQ(all["AF-1"]["type"], "ExpressionField");
+  EXPECT_EQ(all.size(), 2u);
+  EXPECT_EQ(Fails(R"({"op":"get","path":["Model-1","allFields","Nothing"]})")["message"], R"(There is no "Nothing" in allFields)");
+
+  const cmd_Json before = Ok(R"({"op":"get","path":["Model-1"]})");
+  const std::string readOnly =
+      R"("allFields" shows the fields read-only; change a field in "analyticalFields" or "discreteFields")";
+  for (const char* line : {
+           R"({"op":"set","path":["Model-1","allFields","AF-1","expression"],"value":"Y"})",
+           R"({"op":"set","path":["Model-1","allFields","AF-1"],"values":{"expression":"Y"}})",
+           R"({"op":"set","path":["Model-1","allFields","AF-1"],"type":"ExpressionField"})",
+           R"({"op":"create","path":["Model-1","allFields","New"],"type":"ExpressionField"})",
+           R"({"op":"create","path":["Model-1","allFields","New"],"type":"DiscreteField"})",
+           R"({"op":"delete","path":["Model-1","allFields","DF-1"]})",
+       }) {
+    SCOPED_TRACE(line);
+    EXPECT_EQ(Fails(line)["message"], readOnly);
+  }
+  EXPECT_EQ(Fails(R"({"op":"create","path":["Model-1","allFields","New"],"type":"Field"})")["message"],
+            "Field cannot be constructed; name one of its kinds: ExpressionField, MappedField, DiscreteField, "
+            "DiscreteFieldFromAnalytic");
+  EXPECT_EQ(Ok(R"({"op":"get","path":["Model-1"]})"), before);
+
+  // Validation through the view names the view's path and finds the field's own failure.
+  Ok(R"({"op":"set","path":["Model-1","analyticalFields","AF-1","expression"],"value":""})");
+  const cmd_Json e = Fails(R"({"op":"validate","path":["Model-1","allFields"]})");
+  EXPECT_EQ(e["message"], "An expression must be supplied.");
+  EXPECT_EQ(e["path"], cmd_Json::parse(R"(["Model-1","allFields","AF-1"])"));
+  // A model without fields shows an empty view; a name nothing registers is still refused.
+  Ok(R"({"op":"create","path":["Model-2"]})");
+  EXPECT_EQ(Ok(R"({"op":"list","path":["Model-2","allFields"]})"), cmd_Json::array());
+  const cmd_Json unknown = Fails(R"({"op":"list","path":["Model-2","allField"]})");
+  EXPECT_EQ(unknown["member"], "allField");
+  EXPECT_NE(std::find(unknown["candidates"].begin(), unknown["candidates"].end(), "allFields"), unknown["candidates"].end());
+}
+
+}  // namespace

@@ -262,3 +262,34 @@ def test_two_processes_saving_one_file_lose_nothing_silently(workdir):
     assert str(e.value) == CHANGED.format(path)
     db.save(path, overwrite=True)
     assert len(qa.Database.open(path)["M"].profiles) == 0
+
+
+def test_all_fields_shows_both_field_repositories_read_only(model):
+    model.analyticalFields["AF-1"] = qa.ExpressionField(expression="X + Y")
+    model.discreteFields["DF-1"] = qa.DiscreteFieldFromAnalytic(analyticFieldName="AF-1", location="ELEMENTS")
+    assert "allFields" in model.repositories() and "allFields" in dir(model)
+    fields = model.allFields
+    assert list(fields) == ["AF-1", "DF-1"] and len(fields) == 2 and "DF-1" in fields
+    assert type(fields["AF-1"]) is qa.ExpressionField and fields["AF-1"].expression == "X + Y"
+    assert type(fields["DF-1"]) is qa.DiscreteField and fields["DF-1"].analyticFieldName == "AF-1"
+    before = model.to_dict()
+    read_only = '"allFields" shows the fields read-only; change a field in "analyticalFields" or "discreteFields"'
+    with pytest.raises(qa.CommandError) as e:
+        fields["AF-1"].expression = "Z"
+    assert e.value.message == read_only
+    with pytest.raises(qa.CommandError) as e:
+        fields["New"] = qa.ExpressionField(expression="X")
+    assert e.value.message == read_only
+    with pytest.raises(qa.CommandError) as e:
+        del fields["DF-1"]
+    assert e.value.message == read_only
+    assert model.to_dict() == before
+    # A change through its own repository shows at once.
+    model.analyticalFields["AF-1"].expression = "Z"
+    assert model.allFields["AF-1"].expression == "Z"
+
+
+def test_the_from_analytic_variant_makes_a_discrete_field():
+    made = qa.DiscreteFieldFromAnalytic(analyticFieldName="AF-1", location="NODES")
+    assert type(made) is qa.DiscreteField and "DiscreteFieldFromAnalytic" in qa.__all__
+    assert made == qa.DiscreteField(analyticFieldName="AF-1")

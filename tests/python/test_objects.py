@@ -232,3 +232,24 @@ def test_a_bare_object_holds_nothing():
         o.to_dict()
     with pytest.raises(AttributeError):
         o.r
+
+
+@pytest.mark.parametrize("ctor,list_name,last", [
+    ("ConnectorFriction", "connectorPotentials", "lastId"),
+    ("ConnectorPlasticity", "connectorPotentials", "lastId"),
+    ("ConnectorDamage", "initiationPotentials", "lastIniId"),
+    ("ConnectorDamage", "evolutionPotentials", "lastEvoId"),
+])
+def test_last_potential_ids_are_read_only_but_rebuild_from_to_dict(ctor, list_name, last):
+    cls = getattr(qa, ctor)
+    option = cls(**{list_name: [qa.ConnectorPotential(componentNumber=1), qa.ConnectorPotential(componentNumber=2)]})
+    assert getattr(option, last) == 2
+    assert "read-only" in cls.__doc__.split(last + ":")[1].splitlines()[0]
+    for value in (1, 2, 7):
+        with pytest.raises(qa.CommandError) as e:
+            setattr(option, last, value)
+        assert e.value.message == f'The member "{last}" of {ctor} is read-only; it is given only where the object is made'
+    assert getattr(option, last) == 2
+    values = option.to_dict()
+    del values["type"]
+    assert cls(**values) == option

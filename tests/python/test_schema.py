@@ -86,3 +86,28 @@ def test_numbers_offer_their_literal_or_null(schema):
 ])
 def test_history_lines(schema, line, fits):
     assert jsonschema.Draft202012Validator(schema).is_valid(json.loads(line)) == fits
+
+
+def test_a_constructor_variant_is_listed_and_defined_with_its_class_members(schema):
+    assert schema["x-repositories"]["discreteFields"] == ["DiscreteField", "DiscreteFieldFromAnalytic"]
+    variant = schema["$defs"]["DiscreteFieldFromAnalytic"]
+    plain = schema["$defs"]["DiscreteField"]
+    assert variant["x-variantOf"] == "DiscreteField" and variant["x-class"] == "kfdC_DiscreteField"
+    assert variant["properties"]["type"] == {"const": "DiscreteFieldFromAnalytic"}
+    assert {k: v for k, v in variant["properties"].items() if k not in ("type", "$type")} == \
+        {k: v for k, v in plain["properties"].items() if k not in ("type", "$type")}
+    validator = jsonschema.Draft202012Validator(schema)
+    path = '"path":["Model-1","discreteFields","DF-1"]'
+    good = '{"op":"create",' + path + ',"type":"DiscreteFieldFromAnalytic","values":{"analyticFieldName":"AF-1","location":"ELEMENTS"}}'
+    assert validator.is_valid(json.loads(good))
+    for bad in ['{"op":"create",' + path + ',"type":"DiscreteFieldFromAnalytic","values":{"location":"NODAL"}}',
+                '{"op":"create",' + path + ',"type":"DiscreteFieldFromAnalytic","values":{"expression":"X"}}',
+                '{"op":"create","path":["Model-1","analyticalFields","F"],"type":"DiscreteFieldFromAnalytic"}']:
+        assert not validator.is_valid(json.loads(bad)), bad
+
+
+def test_read_only_members_are_marked(schema):
+    assert schema["$defs"]["ConnectorFriction"]["properties"]["lastId"]["readOnly"] is True
+    damage = schema["$defs"]["ConnectorDamage"]["properties"]
+    assert damage["lastIniId"]["readOnly"] is True and damage["lastEvoId"]["readOnly"] is True
+    assert "readOnly" not in damage["initiationPotentials"]

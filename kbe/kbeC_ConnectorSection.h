@@ -53,6 +53,8 @@ class kbeC_ConnectorSection : public mem_Allocated {
   void SetBehaviorOptions(const kbeC_ConnectorBehaviorOptionList& v) { behaviorOptions = v; }
   // Appends a copy of an option of any kind.
   void AppendBehaviorOption(const kbeC_ConnectorBehaviorOption& option);
+  // The whole list, for modification (a host reorders or extends it through its shortcut).
+  kbeC_ConnectorBehaviorOptionList& ModifyBehaviorOptions() { return behaviorOptions; }
   // The option at a position, for modification (separated from other copies first).
   kbeC_ConnectorBehaviorOption& ModifyBehaviorOption(std::size_t index);
 

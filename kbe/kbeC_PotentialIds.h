@@ -1,8 +1,9 @@
 #pragma once
 // The last-used potential id of a potential list (lastId, lastIniId, lastEvoId) belongs to the
 // option: every potential that joins the list counts, however it joins, and scripts cannot take
-// the id back, so no id is handed out twice. A script may give the id it holds or a later one, so
-// that an option read out whole (list first, then id) is rebuilt as it was. Included only by the
+// the id back, so no id is handed out twice. The id is read-only for scripts: an option that is
+// being made may be given the id it held or a later one, so that an option read out whole (list
+// first, then id) is rebuilt as it was; an existing option's id is never set by a script. Included only by the
 // .cpp files of the options that hold potentials.
 #include <cstddef>
 #include <cstdint>
@@ -48,6 +49,7 @@ struct kbeC_PotentialIdKeeper {
         f.set = &SetList;
       } else if (std::string(f.scriptName) == L::kLastId) {
         f.set = &SetLastId;
+        f.readOnly = true;
       }
     }
   }

@@ -9,6 +9,7 @@
 #include "kbe/kbeC_ConnectorFriction.h"
 #include "kbe/kbeC_ConnectorPlasticity.h"
 #include "kbe/kbeC_ConnectorSectionContainer.h"
+#include "kbe/kbeC_OptionListShortcuts.h"
 #include "platform/base/nex_Exception.h"
 #include "platform/model/ddr_Model.h"
 #include "platform/persist/cls_Visitor.h"
@@ -238,7 +239,8 @@ void kbeC_ConnectorBehaviorOption::RefuseUnknownStep(const kbeC_ConnectorBehavio
 // --- handles ------------------------------------------------------------------------------------
 
 kbeC_ConnectorBehaviorOptionShortcut kbeC_ConnectorBehaviorOptionShortcut::Ctor(const cls_ReadVisitor& r) {
-  return ddr_ShortcutCtor<kbeC_ConnectorBehaviorOptionShortcut, kbeC_OptionInListShortcut>(r);
+  return ddr_ShortcutCtor<kbeC_ConnectorBehaviorOptionShortcut, kbeC_OptionInListShortcut,
+                          kbeC_ConnectorBehaviorOptionInConnectorBehaviorListShortcut>(r);
 }
 kbeC_ConnectorOptionsShortcut kbeC_ConnectorOptionsShortcut::Ctor(const cls_ReadVisitor& r) {
   return ddr_ShortcutCtor<kbeC_ConnectorOptionsShortcut, kbeC_ConnectorOptionsInConnectorBehaviorOptionShortcut,

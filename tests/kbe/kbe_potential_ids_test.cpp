@@ -1,5 +1,6 @@
 // The last-used potential ids are kept by the options themselves: every potential a script adds
-// counts, removing one gives no id back, and scripts cannot take them back.
+// counts, removing one gives no id back, and scripts cannot set them: an option being made takes
+// the id it held (so that it is rebuilt from what it showed), an existing option never.
 #include <nlohmann/json.hpp>
 
 #include <string>
@@ -66,13 +67,18 @@ TEST_F(KbePotentialIds, EveryPotentialAddedCountsAndNoneGivesItsIdBack) {
     if (c.other) {
       EXPECT_EQ(Get(c.other), 0);
     }
-    // scripts cannot take the id back; the refusal changes nothing
-    EXPECT_EQ(Refusal(R"({"op":"set","path":)" + At(c.lastId) + R"(,"value":3})"),
-              std::string("The member \"") + c.lastId + "\" of " + c.type + " counts the potentials added to \"" + list +
-                  "\" and cannot be set below 4");
-    EXPECT_EQ(Get(c.lastId), 4);
-    Ok(R"({"op":"set","path":)" + At(c.lastId) + R"(,"value":4})");
-    EXPECT_EQ(Get(c.lastId), 4);
+    // the id is read-only for scripts, whatever the value; the refusal changes nothing
+    const std::string readOnly =
+        std::string("The member \"") + c.lastId + "\" of " + c.type + " is read-only; it is given only where the object is made";
+    for (const std::string& line : {R"({"op":"set","path":)" + At(c.lastId) + R"(,"value":3})",
+                                    R"({"op":"set","path":)" + At(c.lastId) + R"(,"value":4})",
+                                    R"({"op":"set","path":)" + At(c.lastId) + R"(,"value":9})",
+                                    R"({"op":"set","path":["M","connectorSections","S","behaviorOptions",0],"values":{")" +
+                                        std::string(c.lastId) + R"(":9}})"}) {
+      SCOPED_TRACE(line);
+      EXPECT_EQ(Refusal(line), readOnly);
+      EXPECT_EQ(Get(c.lastId), 4);
+    }
     // an option read out whole is rebuilt as it was
     const cmd_Json whole = Ok(R"({"op":"get","path":["M","connectorSections","S","behaviorOptions",0]})");
     Ok(R"({"op":"set","path":["M","connectorSections","S","behaviorOptions",0],"type":")" + std::string(c.type) +
@@ -84,10 +90,11 @@ TEST_F(KbePotentialIds, EveryPotentialAddedCountsAndNoneGivesItsIdBack) {
     EXPECT_EQ(Ok(R"({"op":"get","path":["M","connectorSections","S","behaviorOptions",0]})"), whole);
     EXPECT_EQ(Get(c.lastId), 4);
     // but not with an id below the potentials it holds
-    EXPECT_FALSE(Refusal(R"({"op":"set","path":["M","connectorSections","S","behaviorOptions",0],"type":")" +
+    EXPECT_EQ(Refusal(R"({"op":"set","path":["M","connectorSections","S","behaviorOptions",0],"type":")" +
                          std::string(c.type) + R"(","values":{")" + list + R"(":[{"componentNumber":1},{"componentNumber":2}],")" +
-                         c.lastId + R"(":1}})")
-                     .empty());
+                         c.lastId + R"(":1}})"),
+              std::string("The member \"") + c.lastId + "\" of " + c.type + " counts the potentials added to \"" + list +
+                  "\" and cannot be set below 2");
     EXPECT_EQ(Get(c.lastId), 4);
     Ok(R"({"op":"delete","path":["M","connectorSections","S","behaviorOptions",0]})");
   }

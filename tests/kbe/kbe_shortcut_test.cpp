@@ -1,5 +1,6 @@
 // Shortcuts to options and their members: resolution, modification through the repository,
 // and the refusals of members asked of the wrong kind of option.
+#include "kbe/kbeC_OptionListShortcuts.h"
 #include "kbe/kbeC_Shortcuts.h"
 #include "platform/persist/cls_Record.h"
 #include "tests/kbe/kbe_fixtures.h"
@@ -130,6 +131,52 @@ TEST_F(KbeShortcut, DownToTheOptionsOfATermOfAPotential) {
   EXPECT_EQ(kbeC_CDCTermInCDCTermListShortcut(terms, 2).ConstGet(Model()), nullptr);
   const kbeC_ConnectorPotentialShortcut first = kbeC_ConnectorPotentialInConnectorPotentialListShortcut(list, 0);
   EXPECT_THROW(kbeC_DerivedComponentInConnectorPotentialShortcut(first).Get(Model()), nex_CmdError);
+}
+
+// The whole option list of a section and an option by position through the list's shortcut: they
+// resolve to what the section holds, change it copy-on-write, refuse what is not there without a
+// change, and read back from their records as the concrete shortcut they were.
+TEST_F(KbeShortcut, TheOptionListAndAnOptionInItByTheListsShortcut) {
+  const ddr_Database before = db_;
+  const kbeC_ConnectorBehaviorOptionListShortcut list = kbeC_ConnectorBehaviorOptionListIMPLSC("Bushing");
+  EXPECT_EQ(list.Path(), (std::vector<cow_String>{"connectorSections", "Bushing", "behaviorOptions"}));
+  ASSERT_NE(list.ConstGet(Model()), nullptr);
+  EXPECT_EQ(list.ConstGet(Model())->size(), 8u);
+  const kbeC_ConnectorBehaviorOptionShortcut lock = kbeC_ConnectorBehaviorOptionInConnectorBehaviorListShortcut(list, kLock);
+  EXPECT_EQ(lock.Path(), At(kLock).Path());
+  EXPECT_EQ(lock.ConstGet(Model()), At(kLock).ConstGet(Model()));
+
+  // Nothing there: null to read, refused to modify, and the refusals change nothing.
+  const kbeC_ConnectorBehaviorOptionListShortcut none = kbeC_ConnectorBehaviorOptionListIMPLSC("None");
+  EXPECT_EQ(none.ConstGet(Model()), nullptr);
+  EXPECT_EQ(kbeC_ConnectorBehaviorOptionInConnectorBehaviorListShortcut(none, 0).ConstGet(Model()), nullptr);
+  for (std::int32_t position : {-1, 8}) {
+    SCOPED_TRACE(position);
+    EXPECT_EQ(kbeC_ConnectorBehaviorOptionInConnectorBehaviorListShortcut(list, position).ConstGet(Model()), nullptr);
+    EXPECT_THROW(kbeC_ConnectorBehaviorOptionInConnectorBehaviorListShortcut(list, position).Get(Model()), nex_CmdError);
+  }
+  EXPECT_THROW(none.Get(Model()), nex_CmdError);
+  EXPECT_THROW(kbeC_ConnectorBehaviorOptionListShortcut().ConstGet(Model()), nex_CmdError);
+  EXPECT_TRUE(db_ == before);
+
+  // A change through the list's shortcut lands in the model's section and nowhere else.
+  list.Get(Model()).RemoveLast();
+  EXPECT_EQ(list.ConstGet(Model())->size(), 7u);
+  EXPECT_EQ(kbeC_ConnectorBehaviorOptionListIMPLSC("Bushing").ConstGet(*const_cast<ddr_Database&>(before).ModifyModel("Model-1"))->size(), 8u);
+  dynamic_cast<kbeC_ConnectorLock&>(lock.Get(Model())).SetMaxMotion(7.5);
+  EXPECT_EQ(dynamic_cast<const kbeC_ConnectorLock*>(At(kLock).ConstGet(Model()))->GetMaxMotion(), 7.5);
+
+  // Records read back to the same addresses, through the handles of the addressed classes.
+  cls_RecordWriter w;
+  lock.DBWrite(w);
+  const kbeC_ConnectorBehaviorOptionShortcut back = kbeC_ConnectorBehaviorOptionShortcut::Ctor(cls_RecordReader(w.Record()));
+  EXPECT_TRUE(back == lock);
+  EXPECT_FALSE(back == kbeC_ConnectorBehaviorOptionShortcut(At(kLock)));  // same place, another kind of shortcut
+  EXPECT_EQ(back.ConstGet(Model()), At(kLock).ConstGet(Model()));
+  cls_RecordWriter l;
+  list.DBWrite(l);
+  EXPECT_TRUE(kbeC_ConnectorBehaviorOptionListShortcut::Ctor(cls_RecordReader(l.Record())) == list);
+  EXPECT_THROW(kbeC_ConnectorBehaviorOptionListShortcut::Ctor(cls_RecordReader(w.Record())), nex_CmdError);
 }
 
 }  // namespace

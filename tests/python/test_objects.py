@@ -133,6 +133,13 @@ I12 = "The value of I12 must satisfy the inequality:\n -(I11+I22)/2 < I12 <= (I1
     (qa.TabularAmplitude(data=[[0.0, 0.0, 1.0], [1.0, 1.0, 1.0]]), "Number of columns must be less or equal to 2."),
     (qa.TabularAmplitude(data=[[0.0, 0.0], [1.0, 1.0]], smooth=0.6),
      "Invalid smoothing parameter, expected a value between 0.0 and 0.5."),
+    # A correlation component is built and validated by scripts as an object of its own.
+    (qa.CorrelationComponent(approach="UNCORRELATED", dataList=[1.0, 0.5]), None),
+    (qa.CorrelationComponent(approach="USER", dataList=[1.0]), "The data parameter cannot be specified with USER."),
+    (qa.CorrelationComponent(approach="MOVING_NOISE", dataList=[1.0]), "Moving noise correlation is not yet supported."),
+    (qa.CorrelationComponent(approach="CORRELATED", dataList=[]), "At least one value must be specified with the data parameter."),
+    (qa.CorrelationComponent(dataList=[1.0, 2.0, 3.0]),
+     "Data cannot have a length of more than 2 with CORRELATED and UNCORRELATED."),
 ])
 def test_validation_messages_of_other_modules(obj, message):
     if message is None:

@@ -2,6 +2,7 @@
 // An adaptive mesh control: how an analysis smooths and remaps an adaptive mesh.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/persist/cls_Uid.h"
@@ -11,7 +12,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kadC_AdptMeshCtrl : public mem_Allocated {
+class kadC_AdptMeshCtrl : public fw_PersistentClass<kadC_AdptMeshCtrl, mem_Allocated> {
  public:
   enum class AdvectionEnm : std::int32_t { FIRST_ORDER_ADVECTION = 0, SECOND_ORDER_ADVECTION = 1 };
   enum class SmoothingAlgorithmEnm : std::int32_t { STANDARD = 0, GEOMETRY_ENHANCED = 1, ANALYSIS_PRODUCT_DEFAULT = 2 };
@@ -64,15 +65,8 @@ class kadC_AdptMeshCtrl : public mem_Allocated {
 
   kadC_AdptMeshCtrl() = default;
   explicit kadC_AdptMeshCtrl(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kadC_AdptMeshCtrl() = default;
-  virtual kadC_AdptMeshCtrl* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kadC_AdptMeshCtrl& o) const;
-  bool operator!=(const kadC_AdptMeshCtrl& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   AdvectionEnm GetAdvection() const { return advection; }
@@ -121,3 +115,5 @@ class kadC_AdptMeshCtrl : public mem_Allocated {
   double meshConstraintAngle = 60.0;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kadC_AdptMeshCtrl, mem_Allocated>;

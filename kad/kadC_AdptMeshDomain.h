@@ -3,6 +3,7 @@
 // often and how thoroughly to remesh.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/persist/cls_Uid.h"
@@ -13,7 +14,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kadC_AdptMeshDomain : public mem_Allocated {
+class kadC_AdptMeshDomain : public fw_PersistentClass<kadC_AdptMeshDomain, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "kadC_AdptMeshDomain";
   static constexpr const char* kScriptName = "AdaptiveMeshDomain";
@@ -33,15 +34,8 @@ class kadC_AdptMeshDomain : public mem_Allocated {
 
   kadC_AdptMeshDomain() = default;
   explicit kadC_AdptMeshDomain(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kadC_AdptMeshDomain() = default;
-  virtual kadC_AdptMeshDomain* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kadC_AdptMeshDomain& o) const;
-  bool operator!=(const kadC_AdptMeshDomain& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   const rgnC_Region& GetRegion() const { return region; }
@@ -63,3 +57,5 @@ class kadC_AdptMeshDomain : public mem_Allocated {
   std::int32_t sweepsPerIncrement = 1;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kadC_AdptMeshDomain, mem_Allocated>;

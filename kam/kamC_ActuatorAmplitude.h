@@ -1,8 +1,9 @@
 #pragma once
 // An amplitude whose values a co-simulated actuator supplies; it has no members of its own.
+#include "framework/fw_PersistentClass.h"
 #include "kam/kamC_Amplitude.h"
 
-class kamC_ActuatorAmplitude : public kamC_Amplitude {
+class kamC_ActuatorAmplitude : public fw_PersistentClass<kamC_ActuatorAmplitude, kamC_Amplitude> {
  public:
   using BaseClass = kamC_Amplitude;
   using RootClass = kamC_Amplitude;
@@ -18,16 +19,9 @@ class kamC_ActuatorAmplitude : public kamC_Amplitude {
 
   kamC_ActuatorAmplitude() = default;
   explicit kamC_ActuatorAmplitude(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_ActuatorAmplitude* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
 
-  bool operator==(const kamC_ActuatorAmplitude& o) const;
-  bool operator!=(const kamC_ActuatorAmplitude& o) const { return !(*this == o); }
-
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
 };
+
+extern template class fw_PersistentClass<kamC_ActuatorAmplitude, kamC_Amplitude>;

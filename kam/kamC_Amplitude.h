@@ -42,7 +42,9 @@ class kamC_Amplitude : public mem_Allocated {
 
   virtual ~kamC_Amplitude() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kamC_Amplitude* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kamC_Amplitude* Copy() const { return DoCopy(); }
+  virtual kamC_Amplitude* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;

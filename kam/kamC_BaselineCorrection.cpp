@@ -1,14 +1,9 @@
 #include "kam/kamC_BaselineCorrection.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kam/kamC_assert.h"
 
 kamC_BaselineCorrection::kamC_BaselineCorrection(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
-void kamC_BaselineCorrection::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kamC_BaselineCorrection* kamC_BaselineCorrection::Copy() const { return new kamC_BaselineCorrection(*this); }
-bool kamC_BaselineCorrection::operator==(const kamC_BaselineCorrection& o) const { return fw_EqualFields(*this, o); }
-void kamC_BaselineCorrection::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kamC_BaselineCorrection>(r); }
-void kamC_BaselineCorrection::CowDtor(void* p) { fw_CowDtor<kamC_BaselineCorrection>(p); }
 
 // Written so that a NaN end time fails.
 void kamC_BaselineCorrection::AssertValid() const {
@@ -17,3 +12,5 @@ void kamC_BaselineCorrection::AssertValid() const {
     kamC_Assert(ok, kamC_InvalidBaselineCorrection);
   }
 }
+
+template class fw_PersistentClass<kamC_BaselineCorrection, mem_Allocated>;

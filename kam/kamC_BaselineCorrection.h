@@ -1,6 +1,7 @@
 #pragma once
 // A baseline correction of a tabular or equally spaced amplitude: the end times of the
 // correction intervals, ascending from zero on.
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/base/cow_List.h"
@@ -10,7 +11,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kamC_BaselineCorrection : public mem_Allocated {
+class kamC_BaselineCorrection : public fw_PersistentClass<kamC_BaselineCorrection, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "kamC_BaselineCorrection";
   static constexpr const char* kScriptName = "BaselineCorrection";
@@ -28,14 +29,7 @@ class kamC_BaselineCorrection : public mem_Allocated {
   explicit kamC_BaselineCorrection(cow_List<double> v) : intervals(std::move(v)) {}
   explicit kamC_BaselineCorrection(const cls_ReadVisitor& r);
   virtual ~kamC_BaselineCorrection() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual kamC_BaselineCorrection* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_BaselineCorrection& o) const;
-  bool operator!=(const kamC_BaselineCorrection& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   const cow_List<double>& GetIntervals() const { return intervals; }
@@ -45,3 +39,5 @@ class kamC_BaselineCorrection : public mem_Allocated {
   cow_List<double> intervals;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kamC_BaselineCorrection, mem_Allocated>;

@@ -1,14 +1,9 @@
 #include "kam/kamC_CorrelationComponent.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kam/kamC_assert.h"
 
 kamC_CorrelationComponent::kamC_CorrelationComponent(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
-void kamC_CorrelationComponent::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kamC_CorrelationComponent* kamC_CorrelationComponent::Copy() const { return new kamC_CorrelationComponent(*this); }
-bool kamC_CorrelationComponent::operator==(const kamC_CorrelationComponent& o) const { return fw_EqualFields(*this, o); }
-void kamC_CorrelationComponent::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kamC_CorrelationComponent>(r); }
-void kamC_CorrelationComponent::CowDtor(void* p) { fw_CowDtor<kamC_CorrelationComponent>(p); }
 
 // USER takes no data at all (28). Moving noise is refused as unsupported (26), but a list longer
 // than it could ever take is reported first (29), so that each message can be met. Every other
@@ -26,3 +21,5 @@ void kamC_CorrelationComponent::AssertValid() const {
   kamC_Assert(!dataList.empty(), kamC_NoDataValue);
   kamC_Assert(dataList.size() <= 2, kamC_CorrelatedDataTooLong);
 }
+
+template class fw_PersistentClass<kamC_CorrelationComponent, mem_Allocated>;

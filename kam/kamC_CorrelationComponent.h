@@ -3,6 +3,7 @@
 // data that the approach takes.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/base/cow_List.h"
@@ -13,7 +14,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kamC_CorrelationComponent : public mem_Allocated {
+class kamC_CorrelationComponent : public fw_PersistentClass<kamC_CorrelationComponent, mem_Allocated> {
  public:
   enum class CorrelationApproachEnm : std::int32_t { CORRELATED = 0, UNCORRELATED = 1, MOVING_NOISE = 2, USER = 3 };
   // The table lists USER before MOVING_NOISE although their values run the other way; both the
@@ -38,14 +39,7 @@ class kamC_CorrelationComponent : public mem_Allocated {
   kamC_CorrelationComponent() = default;
   explicit kamC_CorrelationComponent(const cls_ReadVisitor& r);
   virtual ~kamC_CorrelationComponent() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual kamC_CorrelationComponent* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_CorrelationComponent& o) const;
-  bool operator!=(const kamC_CorrelationComponent& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   CorrelationApproachEnm GetApproach() const { return approach; }
@@ -58,3 +52,5 @@ class kamC_CorrelationComponent : public mem_Allocated {
   cow_List<double> dataList{1.0};
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kamC_CorrelationComponent, mem_Allocated>;

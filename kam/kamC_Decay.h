@@ -1,8 +1,9 @@
 #pragma once
 // An exponential decay: initial + maximum exp(-(t - start) / decayTime) from the start on.
+#include "framework/fw_PersistentClass.h"
 #include "kam/kamC_Amplitude.h"
 
-class kamC_Decay : public kamC_Amplitude {
+class kamC_Decay : public fw_PersistentClass<kamC_Decay, kamC_Amplitude> {
  public:
   using BaseClass = kamC_Amplitude;
   using RootClass = kamC_Amplitude;
@@ -24,15 +25,8 @@ class kamC_Decay : public kamC_Amplitude {
 
   kamC_Decay() = default;
   explicit kamC_Decay(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_Decay* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_Decay& o) const;
-  bool operator!=(const kamC_Decay& o) const { return !(*this == o); }
 
   double GetInitial() const { return initial; }
   void SetInitial(double v) { initial = v; }
@@ -43,12 +37,11 @@ class kamC_Decay : public kamC_Amplitude {
   double GetDecayTime() const { return decayTime; }
   void SetDecayTime(double v) { decayTime = v; }
 
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
-
  private:
   double initial = 0.0;
   double maximum = 1.0;
   double start = 0.0;
   double decayTime = 1.0;
 };
+
+extern template class fw_PersistentClass<kamC_Decay, kamC_Amplitude>;

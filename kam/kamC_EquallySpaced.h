@@ -1,13 +1,14 @@
 #pragma once
 // An amplitude given as values at a fixed time interval from a start time, optionally smoothed
 // and baseline corrected.
+#include "framework/fw_PersistentClass.h"
 #include "kam/kamC_Amplitude.h"
 #include "kam/kamC_BaselineCorrection.h"
 #include "kam/kamC_Smoothing.h"
 #include "platform/base/cow_COW.h"
 #include "platform/base/cow_List.h"
 
-class kamC_EquallySpaced : public kamC_Amplitude {
+class kamC_EquallySpaced : public fw_PersistentClass<kamC_EquallySpaced, kamC_Amplitude> {
  public:
   enum class SmoothEnm : std::int32_t { SOLVER_DEFAULT = 0 };
   static constexpr omu_EnumLiteral kSmoothLiterals[] = {{"SOLVER_DEFAULT", 0}, {nullptr, 0}};
@@ -36,15 +37,8 @@ class kamC_EquallySpaced : public kamC_Amplitude {
 
   kamC_EquallySpaced() = default;
   explicit kamC_EquallySpaced(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_EquallySpaced* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_EquallySpaced& o) const;
-  bool operator!=(const kamC_EquallySpaced& o) const { return !(*this == o); }
 
   double GetFixedInterval() const { return fixedInterval; }
   void SetFixedInterval(double v) { fixedInterval = v; }
@@ -64,9 +58,6 @@ class kamC_EquallySpaced : public kamC_Amplitude {
   const kamC_BaselineCorrection* FindBaselineCorrection() const override;
   kamC_BaselineCorrection* ModifyBaselineCorrection() override;
 
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
-
  private:
   double fixedInterval = 1.0;
   double begin = 0.0;
@@ -74,3 +65,5 @@ class kamC_EquallySpaced : public kamC_Amplitude {
   cow_List<double> data{0.0, 1.0};
   BaselineHandle baselineCorrection;
 };
+
+extern template class fw_PersistentClass<kamC_EquallySpaced, kamC_Amplitude>;

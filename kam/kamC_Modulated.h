@@ -1,8 +1,9 @@
 #pragma once
 // A modulated sine: initial + magnitude sin(frequency1 (t - start)) sin(frequency2 (t - start)).
+#include "framework/fw_PersistentClass.h"
 #include "kam/kamC_Amplitude.h"
 
-class kamC_Modulated : public kamC_Amplitude {
+class kamC_Modulated : public fw_PersistentClass<kamC_Modulated, kamC_Amplitude> {
  public:
   using BaseClass = kamC_Amplitude;
   using RootClass = kamC_Amplitude;
@@ -25,15 +26,8 @@ class kamC_Modulated : public kamC_Amplitude {
 
   kamC_Modulated() = default;
   explicit kamC_Modulated(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_Modulated* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_Modulated& o) const;
-  bool operator!=(const kamC_Modulated& o) const { return !(*this == o); }
 
   double GetInitial() const { return initial; }
   void SetInitial(double v) { initial = v; }
@@ -46,9 +40,6 @@ class kamC_Modulated : public kamC_Amplitude {
   double GetFrequency2() const { return frequency2; }
   void SetFrequency2(double v) { frequency2 = v; }
 
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
-
  private:
   double initial = 0.0;
   double magnitude = 1.0;
@@ -56,3 +47,5 @@ class kamC_Modulated : public kamC_Amplitude {
   double frequency1 = 1.0;
   double frequency2 = 1.0;
 };
+
+extern template class fw_PersistentClass<kamC_Modulated, kamC_Amplitude>;

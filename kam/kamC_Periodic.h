@@ -1,10 +1,11 @@
 #pragma once
 // A Fourier series in time: a_0 plus, per row of the table, A cos(n w (t - start)) + B sin(n w (t - start)),
 // with w the circular frequency.
+#include "framework/fw_PersistentClass.h"
 #include "kam/kamC_Amplitude.h"
 #include "platform/base/cow_2DArray.h"
 
-class kamC_Periodic : public kamC_Amplitude {
+class kamC_Periodic : public fw_PersistentClass<kamC_Periodic, kamC_Amplitude> {
  public:
   using BaseClass = kamC_Amplitude;
   using RootClass = kamC_Amplitude;
@@ -26,15 +27,8 @@ class kamC_Periodic : public kamC_Amplitude {
 
   kamC_Periodic() = default;
   explicit kamC_Periodic(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_Periodic* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_Periodic& o) const;
-  bool operator!=(const kamC_Periodic& o) const { return !(*this == o); }
 
   double GetFrequency() const { return frequency; }
   void SetFrequency(double v) { frequency = v; }
@@ -45,12 +39,11 @@ class kamC_Periodic : public kamC_Amplitude {
   const cow_2DArray<double>& GetData() const { return data; }
   void SetData(const cow_2DArray<double>& v) { data = v; }
 
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
-
  private:
   double frequency = 1.0;
   double start = 0.0;
   double a_0 = 0.0;
   cow_2DArray<double> data{{1.0, 0.0}};
 };
+
+extern template class fw_PersistentClass<kamC_Periodic, kamC_Amplitude>;

@@ -1,15 +1,9 @@
 #include "kam/kamC_PsdDefinition.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kam/kamC_assert.h"
 
-kamC_PsdDefinition::kamC_PsdDefinition(const cls_ReadVisitor& reader) : kamC_Amplitude(reader) { fw_ReadFields(*this, reader); }
-void kamC_PsdDefinition::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kamC_PsdDefinition* kamC_PsdDefinition::Copy() const { return new kamC_PsdDefinition(*this); }
-bool kamC_PsdDefinition::operator==(const kamC_PsdDefinition& o) const { return fw_EqualFields(*this, o); }
-bool kamC_PsdDefinition::SameAs(const kamC_Amplitude& o) const { return *this == static_cast<const kamC_PsdDefinition&>(o); }
-void kamC_PsdDefinition::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kamC_PsdDefinition>(r); }
-void kamC_PsdDefinition::CowDtor(void* p) { fw_CowDtor<kamC_PsdDefinition>(p); }
+kamC_PsdDefinition::kamC_PsdDefinition(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 // In the stated order; written so that a NaN reference fails. Band numbers are checked as numbers
 // (a fraction inside 1 to 15 passes).
@@ -26,3 +20,5 @@ void kamC_PsdDefinition::AssertValid() const {
   if (!db) return;
   for (std::size_t r = 0; r < data.Rows(); ++r) kamC_Assert(data(r, 0) >= 1 && data(r, 0) <= 15, kamC_BandNumberOutOfRange);
 }
+
+template class fw_PersistentClass<kamC_PsdDefinition, kamC_Amplitude>;

@@ -1,10 +1,11 @@
 #pragma once
 // A power spectral density definition: (frequency, real, imaginary) rows of a base motion or a
 // force, or (band number, decibels, ...) rows in decibels against a reference, or a user subroutine.
+#include "framework/fw_PersistentClass.h"
 #include "kam/kamC_Amplitude.h"
 #include "platform/base/cow_2DArray.h"
 
-class kamC_PsdDefinition : public kamC_Amplitude {
+class kamC_PsdDefinition : public fw_PersistentClass<kamC_PsdDefinition, kamC_Amplitude> {
  public:
   enum class PsdTypeEnm : std::int32_t { BASE = 0, FORCE = 1, DB = 2 };
   static constexpr omu_EnumLiteral kPsdTypeLiterals[] = {{"BASE", 0}, {"FORCE", 1}, {"DB", 2}, {nullptr, 0}};
@@ -32,15 +33,8 @@ class kamC_PsdDefinition : public kamC_Amplitude {
 
   kamC_PsdDefinition() = default;
   explicit kamC_PsdDefinition(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_PsdDefinition* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_PsdDefinition& o) const;
-  bool operator!=(const kamC_PsdDefinition& o) const { return !(*this == o); }
 
   PsdTypeEnm GetUnitType() const { return unitType; }
   void SetUnitType(PsdTypeEnm v) { unitType = v; }
@@ -55,9 +49,6 @@ class kamC_PsdDefinition : public kamC_Amplitude {
   const cow_2DArray<double>& GetData() const { return data; }
   void SetData(const cow_2DArray<double>& v) { data = v; }
 
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
-
  private:
   PsdTypeEnm unitType = PsdTypeEnm::BASE;
   double referencePower = 0.0;
@@ -66,3 +57,5 @@ class kamC_PsdDefinition : public kamC_Amplitude {
   double dbReference = 1.0;
   cow_2DArray<double> data{0, 3};
 };
+
+extern template class fw_PersistentClass<kamC_PsdDefinition, kamC_Amplitude>;

@@ -1,11 +1,12 @@
 #pragma once
 // An amplitude that ramps between (time, amplitude) points with a smooth step, so that its first
 // and second derivatives vanish at every point.
+#include "framework/fw_PersistentClass.h"
 #include "kam/kamC_Amplitude.h"
 #include "kam/kamC_TableChecks.h"
 #include "platform/base/cow_2DArray.h"
 
-class kamC_SmoothStep : public kamC_Amplitude {
+class kamC_SmoothStep : public fw_PersistentClass<kamC_SmoothStep, kamC_Amplitude> {
  public:
   using BaseClass = kamC_Amplitude;
   using RootClass = kamC_Amplitude;
@@ -24,22 +25,14 @@ class kamC_SmoothStep : public kamC_Amplitude {
 
   kamC_SmoothStep() = default;
   explicit kamC_SmoothStep(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_SmoothStep* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_SmoothStep& o) const;
-  bool operator!=(const kamC_SmoothStep& o) const { return !(*this == o); }
 
   const cow_2DArray<double>& GetData() const { return data; }
   void SetData(const cow_2DArray<double>& v) { data = v; }
 
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
-
  private:
   cow_2DArray<double> data{{0.0, 0.0}, {1.0, 1.0}};
 };
+
+extern template class fw_PersistentClass<kamC_SmoothStep, kamC_Amplitude>;

@@ -1,8 +1,9 @@
 #pragma once
 // An amplitude that the solution drives between a minimum and a maximum, starting from initial.
+#include "framework/fw_PersistentClass.h"
 #include "kam/kamC_Amplitude.h"
 
-class kamC_SolutionDependent : public kamC_Amplitude {
+class kamC_SolutionDependent : public fw_PersistentClass<kamC_SolutionDependent, kamC_Amplitude> {
  public:
   using BaseClass = kamC_Amplitude;
   using RootClass = kamC_Amplitude;
@@ -23,15 +24,8 @@ class kamC_SolutionDependent : public kamC_Amplitude {
 
   kamC_SolutionDependent() = default;
   explicit kamC_SolutionDependent(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_SolutionDependent* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_SolutionDependent& o) const;
-  bool operator!=(const kamC_SolutionDependent& o) const { return !(*this == o); }
 
   double GetInitial() const { return initial; }
   void SetInitial(double v) { initial = v; }
@@ -40,11 +34,10 @@ class kamC_SolutionDependent : public kamC_Amplitude {
   double GetMaximum() const { return maximum; }
   void SetMaximum(double v) { maximum = v; }
 
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
-
  private:
   double initial = 1.0;
   double minimum = 0.1;
   double maximum = 1000.0;
 };
+
+extern template class fw_PersistentClass<kamC_SolutionDependent, kamC_Amplitude>;

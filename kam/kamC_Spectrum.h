@@ -1,10 +1,11 @@
 #pragma once
 // kamC_Spectrum, a response spectrum table: (value, frequency, damping) rows of a displacement, velocity or
 // acceleration spectrum, with the gravity that scales it.
+#include "framework/fw_PersistentClass.h"
 #include "kam/kamC_Amplitude.h"
 #include "platform/base/cow_2DArray.h"
 
-class kamC_Spectrum : public kamC_Amplitude {
+class kamC_Spectrum : public fw_PersistentClass<kamC_Spectrum, kamC_Amplitude> {
  public:
   enum class SpectrumTypeEnm : std::int32_t { DISPLACEMENT = 0, VELOCITY = 1, ACCELERATION = 2 };
   static constexpr omu_EnumLiteral kSpectrumTypeLiterals[] = {{"DISPLACEMENT", 0}, {"VELOCITY", 1}, {"ACCELERATION", 2}, {nullptr, 0}};
@@ -29,15 +30,8 @@ class kamC_Spectrum : public kamC_Amplitude {
 
   kamC_Spectrum() = default;
   explicit kamC_Spectrum(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_Spectrum* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_Spectrum& o) const;
-  bool operator!=(const kamC_Spectrum& o) const { return !(*this == o); }
 
   SpectrumTypeEnm GetSpectrumType() const { return spectrumType; }
   void SetSpectrumType(SpectrumTypeEnm v) { spectrumType = v; }
@@ -46,11 +40,10 @@ class kamC_Spectrum : public kamC_Amplitude {
   const cow_2DArray<double>& GetData() const { return data; }
   void SetData(const cow_2DArray<double>& v) { data = v; }
 
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
-
  private:
   SpectrumTypeEnm spectrumType = SpectrumTypeEnm::ACCELERATION;
   double gravity = 1.0;
   cow_2DArray<double> data{0, 3};
 };
+
+extern template class fw_PersistentClass<kamC_Spectrum, kamC_Amplitude>;

@@ -1,11 +1,12 @@
 #pragma once
 // kamC_SpectrumAmplitude, a response spectrum defined by a table or calculated from an event amplitude.
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_OrLiteral.h"
 #include "kam/kamC_Amplitude.h"
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_String.h"
 
-class kamC_SpectrumAmplitude : public kamC_Amplitude {
+class kamC_SpectrumAmplitude : public fw_PersistentClass<kamC_SpectrumAmplitude, kamC_Amplitude> {
  public:
   enum class MethodEnm : std::int32_t { DEFINE = 0, CALCULATE = 1 };
   enum class SpecificationUnitsEnm : std::int32_t { DISPLACEMENT = 0, VELOCITY = 1, ACCELERATION = 2, GRAVITY = 3 };
@@ -45,15 +46,8 @@ class kamC_SpectrumAmplitude : public kamC_Amplitude {
 
   kamC_SpectrumAmplitude() = default;
   explicit kamC_SpectrumAmplitude(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_SpectrumAmplitude* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_SpectrumAmplitude& o) const;
-  bool operator!=(const kamC_SpectrumAmplitude& o) const { return !(*this == o); }
 
   MethodEnm GetMethod() const { return method; }
   void SetMethod(MethodEnm v) { method = v; }
@@ -74,9 +68,6 @@ class kamC_SpectrumAmplitude : public kamC_Amplitude {
   const cow_String& GetAmplitude() const { return amplitude; }
   void SetAmplitude(const cow_String& v) { amplitude = v; }
 
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
-
  private:
   MethodEnm method = MethodEnm::DEFINE;
   SpecificationUnitsEnm specificationUnits = SpecificationUnitsEnm::ACCELERATION;
@@ -88,3 +79,5 @@ class kamC_SpectrumAmplitude : public kamC_Amplitude {
   cow_2DArray<double> data;
   cow_String amplitude;
 };
+
+extern template class fw_PersistentClass<kamC_SpectrumAmplitude, kamC_Amplitude>;

@@ -1,13 +1,14 @@
 #pragma once
 // An amplitude given as a table of (time, amplitude) pairs, optionally smoothed and baseline
 // corrected.
+#include "framework/fw_PersistentClass.h"
 #include "kam/kamC_Amplitude.h"
 #include "kam/kamC_BaselineCorrection.h"
 #include "kam/kamC_Smoothing.h"
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_COW.h"
 
-class kamC_Tabular : public kamC_Amplitude {
+class kamC_Tabular : public fw_PersistentClass<kamC_Tabular, kamC_Amplitude> {
  public:
   enum class SmoothEnm : std::int32_t { SOLVER_DEFAULT = 0 };
   static constexpr omu_EnumLiteral kSmoothLiterals[] = {{"SOLVER_DEFAULT", 0}, {nullptr, 0}};
@@ -34,15 +35,8 @@ class kamC_Tabular : public kamC_Amplitude {
 
   kamC_Tabular() = default;
   explicit kamC_Tabular(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_Tabular* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_Tabular& o) const;
-  bool operator!=(const kamC_Tabular& o) const { return !(*this == o); }
 
   // The smoothing fraction; kamC_kUnspecified for the solver's default.
   double GetSmooth() const { return smooth.value; }
@@ -58,11 +52,10 @@ class kamC_Tabular : public kamC_Amplitude {
   const kamC_BaselineCorrection* FindBaselineCorrection() const override;
   kamC_BaselineCorrection* ModifyBaselineCorrection() override;
 
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
-
  private:
   kamC_Smoothing<SmoothEnm> smooth;
   cow_2DArray<double> data{{0.0, 0.0}, {1.0, 1.0}};
   BaselineHandle baselineCorrection;
 };
+
+extern template class fw_PersistentClass<kamC_Tabular, kamC_Amplitude>;

@@ -1,8 +1,9 @@
 #pragma once
 // An amplitude computed by a user subroutine with a number of solution-dependent variables.
+#include "framework/fw_PersistentClass.h"
 #include "kam/kamC_Amplitude.h"
 
-class kamC_UserAmplitude : public kamC_Amplitude {
+class kamC_UserAmplitude : public fw_PersistentClass<kamC_UserAmplitude, kamC_Amplitude> {
  public:
   using BaseClass = kamC_Amplitude;
   using RootClass = kamC_Amplitude;
@@ -21,22 +22,14 @@ class kamC_UserAmplitude : public kamC_Amplitude {
 
   kamC_UserAmplitude() = default;
   explicit kamC_UserAmplitude(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kamC_UserAmplitude* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kamC_UserAmplitude& o) const;
-  bool operator!=(const kamC_UserAmplitude& o) const { return !(*this == o); }
 
   std::int32_t GetNumVariables() const { return numVariables; }
   void SetNumVariables(std::int32_t v) { numVariables = v; }
 
- protected:
-  bool SameAs(const kamC_Amplitude& o) const override;
-
  private:
   std::int32_t numVariables = 0;
 };
+
+extern template class fw_PersistentClass<kamC_UserAmplitude, kamC_Amplitude>;

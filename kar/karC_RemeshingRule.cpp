@@ -4,15 +4,10 @@
 #include <set>
 #include <string>
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kar/karC_assert.h"
 
 karC_RemeshingRule::karC_RemeshingRule(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
-void karC_RemeshingRule::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-karC_RemeshingRule* karC_RemeshingRule::Copy() const { return new karC_RemeshingRule(*this); }
-bool karC_RemeshingRule::operator==(const karC_RemeshingRule& o) const { return fw_EqualFields(*this, o); }
-void karC_RemeshingRule::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<karC_RemeshingRule>(r); }
-void karC_RemeshingRule::CowDtor(void* p) { fw_CowDtor<karC_RemeshingRule>(p); }
 
 namespace {
 bool karC_IsSet(double v) { return v != karC_kUnspecified; }
@@ -41,3 +36,5 @@ void karC_RemeshingRule::AssertValid() const {
               karC_ElementSizeOrder);
   karC_Assert(elementCountLimit.value > 0, karC_ElementCountLimitNotPositive);
 }
+
+template class fw_PersistentClass<karC_RemeshingRule, mem_Allocated>;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "framework/fw_OrLiteral.h"
 #include "platform/base/bas_Alloc.h"
@@ -21,7 +22,7 @@ class cls_ClassRegistrar;
 // A size or factor left to the solver.
 inline constexpr double karC_kUnspecified = std::numeric_limits<double>::max();
 
-class karC_RemeshingRule : public mem_Allocated {
+class karC_RemeshingRule : public fw_PersistentClass<karC_RemeshingRule, mem_Allocated> {
  public:
   enum class OutputFrequencyEnm : std::int32_t { LAST_INCREMENT = 0, EVERY_N_INCREMENTS = 1 };
   enum class SizingMethodEnm : std::int32_t { DEFAULT = 0, UNIFORM_ERROR = 1, MINIMUM_MAXIMUM = 2 };
@@ -67,15 +68,8 @@ class karC_RemeshingRule : public mem_Allocated {
 
   karC_RemeshingRule() = default;
   explicit karC_RemeshingRule(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~karC_RemeshingRule() = default;
-  virtual karC_RemeshingRule* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const karC_RemeshingRule& o) const;
-  bool operator!=(const karC_RemeshingRule& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   bool GetSuppress() const { return suppress; }
@@ -127,3 +121,5 @@ class karC_RemeshingRule : public mem_Allocated {
   ElementCountLimit elementCountLimit;  // "UNLIMITED"
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<karC_RemeshingRule, mem_Allocated>;

@@ -1,16 +1,11 @@
 #include "kbe/kbeC_CDCTerm.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbe/kbeC_Traits.h"
 #include "kbe/kbeC_assert.h"
 #include "kbe/kbeC_Checks.h"
 
 kbeC_CDCTerm::kbeC_CDCTerm(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
-void kbeC_CDCTerm::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbeC_CDCTerm* kbeC_CDCTerm::Copy() const { return new kbeC_CDCTerm(*this); }
-bool kbeC_CDCTerm::operator==(const kbeC_CDCTerm& o) const { return fw_EqualFields(*this, o); }
-void kbeC_CDCTerm::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbeC_CDCTerm>(r); }
-void kbeC_CDCTerm::CowDtor(void* p) { fw_CowDtor<kbeC_CDCTerm>(p); }
 const kbeC_ConnectorOptions& kbeC_CDCTerm::GetOptions() const { return kbeC_Present(options, "options"); }
 kbeC_ConnectorOptions& kbeC_CDCTerm::ModifyOptions() { return kbeC_Present(options, "options"); }
 
@@ -26,3 +21,5 @@ void kbeC_CDCTerm::AssertValid() const {
     options->AssertValid();
   }
 }
+
+template class fw_PersistentClass<kbeC_CDCTerm, mem_Allocated>;

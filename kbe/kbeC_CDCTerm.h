@@ -3,6 +3,7 @@
 // weighted by a table over independent components.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/persist/cls_Uid.h"
@@ -18,7 +19,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kbeC_CDCTerm : public mem_Allocated {
+class kbeC_CDCTerm : public fw_PersistentClass<kbeC_CDCTerm, mem_Allocated> {
  public:
   enum class TermOperatorEnm : std::int32_t { RSS = 0, SUM = 1, MACAULEY = 2 };
   enum class TermSignEnm : std::int32_t { POSITIVE = 0, NEGATIVE = 1 };
@@ -54,15 +55,8 @@ class kbeC_CDCTerm : public mem_Allocated {
 
   kbeC_CDCTerm() = default;
   explicit kbeC_CDCTerm(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kbeC_CDCTerm() = default;
-  virtual kbeC_CDCTerm* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_CDCTerm& o) const;
-  bool operator!=(const kbeC_CDCTerm& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   TermOperatorEnm GetTermOperator() const { return termOperator; }
@@ -102,3 +96,5 @@ class kbeC_CDCTerm : public mem_Allocated {
   cow_COW<kbeC_ConnectorOptions> options;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kbeC_CDCTerm, mem_Allocated>;

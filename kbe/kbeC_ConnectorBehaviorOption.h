@@ -23,7 +23,9 @@ class kbeC_ConnectorBehaviorOption : public mem_Allocated {
 
   virtual ~kbeC_ConnectorBehaviorOption() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kbeC_ConnectorBehaviorOption* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kbeC_ConnectorBehaviorOption* Copy() const { return DoCopy(); }
+  virtual kbeC_ConnectorBehaviorOption* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The member shortcuts' refusal of a step that names a member of other kinds of option
   // ("options" on a lock); returns for any other name.

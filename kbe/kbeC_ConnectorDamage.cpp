@@ -1,16 +1,12 @@
 #include "kbe/kbeC_ConnectorDamage.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbe/kbeC_Traits.h"
 #include "kbe/kbeC_assert.h"
 #include "kbe/kbeC_Checks.h"
 #include "kbe/kbeC_PotentialIds.h"
 
-kbeC_ConnectorDamage::kbeC_ConnectorDamage(const cls_ReadVisitor& r) : kbeC_ConnectorBehaviorOption(r) { fw_ReadFields(*this, r); }
-void kbeC_ConnectorDamage::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbeC_ConnectorDamage* kbeC_ConnectorDamage::Copy() const { return new kbeC_ConnectorDamage(*this); }
-bool kbeC_ConnectorDamage::operator==(const kbeC_ConnectorDamage& o) const { return fw_EqualFields(*this, o); }
-bool kbeC_ConnectorDamage::SameAs(const kbeC_ConnectorBehaviorOption& o) const { return *this == static_cast<const kbeC_ConnectorDamage&>(o); }
+kbeC_ConnectorDamage::kbeC_ConnectorDamage(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 namespace {
 struct kbeDamage_InitiationPotentials {
   using C = kbeC_ConnectorDamage;
@@ -32,7 +28,6 @@ struct kbeDamage_EvolutionPotentials {
 void kbeC_ConnectorDamage::InitializeMetadata(cls_ClassRegistrar& r) {
   kbeC_InitializePotentialIdMetadata<kbeC_ConnectorDamage, kbeDamage_InitiationPotentials, kbeDamage_EvolutionPotentials>(r);
 }
-void kbeC_ConnectorDamage::CowDtor(void* p) { fw_CowDtor<kbeC_ConnectorDamage>(p); }
 const kbeC_ConnectorOptions& kbeC_ConnectorDamage::GetInitiationOptions() const { return kbeC_Present(initiationOptions, "initiationOptions"); }
 kbeC_ConnectorOptions& kbeC_ConnectorDamage::ModifyInitiationOptions() { return kbeC_Present(initiationOptions, "initiationOptions"); }
 const kbeC_ConnectorOptions& kbeC_ConnectorDamage::GetEvolutionOptions() const { return kbeC_Present(evolutionOptions, "evolutionOptions"); }
@@ -78,3 +73,5 @@ void kbeC_ConnectorDamage::AssertValid() const {
     kbeC_AssertContent(evolutionOptions->RateOptionsAtDefaults(), kbeC_RateOptionsNotAllowed, "Damage; evolution");
   }
 }
+
+template class fw_PersistentClass<kbeC_ConnectorDamage, kbeC_ConnectorBehaviorOption>;

@@ -3,6 +3,7 @@
 // optionally coupled through a potential.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
 #include "kbe/kbeC_Values.h"
@@ -22,7 +23,7 @@ enum class kbeC_StoredEvolutionOperatorEnm : std::int32_t { EVOLUTION_SUM = 0, E
 inline constexpr omu_EnumLiteral kbeC_kStoredEvolutionOperatorLiterals[] = {{"EVOLUTION_SUM", 0}, {"EVOLUTION_MAXIMUM", 1}, {nullptr, 0}};
 constexpr const omu_EnumLiteral* omu_LiteralTable(kbeC_StoredEvolutionOperatorEnm) { return kbeC_kStoredEvolutionOperatorLiterals; }
 
-class kbeC_ConnectorDamage : public kbeC_ConnectorBehaviorOption {
+class kbeC_ConnectorDamage : public fw_PersistentClass<kbeC_ConnectorDamage, kbeC_ConnectorBehaviorOption> {
  public:
   using BaseClass = kbeC_ConnectorBehaviorOption;
   using RootClass = kbeC_ConnectorBehaviorOption;
@@ -87,15 +88,9 @@ class kbeC_ConnectorDamage : public kbeC_ConnectorBehaviorOption {
 
   kbeC_ConnectorDamage() = default;
   explicit kbeC_ConnectorDamage(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbeC_ConnectorDamage* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_ConnectorDamage& o) const;
-  bool operator!=(const kbeC_ConnectorDamage& o) const { return !(*this == o); }
 
   // Append a potential to one list and count it in that list's last-used potential id.
   void AppendInitiationPotential(const kbeC_ConnectorPotential& p);
@@ -159,9 +154,6 @@ class kbeC_ConnectorDamage : public kbeC_ConnectorBehaviorOption {
   std::int32_t GetLastEvoId() const { return lastEvoId; }
   void SetLastEvoId(std::int32_t v) { lastEvoId = v; }
 
- protected:
-  bool SameAs(const kbeC_ConnectorBehaviorOption& o) const override;
-
  private:
   cow_List<std::int32_t> components;
   CouplingEnm coupling = CouplingEnm::UNCOUPLED;
@@ -189,3 +181,5 @@ class kbeC_ConnectorDamage : public kbeC_ConnectorBehaviorOption {
   cow_List<cow_COW<kbeC_ConnectorPotential>> evolutionPotentials;
   std::int32_t lastEvoId = 0;
 };
+
+extern template class fw_PersistentClass<kbeC_ConnectorDamage, kbeC_ConnectorBehaviorOption>;

@@ -1,17 +1,11 @@
 #include "kbe/kbeC_ConnectorDamping.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbe/kbeC_Traits.h"
 #include "kbe/kbeC_assert.h"
 #include "kbe/kbeC_Checks.h"
 
-kbeC_ConnectorDamping::kbeC_ConnectorDamping(const cls_ReadVisitor& r) : kbeC_ConnectorBehaviorOption(r) { fw_ReadFields(*this, r); }
-void kbeC_ConnectorDamping::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbeC_ConnectorDamping* kbeC_ConnectorDamping::Copy() const { return new kbeC_ConnectorDamping(*this); }
-bool kbeC_ConnectorDamping::operator==(const kbeC_ConnectorDamping& o) const { return fw_EqualFields(*this, o); }
-bool kbeC_ConnectorDamping::SameAs(const kbeC_ConnectorBehaviorOption& o) const { return *this == static_cast<const kbeC_ConnectorDamping&>(o); }
-void kbeC_ConnectorDamping::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbeC_ConnectorDamping>(r); }
-void kbeC_ConnectorDamping::CowDtor(void* p) { fw_CowDtor<kbeC_ConnectorDamping>(p); }
+kbeC_ConnectorDamping::kbeC_ConnectorDamping(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 const kbeC_ConnectorOptions& kbeC_ConnectorDamping::GetOptions() const { return kbeC_Present(options, "options"); }
 kbeC_ConnectorOptions& kbeC_ConnectorDamping::ModifyOptions() { return kbeC_Present(options, "options"); }
 
@@ -24,3 +18,5 @@ void kbeC_ConnectorDamping::AssertValid() const {
                     frequencyDependency, independentComponents, table, options.IsNull() ? nullptr : &options.Get()};
   kbeC_CheckSpringLike(s, "Damping");
 }
+
+template class fw_PersistentClass<kbeC_ConnectorDamping, kbeC_ConnectorBehaviorOption>;

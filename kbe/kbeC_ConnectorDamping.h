@@ -2,6 +2,7 @@
 // Damping of connector components, viscous or structural, linear or nonlinear, coupled or not.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
 #include "kbe/kbeC_Values.h"
@@ -12,7 +13,7 @@
 #include "platform/base/omu_PrimEnum.h"
 #include "kbe/kbeC_ConnectorOptions.h"
 
-class kbeC_ConnectorDamping : public kbeC_ConnectorBehaviorOption {
+class kbeC_ConnectorDamping : public fw_PersistentClass<kbeC_ConnectorDamping, kbeC_ConnectorBehaviorOption> {
  public:
   using BaseClass = kbeC_ConnectorBehaviorOption;
   using RootClass = kbeC_ConnectorBehaviorOption;
@@ -50,15 +51,8 @@ class kbeC_ConnectorDamping : public kbeC_ConnectorBehaviorOption {
 
   kbeC_ConnectorDamping() = default;
   explicit kbeC_ConnectorDamping(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbeC_ConnectorDamping* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_ConnectorDamping& o) const;
-  bool operator!=(const kbeC_ConnectorDamping& o) const { return !(*this == o); }
 
   const cow_List<std::int32_t>& GetComponents() const { return components; }
   void SetComponents(const cow_List<std::int32_t>& v) { components = v; }
@@ -84,9 +78,6 @@ class kbeC_ConnectorDamping : public kbeC_ConnectorBehaviorOption {
   ConnDampTypeEnum GetConnDampType() const { return connDampType; }
   void SetConnDampType(ConnDampTypeEnum v) { connDampType = v; }
 
- protected:
-  bool SameAs(const kbeC_ConnectorBehaviorOption& o) const override;
-
  private:
   cow_List<std::int32_t> components;
   BehaviorEnm behavior = BehaviorEnm::LINEAR;
@@ -99,3 +90,5 @@ class kbeC_ConnectorDamping : public kbeC_ConnectorBehaviorOption {
   cow_COW<kbeC_ConnectorOptions> options;
   ConnDampTypeEnum connDampType = ConnDampTypeEnum::VISCOUS;
 };
+
+extern template class fw_PersistentClass<kbeC_ConnectorDamping, kbeC_ConnectorBehaviorOption>;

@@ -2,6 +2,7 @@
 // Elastic behavior of connector components: linear, nonlinear or rigid, coupled or not.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
 #include "kbe/kbeC_Values.h"
@@ -12,7 +13,7 @@
 #include "platform/base/omu_PrimEnum.h"
 #include "kbe/kbeC_ConnectorOptions.h"
 
-class kbeC_ConnectorElasticity : public kbeC_ConnectorBehaviorOption {
+class kbeC_ConnectorElasticity : public fw_PersistentClass<kbeC_ConnectorElasticity, kbeC_ConnectorBehaviorOption> {
  public:
   using BaseClass = kbeC_ConnectorBehaviorOption;
   using RootClass = kbeC_ConnectorBehaviorOption;
@@ -46,15 +47,8 @@ class kbeC_ConnectorElasticity : public kbeC_ConnectorBehaviorOption {
 
   kbeC_ConnectorElasticity() = default;
   explicit kbeC_ConnectorElasticity(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbeC_ConnectorElasticity* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_ConnectorElasticity& o) const;
-  bool operator!=(const kbeC_ConnectorElasticity& o) const { return !(*this == o); }
 
   const cow_List<std::int32_t>& GetComponents() const { return components; }
   void SetComponents(const cow_List<std::int32_t>& v) { components = v; }
@@ -78,9 +72,6 @@ class kbeC_ConnectorElasticity : public kbeC_ConnectorBehaviorOption {
   void SetOptions(const kbeC_ConnectorOptions& v) { options = cow_COW<kbeC_ConnectorOptions>(v); }
   void ClearOptions() { options = cow_COW<kbeC_ConnectorOptions>(); }
 
- protected:
-  bool SameAs(const kbeC_ConnectorBehaviorOption& o) const override;
-
  private:
   cow_List<std::int32_t> components;
   BehaviorEnm behavior = BehaviorEnm::LINEAR;
@@ -92,3 +83,5 @@ class kbeC_ConnectorElasticity : public kbeC_ConnectorBehaviorOption {
   cow_2DArray<double> table;
   cow_COW<kbeC_ConnectorOptions> options;
 };
+
+extern template class fw_PersistentClass<kbeC_ConnectorElasticity, kbeC_ConnectorBehaviorOption>;

@@ -1,20 +1,15 @@
 #include "kbe/kbeC_ConnectorFriction.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbe/kbeC_Traits.h"
 #include "kbe/kbeC_assert.h"
 #include "kbe/kbeC_Checks.h"
 #include "kbe/kbeC_PotentialIds.h"
 
-kbeC_ConnectorFriction::kbeC_ConnectorFriction(const cls_ReadVisitor& r) : kbeC_ConnectorBehaviorOption(r) { fw_ReadFields(*this, r); }
-void kbeC_ConnectorFriction::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbeC_ConnectorFriction* kbeC_ConnectorFriction::Copy() const { return new kbeC_ConnectorFriction(*this); }
-bool kbeC_ConnectorFriction::operator==(const kbeC_ConnectorFriction& o) const { return fw_EqualFields(*this, o); }
-bool kbeC_ConnectorFriction::SameAs(const kbeC_ConnectorBehaviorOption& o) const { return *this == static_cast<const kbeC_ConnectorFriction&>(o); }
+kbeC_ConnectorFriction::kbeC_ConnectorFriction(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 void kbeC_ConnectorFriction::InitializeMetadata(cls_ClassRegistrar& r) {
   kbeC_InitializePotentialIdMetadata<kbeC_ConnectorFriction, kbeC_PlainPotentialIds<kbeC_ConnectorFriction>>(r);
 }
-void kbeC_ConnectorFriction::CowDtor(void* p) { fw_CowDtor<kbeC_ConnectorFriction>(p); }
 const kbeC_TangentialBehavior& kbeC_ConnectorFriction::GetTangentialBehavior() const { return kbeC_Present(tangentialBehavior, "tangentialBehavior"); }
 kbeC_TangentialBehavior& kbeC_ConnectorFriction::ModifyTangentialBehavior() { return kbeC_Present(tangentialBehavior, "tangentialBehavior"); }
 const kbeC_DerivedComponent& kbeC_ConnectorFriction::GetDerivedComponent() const { return kbeC_Present(derivedComponent, "derivedComponent"); }
@@ -56,3 +51,5 @@ void kbeC_ConnectorFriction::AssertValid() const {
                        kbeC_RateOptionsNotAllowed, "Friction; internal contact forces");
   }
 }
+
+template class fw_PersistentClass<kbeC_ConnectorFriction, kbeC_ConnectorBehaviorOption>;

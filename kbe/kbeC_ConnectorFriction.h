@@ -3,6 +3,7 @@
 // force data, a contact-force component or potentials) and its friction law.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "framework/fw_OrLiteral.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
@@ -26,7 +27,7 @@ enum class kbeC_StoredContactForceStyleEnm : std::int32_t { NUMBER = 0, DERIV_CO
 inline constexpr omu_EnumLiteral kbeC_kStoredContactForceStyleLiterals[] = {{"NUMBER", 0}, {"DERIV_COMP", 1}, {nullptr, 0}};
 constexpr const omu_EnumLiteral* omu_LiteralTable(kbeC_StoredContactForceStyleEnm) { return kbeC_kStoredContactForceStyleLiterals; }
 
-class kbeC_ConnectorFriction : public kbeC_ConnectorBehaviorOption {
+class kbeC_ConnectorFriction : public fw_PersistentClass<kbeC_ConnectorFriction, kbeC_ConnectorBehaviorOption> {
  public:
   using BaseClass = kbeC_ConnectorBehaviorOption;
   using RootClass = kbeC_ConnectorBehaviorOption;
@@ -81,15 +82,9 @@ class kbeC_ConnectorFriction : public kbeC_ConnectorBehaviorOption {
 
   kbeC_ConnectorFriction() = default;
   explicit kbeC_ConnectorFriction(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbeC_ConnectorFriction* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_ConnectorFriction& o) const;
-  bool operator!=(const kbeC_ConnectorFriction& o) const { return !(*this == o); }
 
   // Appends a potential and counts it in the last-used potential id.
   void AppendConnectorPotential(const kbeC_ConnectorPotential& p);
@@ -147,9 +142,6 @@ class kbeC_ConnectorFriction : public kbeC_ConnectorBehaviorOption {
   void SetOptions(const kbeC_ConnectorOptions& v) { options = cow_COW<kbeC_ConnectorOptions>(v); }
   void ClearOptions() { options = cow_COW<kbeC_ConnectorOptions>(); }
 
- protected:
-  bool SameAs(const kbeC_ConnectorBehaviorOption& o) const override;
-
  private:
   FrictionModelEnm frictionModel = FrictionModelEnm::PREDEFINED;
   SlipStyleEnm slipStyle = SlipStyleEnm::SPECIFY;
@@ -173,3 +165,5 @@ class kbeC_ConnectorFriction : public kbeC_ConnectorBehaviorOption {
   cow_2DArray<double> table;
   cow_COW<kbeC_ConnectorOptions> options;
 };
+
+extern template class fw_PersistentClass<kbeC_ConnectorFriction, kbeC_ConnectorBehaviorOption>;

@@ -2,6 +2,7 @@
 // Locking of a connector: the motion and force limits at which components lock.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "framework/fw_OrLiteral.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
@@ -12,7 +13,7 @@
 #include "platform/base/cow_String.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kbeC_ConnectorLock : public kbeC_ConnectorBehaviorOption {
+class kbeC_ConnectorLock : public fw_PersistentClass<kbeC_ConnectorLock, kbeC_ConnectorBehaviorOption> {
  public:
   using BaseClass = kbeC_ConnectorBehaviorOption;
   using RootClass = kbeC_ConnectorBehaviorOption;
@@ -40,15 +41,8 @@ class kbeC_ConnectorLock : public kbeC_ConnectorBehaviorOption {
 
   kbeC_ConnectorLock() = default;
   explicit kbeC_ConnectorLock(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbeC_ConnectorLock* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_ConnectorLock& o) const;
-  bool operator!=(const kbeC_ConnectorLock& o) const { return !(*this == o); }
 
   const cow_List<std::int32_t>& GetComponents() const { return components; }
   void SetComponents(const cow_List<std::int32_t>& v) { components = v; }
@@ -63,9 +57,6 @@ class kbeC_ConnectorLock : public kbeC_ConnectorBehaviorOption {
   double GetMaxForce() const { return maxForce; }
   void SetMaxForce(double v) { maxForce = v; }
 
- protected:
-  bool SameAs(const kbeC_ConnectorBehaviorOption& o) const override;
-
  private:
   cow_List<std::int32_t> components;
   kbeC_ComponentOrAll<LockingComponentEnm> lockingComponent = kbeC_kAll;
@@ -74,3 +65,5 @@ class kbeC_ConnectorLock : public kbeC_ConnectorBehaviorOption {
   fw_Unspecified minForce = kbeC_kUnspecified;
   fw_Unspecified maxForce = kbeC_kUnspecified;
 };
+
+extern template class fw_PersistentClass<kbeC_ConnectorLock, kbeC_ConnectorBehaviorOption>;

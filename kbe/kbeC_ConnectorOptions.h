@@ -3,6 +3,7 @@
 // rate factor, interpolation and extrapolation of the table data.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/persist/cls_Uid.h"
@@ -17,7 +18,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kbeC_ConnectorOptions : public mem_Allocated {
+class kbeC_ConnectorOptions : public fw_PersistentClass<kbeC_ConnectorOptions, mem_Allocated> {
  public:
   enum class InterpolationEnm : std::int32_t { LINEAR = 0, LOGARITHMIC = 1 };
   enum class ExtrapolationEnm : std::int32_t { CONSTANT = 0, LINEAR = 1 };
@@ -49,15 +50,8 @@ class kbeC_ConnectorOptions : public mem_Allocated {
 
   kbeC_ConnectorOptions() = default;
   explicit kbeC_ConnectorOptions(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kbeC_ConnectorOptions() = default;
-  virtual kbeC_ConnectorOptions* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_ConnectorOptions& o) const;
-  bool operator!=(const kbeC_ConnectorOptions& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   // The default rate factor.
@@ -109,3 +103,5 @@ class kbeC_ConnectorOptions : public mem_Allocated {
   ExtrapolationEnm extrapolation = ExtrapolationEnm::CONSTANT;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kbeC_ConnectorOptions, mem_Allocated>;

@@ -1,20 +1,15 @@
 #include "kbe/kbeC_ConnectorPlasticity.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbe/kbeC_Traits.h"
 #include "kbe/kbeC_assert.h"
 #include "kbe/kbeC_Checks.h"
 #include "kbe/kbeC_PotentialIds.h"
 
-kbeC_ConnectorPlasticity::kbeC_ConnectorPlasticity(const cls_ReadVisitor& r) : kbeC_ConnectorBehaviorOption(r) { fw_ReadFields(*this, r); }
-void kbeC_ConnectorPlasticity::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbeC_ConnectorPlasticity* kbeC_ConnectorPlasticity::Copy() const { return new kbeC_ConnectorPlasticity(*this); }
-bool kbeC_ConnectorPlasticity::operator==(const kbeC_ConnectorPlasticity& o) const { return fw_EqualFields(*this, o); }
-bool kbeC_ConnectorPlasticity::SameAs(const kbeC_ConnectorBehaviorOption& o) const { return *this == static_cast<const kbeC_ConnectorPlasticity&>(o); }
+kbeC_ConnectorPlasticity::kbeC_ConnectorPlasticity(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 void kbeC_ConnectorPlasticity::InitializeMetadata(cls_ClassRegistrar& r) {
   kbeC_InitializePotentialIdMetadata<kbeC_ConnectorPlasticity, kbeC_PlainPotentialIds<kbeC_ConnectorPlasticity>>(r);
 }
-void kbeC_ConnectorPlasticity::CowDtor(void* p) { fw_CowDtor<kbeC_ConnectorPlasticity>(p); }
 const kbeC_ConnectorOptions& kbeC_ConnectorPlasticity::GetIsotropicOptions() const { return kbeC_Present(isotropicOptions, "isotropicOptions"); }
 kbeC_ConnectorOptions& kbeC_ConnectorPlasticity::ModifyIsotropicOptions() { return kbeC_Present(isotropicOptions, "isotropicOptions"); }
 const kbeC_ConnectorOptions& kbeC_ConnectorPlasticity::GetKinematicOptions() const { return kbeC_Present(kinematicOptions, "kinematicOptions"); }
@@ -77,3 +72,5 @@ void kbeC_ConnectorPlasticity::AssertValid() const {
     kbeC_AssertContent(kinematicOptions->RateOptionsAtDefaults(), kbeC_RateOptionsNotAllowed, "Plasticity; kinematic");
   }
 }
+
+template class fw_PersistentClass<kbeC_ConnectorPlasticity, kbeC_ConnectorBehaviorOption>;

@@ -3,6 +3,7 @@
 // through a force potential.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
 #include "kbe/kbeC_Values.h"
@@ -14,7 +15,7 @@
 #include "kbe/kbeC_ConnectorOptions.h"
 #include "kbe/kbeC_ConnectorPotential.h"
 
-class kbeC_ConnectorPlasticity : public kbeC_ConnectorBehaviorOption {
+class kbeC_ConnectorPlasticity : public fw_PersistentClass<kbeC_ConnectorPlasticity, kbeC_ConnectorBehaviorOption> {
  public:
   using BaseClass = kbeC_ConnectorBehaviorOption;
   using RootClass = kbeC_ConnectorBehaviorOption;
@@ -63,15 +64,9 @@ class kbeC_ConnectorPlasticity : public kbeC_ConnectorBehaviorOption {
 
   kbeC_ConnectorPlasticity() = default;
   explicit kbeC_ConnectorPlasticity(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbeC_ConnectorPlasticity* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_ConnectorPlasticity& o) const;
-  bool operator!=(const kbeC_ConnectorPlasticity& o) const { return !(*this == o); }
 
   // Appends a potential and counts it in the last-used potential id.
   void AppendConnectorPotential(const kbeC_ConnectorPotential& p);
@@ -119,9 +114,6 @@ class kbeC_ConnectorPlasticity : public kbeC_ConnectorBehaviorOption {
   std::int32_t GetLastId() const { return lastId; }
   void SetLastId(std::int32_t v) { lastId = v; }
 
- protected:
-  bool SameAs(const kbeC_ConnectorBehaviorOption& o) const override;
-
  private:
   cow_List<std::int32_t> components;
   CouplingEnm coupling = CouplingEnm::UNCOUPLED;
@@ -142,3 +134,5 @@ class kbeC_ConnectorPlasticity : public kbeC_ConnectorBehaviorOption {
   cow_List<cow_COW<kbeC_ConnectorPotential>> connectorPotentials;
   std::int32_t lastId = 0;
 };
+
+extern template class fw_PersistentClass<kbeC_ConnectorPlasticity, kbeC_ConnectorBehaviorOption>;

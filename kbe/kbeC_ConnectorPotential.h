@@ -3,6 +3,7 @@
 // shifted and raised to a power.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/persist/cls_Uid.h"
@@ -18,7 +19,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kbeC_ConnectorPotential : public mem_Allocated {
+class kbeC_ConnectorPotential : public fw_PersistentClass<kbeC_ConnectorPotential, mem_Allocated> {
  public:
   enum class ComponentStyleEnm : std::int32_t { COMPONENT_NUMBER = 0, DERIVED_COMPONENT = 1 };
   enum class SignEnm : std::int32_t { POSITIVE = 0, NEGATIVE = 1 };
@@ -53,15 +54,8 @@ class kbeC_ConnectorPotential : public mem_Allocated {
 
   kbeC_ConnectorPotential() = default;
   explicit kbeC_ConnectorPotential(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kbeC_ConnectorPotential() = default;
-  virtual kbeC_ConnectorPotential* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_ConnectorPotential& o) const;
-  bool operator!=(const kbeC_ConnectorPotential& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   ComponentStyleEnm GetComponentStyle() const { return componentStyle; }
@@ -98,3 +92,5 @@ class kbeC_ConnectorPotential : public mem_Allocated {
   cow_COW<kbeC_DerivedComponent> derivedComponent;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kbeC_ConnectorPotential, mem_Allocated>;

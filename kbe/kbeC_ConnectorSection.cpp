@@ -2,15 +2,10 @@
 
 #include <string>
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "platform/base/nex_Exception.h"
 
 kbeC_ConnectorSection::kbeC_ConnectorSection(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
-void kbeC_ConnectorSection::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbeC_ConnectorSection* kbeC_ConnectorSection::Copy() const { return new kbeC_ConnectorSection(*this); }
-bool kbeC_ConnectorSection::operator==(const kbeC_ConnectorSection& o) const { return fw_EqualFields(*this, o); }
-void kbeC_ConnectorSection::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbeC_ConnectorSection>(r); }
-void kbeC_ConnectorSection::CowDtor(void* p) { fw_CowDtor<kbeC_ConnectorSection>(p); }
 
 void kbeC_ConnectorSection::AppendBehaviorOption(const kbeC_ConnectorBehaviorOption& option) {
   behaviorOptions.Append(kbeC_ConnectorBehaviorOptionHandle(option.Copy()));
@@ -26,3 +21,5 @@ void kbeC_ConnectorSection::AssertValid() const {
   for (const auto& o : behaviorOptions)
     if (!o.IsNull()) o->AssertValid();
 }
+
+template class fw_PersistentClass<kbeC_ConnectorSection, mem_Allocated>;

@@ -4,6 +4,7 @@
 // can build behaviors where a model keeps them.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
 #include "platform/base/bas_Alloc.h"
@@ -21,7 +22,7 @@ using kbeC_ConnectorBehaviorOptionHandle =
     cow_COW<kbeC_ConnectorBehaviorOption, cow_Virtual<kbeC_ConnectorBehaviorOption>>;
 using kbeC_ConnectorBehaviorOptionList = cow_List<kbeC_ConnectorBehaviorOptionHandle>;
 
-class kbeC_ConnectorSection : public mem_Allocated {
+class kbeC_ConnectorSection : public fw_PersistentClass<kbeC_ConnectorSection, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "kbeC_ConnectorSection";
   static constexpr const char* kScriptName = "ConnectorSection";
@@ -37,16 +38,9 @@ class kbeC_ConnectorSection : public mem_Allocated {
 
   kbeC_ConnectorSection() = default;
   explicit kbeC_ConnectorSection(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kbeC_ConnectorSection() = default;
-  virtual kbeC_ConnectorSection* Copy() const;
   // Validates each option in order; the first failure ends it.
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_ConnectorSection& o) const;
-  bool operator!=(const kbeC_ConnectorSection& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   const kbeC_ConnectorBehaviorOptionList& GetBehaviorOptions() const { return behaviorOptions; }
@@ -62,3 +56,5 @@ class kbeC_ConnectorSection : public mem_Allocated {
   kbeC_ConnectorBehaviorOptionList behaviorOptions;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kbeC_ConnectorSection, mem_Allocated>;

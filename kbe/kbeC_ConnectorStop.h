@@ -2,6 +2,7 @@
 // Stops of a connector: the lower and upper limits of the motion of its components.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "framework/fw_OrLiteral.h"
 #include "kbe/kbeC_ConnectorBehaviorOption.h"
@@ -12,7 +13,7 @@
 #include "platform/base/cow_String.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kbeC_ConnectorStop : public kbeC_ConnectorBehaviorOption {
+class kbeC_ConnectorStop : public fw_PersistentClass<kbeC_ConnectorStop, kbeC_ConnectorBehaviorOption> {
  public:
   using BaseClass = kbeC_ConnectorBehaviorOption;
   using RootClass = kbeC_ConnectorBehaviorOption;
@@ -34,15 +35,8 @@ class kbeC_ConnectorStop : public kbeC_ConnectorBehaviorOption {
 
   kbeC_ConnectorStop() = default;
   explicit kbeC_ConnectorStop(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbeC_ConnectorStop* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_ConnectorStop& o) const;
-  bool operator!=(const kbeC_ConnectorStop& o) const { return !(*this == o); }
 
   const cow_List<std::int32_t>& GetComponents() const { return components; }
   void SetComponents(const cow_List<std::int32_t>& v) { components = v; }
@@ -51,11 +45,10 @@ class kbeC_ConnectorStop : public kbeC_ConnectorBehaviorOption {
   double GetMaxMotion() const { return maxMotion; }
   void SetMaxMotion(double v) { maxMotion = v; }
 
- protected:
-  bool SameAs(const kbeC_ConnectorBehaviorOption& o) const override;
-
  private:
   cow_List<std::int32_t> components;
   fw_Unspecified minMotion = kbeC_kUnspecified;
   fw_Unspecified maxMotion = kbeC_kUnspecified;
 };
+
+extern template class fw_PersistentClass<kbeC_ConnectorStop, kbeC_ConnectorBehaviorOption>;

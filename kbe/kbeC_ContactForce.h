@@ -3,6 +3,7 @@
 // that carries the contact force, and its table.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/persist/cls_Uid.h"
@@ -18,7 +19,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kbeC_ContactForce : public mem_Allocated {
+class kbeC_ContactForce : public fw_PersistentClass<kbeC_ContactForce, mem_Allocated> {
  public:
   enum class ContactForceStyleEnm : std::int32_t { COMPONENT_NUMBER = 0, DERIVED_COMPONENT = 1 };
   static constexpr omu_EnumLiteral kContactForceStyleLiterals[] = {{"COMPONENT_NUMBER", 0}, {"DERIVED_COMPONENT", 1}, {nullptr, 0}};
@@ -43,15 +44,8 @@ class kbeC_ContactForce : public mem_Allocated {
 
   kbeC_ContactForce() = default;
   explicit kbeC_ContactForce(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kbeC_ContactForce() = default;
-  virtual kbeC_ContactForce* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_ContactForce& o) const;
-  bool operator!=(const kbeC_ContactForce& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   std::int32_t GetIndependentComponent() const { return independentComponent; }
@@ -76,6 +70,8 @@ class kbeC_ContactForce : public mem_Allocated {
   cow_2DArray<double> table;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kbeC_ContactForce, mem_Allocated>;
 
 // The contact forces of a friction behavior.
 using kbeC_ContactForceList = cow_List<cow_COW<kbeC_ContactForce>>;

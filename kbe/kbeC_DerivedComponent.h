@@ -2,6 +2,7 @@
 // A named derived component: a combination of terms over the connector's components.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/persist/cls_Uid.h"
@@ -17,9 +18,8 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kbeC_DerivedComponent : public mem_Allocated {
+class kbeC_DerivedComponent : public fw_PersistentClass<kbeC_DerivedComponent, mem_Allocated> {
  public:
-
   static constexpr const char* kClassName = "kbeC_DerivedComponent";
   static constexpr const char* kScriptName = "DerivedComponent";
   static constexpr int kVersion = 836;
@@ -36,15 +36,8 @@ class kbeC_DerivedComponent : public mem_Allocated {
 
   kbeC_DerivedComponent() = default;
   explicit kbeC_DerivedComponent(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kbeC_DerivedComponent() = default;
-  virtual kbeC_DerivedComponent* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_DerivedComponent& o) const;
-  bool operator!=(const kbeC_DerivedComponent& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   void AppendCdcTerm(const kbeC_CDCTerm& term) { cdcTerms.Append(cow_COW<kbeC_CDCTerm>(term)); }
@@ -62,3 +55,5 @@ class kbeC_DerivedComponent : public mem_Allocated {
   cow_List<cow_COW<kbeC_CDCTerm>> cdcTerms;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kbeC_DerivedComponent, mem_Allocated>;

@@ -1,16 +1,11 @@
 #include "kbe/kbeC_TangentialBehavior.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbe/kbeC_Traits.h"
 #include "kbe/kbeC_assert.h"
 #include "kbe/kbeC_Checks.h"
 
 kbeC_TangentialBehavior::kbeC_TangentialBehavior(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
-void kbeC_TangentialBehavior::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbeC_TangentialBehavior* kbeC_TangentialBehavior::Copy() const { return new kbeC_TangentialBehavior(*this); }
-bool kbeC_TangentialBehavior::operator==(const kbeC_TangentialBehavior& o) const { return fw_EqualFields(*this, o); }
-void kbeC_TangentialBehavior::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbeC_TangentialBehavior>(r); }
-void kbeC_TangentialBehavior::CowDtor(void* p) { fw_CowDtor<kbeC_TangentialBehavior>(p); }
 
 // The table is read column by column: the friction coefficient first, then the slip rate (with
 // slip-rate dependency), then the contact pressure (with pressure dependency).
@@ -40,3 +35,5 @@ void kbeC_TangentialBehavior::AssertValid() const {
   if (maximumElasticSlip == MaximumElasticSlipEnm::FRACTION) kbeC_Assert(fraction > 0, kbeC_SlipFractionNotPositive);
   else kbeC_Assert(absoluteDistance > 0, kbeC_ElasticSlipDistanceNotPositive);
 }
+
+template class fw_PersistentClass<kbeC_TangentialBehavior, mem_Allocated>;

@@ -3,6 +3,7 @@
 // elastic slip.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "framework/fw_OrLiteral.h"
 #include "platform/base/bas_Alloc.h"
@@ -18,7 +19,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kbeC_TangentialBehavior : public mem_Allocated {
+class kbeC_TangentialBehavior : public fw_PersistentClass<kbeC_TangentialBehavior, mem_Allocated> {
  public:
   enum class FormulationEnm : std::int32_t { PENALTY = 0, EXPONENTIAL_DECAY = 1 };
   enum class ExponentialDecayDefinitionEnm : std::int32_t { COEFFICIENTS = 0, TEST_DATA = 1 };
@@ -55,15 +56,8 @@ class kbeC_TangentialBehavior : public mem_Allocated {
 
   kbeC_TangentialBehavior() = default;
   explicit kbeC_TangentialBehavior(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kbeC_TangentialBehavior() = default;
-  virtual kbeC_TangentialBehavior* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbeC_TangentialBehavior& o) const;
-  bool operator!=(const kbeC_TangentialBehavior& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   FormulationEnm GetFormulation() const { return formulation; }
@@ -103,3 +97,5 @@ class kbeC_TangentialBehavior : public mem_Allocated {
   cow_2DArray<double> table;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kbeC_TangentialBehavior, mem_Allocated>;

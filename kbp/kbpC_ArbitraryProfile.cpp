@@ -2,16 +2,10 @@
 
 #include <cstddef>
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbp/kbpC_assert.h"
 
-kbpC_ArbitraryProfile::kbpC_ArbitraryProfile(const cls_ReadVisitor& reader) : kbpC_BeamProfile(reader) { fw_ReadFields(*this, reader); }
-void kbpC_ArbitraryProfile::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbpC_ArbitraryProfile* kbpC_ArbitraryProfile::Copy() const { return new kbpC_ArbitraryProfile(*this); }
-bool kbpC_ArbitraryProfile::operator==(const kbpC_ArbitraryProfile& o) const { return fw_EqualFields(*this, o); }
-bool kbpC_ArbitraryProfile::SameAs(const kbpC_BeamProfile& o) const { return *this == static_cast<const kbpC_ArbitraryProfile&>(o); }
-void kbpC_ArbitraryProfile::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbpC_ArbitraryProfile>(r); }
-void kbpC_ArbitraryProfile::CowDtor(void* p) { fw_CowDtor<kbpC_ArbitraryProfile>(p); }
+kbpC_ArbitraryProfile::kbpC_ArbitraryProfile(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 // Rule 11 already refuses a zero thickness, so rule 12 cannot fail after it; the order of the
 // rules is fixed, so it stays.
@@ -24,3 +18,5 @@ void kbpC_ArbitraryProfile::AssertValid() const {
     kbpC_Assert(table(i - 1, 2) != 0 || table(i, 2) != 0, kbpC_ConnectedSegmentsWithoutThickness);
   kbpC_Assert(points == segments + 1, kbpC_PointsNotSegmentsPlusOne);
 }
+
+template class fw_PersistentClass<kbpC_ArbitraryProfile, kbpC_BeamProfile>;

@@ -2,10 +2,11 @@
 // A thin-walled section given by a path of points. The table has one row per point: x, y and
 // the thickness of the segment that ends at the point. The first point starts the path, so its
 // thickness cell is not used; a table without the thickness column describes no segments.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 #include "platform/base/cow_2DArray.h"
 
-class kbpC_ArbitraryProfile : public kbpC_BeamProfile {
+class kbpC_ArbitraryProfile : public fw_PersistentClass<kbpC_ArbitraryProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -23,22 +24,14 @@ class kbpC_ArbitraryProfile : public kbpC_BeamProfile {
 
   kbpC_ArbitraryProfile() = default;
   explicit kbpC_ArbitraryProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_ArbitraryProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_ArbitraryProfile& o) const;
-  bool operator!=(const kbpC_ArbitraryProfile& o) const { return !(*this == o); }
 
   const cow_2DArray<double>& GetTable() const { return table; }
   void SetTable(const cow_2DArray<double>& v) { table = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   cow_2DArray<double> table{{0.0, 0.0, 0.0}, {0.1, 0.0, 0.005}, {0.1, 0.1, 0.005}};
 };
+
+extern template class fw_PersistentClass<kbpC_ArbitraryProfile, kbpC_BeamProfile>;

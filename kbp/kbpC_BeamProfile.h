@@ -23,7 +23,9 @@ class kbpC_BeamProfile : public mem_Allocated {
 
   virtual ~kbpC_BeamProfile() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kbpC_BeamProfile* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kbpC_BeamProfile* Copy() const { return DoCopy(); }
+  virtual kbpC_BeamProfile* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;

@@ -1,15 +1,9 @@
 #include "kbp/kbpC_BoxProfile.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbp/kbpC_assert.h"
 
-kbpC_BoxProfile::kbpC_BoxProfile(const cls_ReadVisitor& reader) : kbpC_BeamProfile(reader) { fw_ReadFields(*this, reader); }
-void kbpC_BoxProfile::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbpC_BoxProfile* kbpC_BoxProfile::Copy() const { return new kbpC_BoxProfile(*this); }
-bool kbpC_BoxProfile::operator==(const kbpC_BoxProfile& o) const { return fw_EqualFields(*this, o); }
-bool kbpC_BoxProfile::SameAs(const kbpC_BeamProfile& o) const { return *this == static_cast<const kbpC_BoxProfile&>(o); }
-void kbpC_BoxProfile::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbpC_BoxProfile>(r); }
-void kbpC_BoxProfile::CowDtor(void* p) { fw_CowDtor<kbpC_BoxProfile>(p); }
+kbpC_BoxProfile::kbpC_BoxProfile(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 void kbpC_BoxProfile::AssertValid() const {
   kbpC_Assert(b > 0, kbpC_HeightNotPositive);
@@ -24,3 +18,5 @@ void kbpC_BoxProfile::AssertValid() const {
     kbpC_Assert(t2 + t4 < b, kbpC_T2PlusT4NotBelowHeight);
   }
 }
+
+template class fw_PersistentClass<kbpC_BoxProfile, kbpC_BeamProfile>;

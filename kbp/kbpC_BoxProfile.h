@@ -1,9 +1,10 @@
 #pragma once
 // A hollow rectangle of width a and height b. The walls are t1 (left), t2 (top), t3 (right) and
 // t4 (bottom); with uniform thickness, t1 is the thickness of all four.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 
-class kbpC_BoxProfile : public kbpC_BeamProfile {
+class kbpC_BoxProfile : public fw_PersistentClass<kbpC_BoxProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -27,15 +28,8 @@ class kbpC_BoxProfile : public kbpC_BeamProfile {
 
   kbpC_BoxProfile() = default;
   explicit kbpC_BoxProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_BoxProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_BoxProfile& o) const;
-  bool operator!=(const kbpC_BoxProfile& o) const { return !(*this == o); }
 
   double GetA() const { return a; }
   void SetA(double v) { a = v; }
@@ -52,9 +46,6 @@ class kbpC_BoxProfile : public kbpC_BeamProfile {
   double GetT4() const { return t4; }
   void SetT4(double v) { t4 = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double a = 0.1;
   double b = 0.2;
@@ -64,3 +55,5 @@ class kbpC_BoxProfile : public kbpC_BeamProfile {
   double t3 = 0.01;
   double t4 = 0.01;
 };
+
+extern template class fw_PersistentClass<kbpC_BoxProfile, kbpC_BeamProfile>;

@@ -1,15 +1,9 @@
 #include "kbp/kbpC_CbeamProfile.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbp/kbpC_assert.h"
 
-kbpC_CbeamProfile::kbpC_CbeamProfile(const cls_ReadVisitor& reader) : kbpC_BeamProfile(reader) { fw_ReadFields(*this, reader); }
-void kbpC_CbeamProfile::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbpC_CbeamProfile* kbpC_CbeamProfile::Copy() const { return new kbpC_CbeamProfile(*this); }
-bool kbpC_CbeamProfile::operator==(const kbpC_CbeamProfile& o) const { return fw_EqualFields(*this, o); }
-bool kbpC_CbeamProfile::SameAs(const kbpC_BeamProfile& o) const { return *this == static_cast<const kbpC_CbeamProfile&>(o); }
-void kbpC_CbeamProfile::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbpC_CbeamProfile>(r); }
-void kbpC_CbeamProfile::CowDtor(void* p) { fw_CowDtor<kbpC_CbeamProfile>(p); }
+kbpC_CbeamProfile::kbpC_CbeamProfile(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 // The height check of code 16 compares each flange thickness (t1, t2) with half the height.
 // The web is checked against both flange widths, as its message says, even where one flange
@@ -25,3 +19,5 @@ void kbpC_CbeamProfile::AssertValid() const {
   kbpC_Assert(t3 < b1 && t3 < b2, kbpC_T3NotBelowFlanges);
   kbpC_Assert(t1 > 0, kbpC_ThicknessOneNotPositive);
 }
+
+template class fw_PersistentClass<kbpC_CbeamProfile, kbpC_BeamProfile>;

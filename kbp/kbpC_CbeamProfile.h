@@ -2,9 +2,10 @@
 // A channel: height h, the centroid's distance l from the bottom, bottom and top flange widths
 // b1 and b2, bottom and top flange thicknesses t1 and t2, web thickness t3 and the web's
 // offset o.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 
-class kbpC_CbeamProfile : public kbpC_BeamProfile {
+class kbpC_CbeamProfile : public fw_PersistentClass<kbpC_CbeamProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -29,15 +30,8 @@ class kbpC_CbeamProfile : public kbpC_BeamProfile {
 
   kbpC_CbeamProfile() = default;
   explicit kbpC_CbeamProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_CbeamProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_CbeamProfile& o) const;
-  bool operator!=(const kbpC_CbeamProfile& o) const { return !(*this == o); }
 
   double GetL() const { return l; }
   void SetL(double v) { l = v; }
@@ -56,9 +50,6 @@ class kbpC_CbeamProfile : public kbpC_BeamProfile {
   double GetO() const { return o; }
   void SetO(double v) { o = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double l = 0.05;
   double h = 0.1;
@@ -69,3 +60,5 @@ class kbpC_CbeamProfile : public kbpC_BeamProfile {
   double t3 = 0.005;
   double o = 0.0;
 };
+
+extern template class fw_PersistentClass<kbpC_CbeamProfile, kbpC_BeamProfile>;

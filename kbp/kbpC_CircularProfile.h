@@ -1,8 +1,9 @@
 #pragma once
 // A solid circle of radius r.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 
-class kbpC_CircularProfile : public kbpC_BeamProfile {
+class kbpC_CircularProfile : public fw_PersistentClass<kbpC_CircularProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -20,22 +21,14 @@ class kbpC_CircularProfile : public kbpC_BeamProfile {
 
   kbpC_CircularProfile() = default;
   explicit kbpC_CircularProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_CircularProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_CircularProfile& o) const;
-  bool operator!=(const kbpC_CircularProfile& o) const { return !(*this == o); }
 
   double GetR() const { return r; }
   void SetR(double v) { r = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double r = 0.05;
 };
+
+extern template class fw_PersistentClass<kbpC_CircularProfile, kbpC_BeamProfile>;

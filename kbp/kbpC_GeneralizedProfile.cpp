@@ -1,15 +1,9 @@
 #include "kbp/kbpC_GeneralizedProfile.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbp/kbpC_assert.h"
 
-kbpC_GeneralizedProfile::kbpC_GeneralizedProfile(const cls_ReadVisitor& reader) : kbpC_BeamProfile(reader) { fw_ReadFields(*this, reader); }
-void kbpC_GeneralizedProfile::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbpC_GeneralizedProfile* kbpC_GeneralizedProfile::Copy() const { return new kbpC_GeneralizedProfile(*this); }
-bool kbpC_GeneralizedProfile::operator==(const kbpC_GeneralizedProfile& o) const { return fw_EqualFields(*this, o); }
-bool kbpC_GeneralizedProfile::SameAs(const kbpC_BeamProfile& o) const { return *this == static_cast<const kbpC_GeneralizedProfile&>(o); }
-void kbpC_GeneralizedProfile::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbpC_GeneralizedProfile>(r); }
-void kbpC_GeneralizedProfile::CowDtor(void* p) { fw_CowDtor<kbpC_GeneralizedProfile>(p); }
+kbpC_GeneralizedProfile::kbpC_GeneralizedProfile(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 // The bound on i12 is strict below and inclusive above, on purpose.
 void kbpC_GeneralizedProfile::AssertValid() const {
@@ -21,3 +15,5 @@ void kbpC_GeneralizedProfile::AssertValid() const {
   kbpC_Assert(i22 >= 0, kbpC_I22Negative);
   kbpC_Assert(j >= 0, kbpC_JNegative);
 }
+
+template class fw_PersistentClass<kbpC_GeneralizedProfile, kbpC_BeamProfile>;

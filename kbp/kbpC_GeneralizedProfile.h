@@ -1,9 +1,10 @@
 #pragma once
 // A section given by its properties: area, moments of inertia i11, i12, i22, torsional
 // constant j, sectorial moment gammaO and warping constant gammaW.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 
-class kbpC_GeneralizedProfile : public kbpC_BeamProfile {
+class kbpC_GeneralizedProfile : public fw_PersistentClass<kbpC_GeneralizedProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -27,15 +28,8 @@ class kbpC_GeneralizedProfile : public kbpC_BeamProfile {
 
   kbpC_GeneralizedProfile() = default;
   explicit kbpC_GeneralizedProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_GeneralizedProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_GeneralizedProfile& o) const;
-  bool operator!=(const kbpC_GeneralizedProfile& o) const { return !(*this == o); }
 
   double GetArea() const { return area; }
   void SetArea(double v) { area = v; }
@@ -52,9 +46,6 @@ class kbpC_GeneralizedProfile : public kbpC_BeamProfile {
   double GetGammaW() const { return gammaW; }
   void SetGammaW(double v) { gammaW = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double area = 1.0;
   double i11 = 1.0;
@@ -64,3 +55,5 @@ class kbpC_GeneralizedProfile : public kbpC_BeamProfile {
   double gammaO = 0.0;
   double gammaW = 0.0;
 };
+
+extern template class fw_PersistentClass<kbpC_GeneralizedProfile, kbpC_BeamProfile>;

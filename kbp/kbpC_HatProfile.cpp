@@ -1,15 +1,9 @@
 #include "kbp/kbpC_HatProfile.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbp/kbpC_assert.h"
 
-kbpC_HatProfile::kbpC_HatProfile(const cls_ReadVisitor& reader) : kbpC_BeamProfile(reader) { fw_ReadFields(*this, reader); }
-void kbpC_HatProfile::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbpC_HatProfile* kbpC_HatProfile::Copy() const { return new kbpC_HatProfile(*this); }
-bool kbpC_HatProfile::operator==(const kbpC_HatProfile& o) const { return fw_EqualFields(*this, o); }
-bool kbpC_HatProfile::SameAs(const kbpC_BeamProfile& o) const { return *this == static_cast<const kbpC_HatProfile&>(o); }
-void kbpC_HatProfile::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbpC_HatProfile>(r); }
-void kbpC_HatProfile::CowDtor(void* p) { fw_CowDtor<kbpC_HatProfile>(p); }
+kbpC_HatProfile::kbpC_HatProfile(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 // The height check of code 16 compares each of t1 and t2 with half the height. Rules 20 and 21
 // repeat rule 11; the order of the rules is fixed, so they stay.
@@ -24,3 +18,5 @@ void kbpC_HatProfile::AssertValid() const {
   kbpC_Assert(t2 > 0, kbpC_ThicknessTwoNotPositive);
   kbpC_Assert(b1 > 0 || b2 > 0, kbpC_NoFlangeWidth);
 }
+
+template class fw_PersistentClass<kbpC_HatProfile, kbpC_BeamProfile>;

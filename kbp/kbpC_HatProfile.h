@@ -1,9 +1,10 @@
 #pragma once
 // A hat section: height h, the centroid's distance l from the bottom, crown width b, brim widths
 // b1 and b2, crown and brim thicknesses t1 and t2, wall thickness t3.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 
-class kbpC_HatProfile : public kbpC_BeamProfile {
+class kbpC_HatProfile : public fw_PersistentClass<kbpC_HatProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -28,15 +29,8 @@ class kbpC_HatProfile : public kbpC_BeamProfile {
 
   kbpC_HatProfile() = default;
   explicit kbpC_HatProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_HatProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_HatProfile& o) const;
-  bool operator!=(const kbpC_HatProfile& o) const { return !(*this == o); }
 
   double GetL() const { return l; }
   void SetL(double v) { l = v; }
@@ -55,9 +49,6 @@ class kbpC_HatProfile : public kbpC_BeamProfile {
   double GetT3() const { return t3; }
   void SetT3(double v) { t3 = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double l = 0.05;
   double h = 0.1;
@@ -68,3 +59,5 @@ class kbpC_HatProfile : public kbpC_BeamProfile {
   double t2 = 0.005;
   double t3 = 0.005;
 };
+
+extern template class fw_PersistentClass<kbpC_HatProfile, kbpC_BeamProfile>;

@@ -1,8 +1,9 @@
 #pragma once
 // A hollow regular hexagon of outer radius r and wall thickness t.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 
-class kbpC_HexagonalProfile : public kbpC_BeamProfile {
+class kbpC_HexagonalProfile : public fw_PersistentClass<kbpC_HexagonalProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -21,25 +22,17 @@ class kbpC_HexagonalProfile : public kbpC_BeamProfile {
 
   kbpC_HexagonalProfile() = default;
   explicit kbpC_HexagonalProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_HexagonalProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_HexagonalProfile& o) const;
-  bool operator!=(const kbpC_HexagonalProfile& o) const { return !(*this == o); }
 
   double GetR() const { return r; }
   void SetR(double v) { r = v; }
   double GetT() const { return t; }
   void SetT(double v) { t = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double r = 0.05;
   double t = 0.005;
 };
+
+extern template class fw_PersistentClass<kbpC_HexagonalProfile, kbpC_BeamProfile>;

@@ -1,9 +1,10 @@
 #pragma once
 // An I section: height h, the centroid's distance l from the bottom, bottom and top flange
 // widths b1 and b2, bottom and top flange thicknesses t1 and t2, web thickness t3.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 
-class kbpC_IbeamProfile : public kbpC_BeamProfile {
+class kbpC_IbeamProfile : public fw_PersistentClass<kbpC_IbeamProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -27,15 +28,8 @@ class kbpC_IbeamProfile : public kbpC_BeamProfile {
 
   kbpC_IbeamProfile() = default;
   explicit kbpC_IbeamProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_IbeamProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_IbeamProfile& o) const;
-  bool operator!=(const kbpC_IbeamProfile& o) const { return !(*this == o); }
 
   double GetL() const { return l; }
   void SetL(double v) { l = v; }
@@ -52,9 +46,6 @@ class kbpC_IbeamProfile : public kbpC_BeamProfile {
   double GetT3() const { return t3; }
   void SetT3(double v) { t3 = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double l = 0.05;
   double h = 0.1;
@@ -64,3 +55,5 @@ class kbpC_IbeamProfile : public kbpC_BeamProfile {
   double t2 = 0.005;
   double t3 = 0.005;
 };
+
+extern template class fw_PersistentClass<kbpC_IbeamProfile, kbpC_BeamProfile>;

@@ -1,15 +1,9 @@
 #include "kbp/kbpC_LbeamProfile.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbp/kbpC_assert.h"
 
-kbpC_LbeamProfile::kbpC_LbeamProfile(const cls_ReadVisitor& reader) : kbpC_BeamProfile(reader) { fw_ReadFields(*this, reader); }
-void kbpC_LbeamProfile::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbpC_LbeamProfile* kbpC_LbeamProfile::Copy() const { return new kbpC_LbeamProfile(*this); }
-bool kbpC_LbeamProfile::operator==(const kbpC_LbeamProfile& o) const { return fw_EqualFields(*this, o); }
-bool kbpC_LbeamProfile::SameAs(const kbpC_BeamProfile& o) const { return *this == static_cast<const kbpC_LbeamProfile&>(o); }
-void kbpC_LbeamProfile::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbpC_LbeamProfile>(r); }
-void kbpC_LbeamProfile::CowDtor(void* p) { fw_CowDtor<kbpC_LbeamProfile>(p); }
+kbpC_LbeamProfile::kbpC_LbeamProfile(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 void kbpC_LbeamProfile::AssertValid() const {
   kbpC_Assert(a > 0, kbpC_DimensionANotPositive);
@@ -19,3 +13,5 @@ void kbpC_LbeamProfile::AssertValid() const {
   kbpC_Assert(t1 < b, kbpC_T1NotBelowB);
   kbpC_Assert(t2 < a, kbpC_T2NotBelowA);
 }
+
+template class fw_PersistentClass<kbpC_LbeamProfile, kbpC_BeamProfile>;

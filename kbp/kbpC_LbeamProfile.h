@@ -1,8 +1,9 @@
 #pragma once
 // An L section: leg widths a and b, thicknesses t1 and t2.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 
-class kbpC_LbeamProfile : public kbpC_BeamProfile {
+class kbpC_LbeamProfile : public fw_PersistentClass<kbpC_LbeamProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -23,15 +24,8 @@ class kbpC_LbeamProfile : public kbpC_BeamProfile {
 
   kbpC_LbeamProfile() = default;
   explicit kbpC_LbeamProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_LbeamProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_LbeamProfile& o) const;
-  bool operator!=(const kbpC_LbeamProfile& o) const { return !(*this == o); }
 
   double GetA() const { return a; }
   void SetA(double v) { a = v; }
@@ -42,12 +36,11 @@ class kbpC_LbeamProfile : public kbpC_BeamProfile {
   double GetT2() const { return t2; }
   void SetT2(double v) { t2 = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double a = 0.05;
   double b = 0.05;
   double t1 = 0.005;
   double t2 = 0.005;
 };
+
+extern template class fw_PersistentClass<kbpC_LbeamProfile, kbpC_BeamProfile>;

@@ -2,10 +2,11 @@
 // A thin or thick walled tube of outer radius r and wall thickness t.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kbpC_PipeProfile : public kbpC_BeamProfile {
+class kbpC_PipeProfile : public fw_PersistentClass<kbpC_PipeProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -28,15 +29,8 @@ class kbpC_PipeProfile : public kbpC_BeamProfile {
 
   kbpC_PipeProfile() = default;
   explicit kbpC_PipeProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_PipeProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_PipeProfile& o) const;
-  bool operator!=(const kbpC_PipeProfile& o) const { return !(*this == o); }
 
   double GetR() const { return r; }
   void SetR(double v) { r = v; }
@@ -45,11 +39,10 @@ class kbpC_PipeProfile : public kbpC_BeamProfile {
   IntegrationSchemeEnm GetIntegrationScheme() const { return integrationScheme; }
   void SetIntegrationScheme(IntegrationSchemeEnm v) { integrationScheme = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double r = 0.05;
   double t = 0.005;
   IntegrationSchemeEnm integrationScheme = IntegrationSchemeEnm::THIN_WALL;
 };
+
+extern template class fw_PersistentClass<kbpC_PipeProfile, kbpC_BeamProfile>;

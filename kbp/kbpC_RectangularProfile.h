@@ -1,8 +1,9 @@
 #pragma once
 // A solid rectangle of width a and height b.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 
-class kbpC_RectangularProfile : public kbpC_BeamProfile {
+class kbpC_RectangularProfile : public fw_PersistentClass<kbpC_RectangularProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -21,25 +22,17 @@ class kbpC_RectangularProfile : public kbpC_BeamProfile {
 
   kbpC_RectangularProfile() = default;
   explicit kbpC_RectangularProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_RectangularProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_RectangularProfile& o) const;
-  bool operator!=(const kbpC_RectangularProfile& o) const { return !(*this == o); }
 
   double GetA() const { return a; }
   void SetA(double v) { a = v; }
   double GetB() const { return b; }
   void SetB(double v) { b = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double a = 0.1;
   double b = 0.2;
 };
+
+extern template class fw_PersistentClass<kbpC_RectangularProfile, kbpC_BeamProfile>;

@@ -1,15 +1,9 @@
 #include "kbp/kbpC_TbeamProfile.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kbp/kbpC_assert.h"
 
-kbpC_TbeamProfile::kbpC_TbeamProfile(const cls_ReadVisitor& reader) : kbpC_BeamProfile(reader) { fw_ReadFields(*this, reader); }
-void kbpC_TbeamProfile::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kbpC_TbeamProfile* kbpC_TbeamProfile::Copy() const { return new kbpC_TbeamProfile(*this); }
-bool kbpC_TbeamProfile::operator==(const kbpC_TbeamProfile& o) const { return fw_EqualFields(*this, o); }
-bool kbpC_TbeamProfile::SameAs(const kbpC_BeamProfile& o) const { return *this == static_cast<const kbpC_TbeamProfile&>(o); }
-void kbpC_TbeamProfile::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kbpC_TbeamProfile>(r); }
-void kbpC_TbeamProfile::CowDtor(void* p) { fw_CowDtor<kbpC_TbeamProfile>(p); }
+kbpC_TbeamProfile::kbpC_TbeamProfile(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 void kbpC_TbeamProfile::AssertValid() const {
   kbpC_Assert(b > 0, kbpC_DimensionBNotPositive);
@@ -19,3 +13,5 @@ void kbpC_TbeamProfile::AssertValid() const {
   kbpC_Assert(tf < h, kbpC_TfNotBelowH);
   kbpC_Assert(tw < b, kbpC_TwNotBelowB);
 }
+
+template class fw_PersistentClass<kbpC_TbeamProfile, kbpC_BeamProfile>;

@@ -1,9 +1,10 @@
 #pragma once
 // A T section: flange width b, height h, the centroid's distance l from the top, flange
 // thickness tf and web thickness tw.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 
-class kbpC_TbeamProfile : public kbpC_BeamProfile {
+class kbpC_TbeamProfile : public fw_PersistentClass<kbpC_TbeamProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -25,15 +26,8 @@ class kbpC_TbeamProfile : public kbpC_BeamProfile {
 
   kbpC_TbeamProfile() = default;
   explicit kbpC_TbeamProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_TbeamProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_TbeamProfile& o) const;
-  bool operator!=(const kbpC_TbeamProfile& o) const { return !(*this == o); }
 
   double GetB() const { return b; }
   void SetB(double v) { b = v; }
@@ -46,9 +40,6 @@ class kbpC_TbeamProfile : public kbpC_BeamProfile {
   double GetTw() const { return tw; }
   void SetTw(double v) { tw = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double b = 0.1;
   double h = 0.1;
@@ -56,3 +47,5 @@ class kbpC_TbeamProfile : public kbpC_BeamProfile {
   double tf = 0.01;
   double tw = 0.01;
 };
+
+extern template class fw_PersistentClass<kbpC_TbeamProfile, kbpC_BeamProfile>;

@@ -1,9 +1,10 @@
 #pragma once
 // A solid trapezoid: top width a, height b, bottom width c and the offset d of the top's
 // start from the bottom's.
+#include "framework/fw_PersistentClass.h"
 #include "kbp/kbpC_BeamProfile.h"
 
-class kbpC_TrapezoidalProfile : public kbpC_BeamProfile {
+class kbpC_TrapezoidalProfile : public fw_PersistentClass<kbpC_TrapezoidalProfile, kbpC_BeamProfile> {
  public:
   using BaseClass = kbpC_BeamProfile;
   using RootClass = kbpC_BeamProfile;
@@ -24,15 +25,8 @@ class kbpC_TrapezoidalProfile : public kbpC_BeamProfile {
 
   kbpC_TrapezoidalProfile() = default;
   explicit kbpC_TrapezoidalProfile(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kbpC_TrapezoidalProfile* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kbpC_TrapezoidalProfile& o) const;
-  bool operator!=(const kbpC_TrapezoidalProfile& o) const { return !(*this == o); }
 
   double GetA() const { return a; }
   void SetA(double v) { a = v; }
@@ -43,12 +37,11 @@ class kbpC_TrapezoidalProfile : public kbpC_BeamProfile {
   double GetD() const { return d; }
   void SetD(double v) { d = v; }
 
- protected:
-  bool SameAs(const kbpC_BeamProfile& o) const override;
-
  private:
   double a = 0.1;
   double b = 0.1;
   double c = 0.05;
   double d = 0.0;
 };
+
+extern template class fw_PersistentClass<kbpC_TrapezoidalProfile, kbpC_BeamProfile>;

@@ -2,11 +2,12 @@
 // Points moved onto a surface before the analysis.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kco/kcoC_Constraint.h"
 #include "kco/kcoC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kcoC_AdjustPoints : public kcoC_Constraint {
+class kcoC_AdjustPoints : public fw_PersistentClass<kcoC_AdjustPoints, kcoC_Constraint> {
  public:
   using BaseClass = kcoC_Constraint;
   using RootClass = kcoC_Constraint;
@@ -26,25 +27,17 @@ class kcoC_AdjustPoints : public kcoC_Constraint {
 
   kcoC_AdjustPoints() = default;
   explicit kcoC_AdjustPoints(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kcoC_AdjustPoints* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kcoC_AdjustPoints& o) const;
-  bool operator!=(const kcoC_AdjustPoints& o) const { return !(*this == o); }
 
   const rgnC_Region& GetSurface() const { return surface; }
   void SetSurface(const rgnC_Region& v) { surface = v; }
   const rgnC_Region& GetControlPoints() const { return controlPoints; }
   void SetControlPoints(const rgnC_Region& v) { controlPoints = v; }
 
- protected:
-  bool SameAs(const kcoC_Constraint& o) const override;
-
  private:
   rgnC_Region surface;
   rgnC_Region controlPoints;
 };
+
+extern template class fw_PersistentClass<kcoC_AdjustPoints, kcoC_Constraint>;

@@ -20,7 +20,9 @@ class kcoC_Constraint : public mem_Allocated {
 
   virtual ~kcoC_Constraint() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kcoC_Constraint* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kcoC_Constraint* Copy() const { return DoCopy(); }
+  virtual kcoC_Constraint* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;

@@ -3,13 +3,14 @@
 // The influence radius is "WHOLE_SURFACE" or a distance.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kco/kcoC_Constraint.h"
 #include "framework/fw_OrLiteral.h"
 #include "kco/kcoC_Enums.h"
 #include "platform/base/cow_String.h"
 #include "platform/model/rgnC_Region.h"
 
-class kcoC_Coupling : public kcoC_Constraint {
+class kcoC_Coupling : public fw_PersistentClass<kcoC_Coupling, kcoC_Constraint> {
  public:
   using BaseClass = kcoC_Constraint;
   using RootClass = kcoC_Constraint;
@@ -45,15 +46,8 @@ class kcoC_Coupling : public kcoC_Constraint {
 
   kcoC_Coupling() = default;
   explicit kcoC_Coupling(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kcoC_Coupling* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kcoC_Coupling& o) const;
-  bool operator!=(const kcoC_Coupling& o) const { return !(*this == o); }
 
   bool IsWholeSurface() const { return influenceRadius.IsLiteral(); }
   void SetInfluenceRadius(kcoC_InfluenceRadiusEnm v) { influenceRadius = v; }
@@ -94,9 +88,6 @@ class kcoC_Coupling : public kcoC_Constraint {
   std::int32_t GetTemperatureDOFType() const { return temperatureDOFType; }
   void SetTemperatureDOFType(std::int32_t v) { temperatureDOFType = v; }
 
- protected:
-  bool SameAs(const kcoC_Constraint& o) const override;
-
  private:
   rgnC_Region surface;
   rgnC_Region refPoint;
@@ -117,3 +108,5 @@ class kcoC_Coupling : public kcoC_Constraint {
   kcoC_UniformConstraintEnm uniformConstraint = kcoC_UniformConstraintEnm::NONE;
   std::int32_t temperatureDOFType = 0;  // the temperature degree of freedom coupled; 0 for none
 };
+
+extern template class fw_PersistentClass<kcoC_Coupling, kcoC_Constraint>;

@@ -3,11 +3,12 @@
 // name.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kco/kcoC_Constraint.h"
 #include "kco/kcoC_Enums.h"
 #include "platform/base/cow_String.h"
 
-class kcoC_DdbDisplayBody : public kcoC_Constraint {
+class kcoC_DdbDisplayBody : public fw_PersistentClass<kcoC_DdbDisplayBody, kcoC_Constraint> {
  public:
   using BaseClass = kcoC_Constraint;
   using RootClass = kcoC_Constraint;
@@ -32,15 +33,8 @@ class kcoC_DdbDisplayBody : public kcoC_Constraint {
 
   kcoC_DdbDisplayBody() = default;
   explicit kcoC_DdbDisplayBody(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kcoC_DdbDisplayBody* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kcoC_DdbDisplayBody& o) const;
-  bool operator!=(const kcoC_DdbDisplayBody& o) const { return !(*this == o); }
 
   const cow_String& GetInstanceName() const { return instanceName; }
   void SetInstanceName(const cow_String& v) { instanceName = v; }
@@ -57,9 +51,6 @@ class kcoC_DdbDisplayBody : public kcoC_Constraint {
   const cow_String& GetNode3InstanceName() const { return node3InstanceName; }
   void SetNode3InstanceName(const cow_String& v) { node3InstanceName = v; }
 
- protected:
-  bool SameAs(const kcoC_Constraint& o) const override;
-
  private:
   cow_String instanceName;
   std::int32_t node1Label = 0;
@@ -69,3 +60,5 @@ class kcoC_DdbDisplayBody : public kcoC_Constraint {
   std::int32_t node3Label = 0;
   cow_String node3InstanceName;
 };
+
+extern template class fw_PersistentClass<kcoC_DdbDisplayBody, kcoC_Constraint>;

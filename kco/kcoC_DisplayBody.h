@@ -2,11 +2,12 @@
 // A display body: a part instance drawn as moving with three control points.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kco/kcoC_Constraint.h"
 #include "kco/kcoC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kcoC_DisplayBody : public kcoC_Constraint {
+class kcoC_DisplayBody : public fw_PersistentClass<kcoC_DisplayBody, kcoC_Constraint> {
  public:
   using BaseClass = kcoC_Constraint;
   using RootClass = kcoC_Constraint;
@@ -28,15 +29,8 @@ class kcoC_DisplayBody : public kcoC_Constraint {
 
   kcoC_DisplayBody() = default;
   explicit kcoC_DisplayBody(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kcoC_DisplayBody* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kcoC_DisplayBody& o) const;
-  bool operator!=(const kcoC_DisplayBody& o) const { return !(*this == o); }
 
   std::int32_t GetInstanceId() const { return instanceId; }
   void SetInstanceId(std::int32_t v) { instanceId = v; }
@@ -47,12 +41,11 @@ class kcoC_DisplayBody : public kcoC_Constraint {
   const rgnC_Region& Get_dot3() const { return _dot3; }
   void Set_dot3(const rgnC_Region& v) { _dot3 = v; }
 
- protected:
-  bool SameAs(const kcoC_Constraint& o) const override;
-
  private:
   std::int32_t instanceId = 0;  // 0: no instance
   rgnC_Region _dot1;
   rgnC_Region _dot2;
   rgnC_Region _dot3;
 };
+
+extern template class fw_PersistentClass<kcoC_DisplayBody, kcoC_Constraint>;

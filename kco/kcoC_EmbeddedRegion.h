@@ -3,11 +3,12 @@
 // found within the tolerances.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kco/kcoC_Constraint.h"
 #include "kco/kcoC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kcoC_EmbeddedRegion : public kcoC_Constraint {
+class kcoC_EmbeddedRegion : public fw_PersistentClass<kcoC_EmbeddedRegion, kcoC_Constraint> {
  public:
   using BaseClass = kcoC_Constraint;
   using RootClass = kcoC_Constraint;
@@ -31,15 +32,8 @@ class kcoC_EmbeddedRegion : public kcoC_Constraint {
 
   kcoC_EmbeddedRegion() = default;
   explicit kcoC_EmbeddedRegion(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kcoC_EmbeddedRegion* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kcoC_EmbeddedRegion& o) const;
-  bool operator!=(const kcoC_EmbeddedRegion& o) const { return !(*this == o); }
 
   const rgnC_Region& GetEmbeddedRegion() const { return embeddedRegion; }
   void SetEmbeddedRegion(const rgnC_Region& v) { embeddedRegion = v; }
@@ -54,9 +48,6 @@ class kcoC_EmbeddedRegion : public kcoC_Constraint {
   double GetWeightFactorTolerance() const { return weightFactorTolerance; }
   void SetWeightFactorTolerance(double v) { weightFactorTolerance = v; }
 
- protected:
-  bool SameAs(const kcoC_Constraint& o) const override;
-
  private:
   rgnC_Region embeddedRegion;
   rgnC_Region hostRegion;  // empty: the whole model
@@ -65,3 +56,5 @@ class kcoC_EmbeddedRegion : public kcoC_Constraint {
   double fractionalTolerance = 0.05;
   double weightFactorTolerance = 1e-06;
 };
+
+extern template class fw_PersistentClass<kcoC_EmbeddedRegion, kcoC_Constraint>;

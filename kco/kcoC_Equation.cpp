@@ -1,15 +1,9 @@
 #include "kco/kcoC_Equation.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kco/kcoC_assert.h"
 
-kcoC_Equation::kcoC_Equation(const cls_ReadVisitor& reader) : kcoC_Constraint(reader) { fw_ReadFields(*this, reader); }
-void kcoC_Equation::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kcoC_Equation* kcoC_Equation::Copy() const { return new kcoC_Equation(*this); }
-bool kcoC_Equation::operator==(const kcoC_Equation& o) const { return fw_EqualFields(*this, o); }
-bool kcoC_Equation::SameAs(const kcoC_Constraint& o) const { return *this == static_cast<const kcoC_Equation&>(o); }
-void kcoC_Equation::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kcoC_Equation>(r); }
-void kcoC_Equation::CowDtor(void* p) { fw_CowDtor<kcoC_Equation>(p); }
+kcoC_Equation::kcoC_Equation(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 // The terms are checked after the count, in order; the first bad one reports.
 void kcoC_Equation::AssertValid() const {
@@ -18,3 +12,5 @@ void kcoC_Equation::AssertValid() const {
   for (const auto& t : terms)
     if (!t.IsNull()) t.Get().AssertValid();
 }
+
+template class fw_PersistentClass<kcoC_Equation, kcoC_Constraint>;

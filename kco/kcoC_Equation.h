@@ -2,13 +2,14 @@
 // A linear equation between degrees of freedom: the sum of its terms is zero.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kco/kcoC_Constraint.h"
 #include "kco/kcoC_Enums.h"
 #include "kco/kcoC_EquationTerm.h"
 #include "platform/base/cow_COW.h"
 #include "platform/base/cow_List.h"
 
-class kcoC_Equation : public kcoC_Constraint {
+class kcoC_Equation : public fw_PersistentClass<kcoC_Equation, kcoC_Constraint> {
  public:
   using BaseClass = kcoC_Constraint;
   using RootClass = kcoC_Constraint;
@@ -27,22 +28,14 @@ class kcoC_Equation : public kcoC_Constraint {
 
   kcoC_Equation() = default;
   explicit kcoC_Equation(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kcoC_Equation* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kcoC_Equation& o) const;
-  bool operator!=(const kcoC_Equation& o) const { return !(*this == o); }
 
   const cow_List<cow_COW<kcoC_EquationTerm, cow_Direct<kcoC_EquationTerm>>>& GetTerms() const { return terms; }
   void SetTerms(const cow_List<cow_COW<kcoC_EquationTerm, cow_Direct<kcoC_EquationTerm>>>& v) { terms = v; }
 
- protected:
-  bool SameAs(const kcoC_Constraint& o) const override;
-
  private:
   cow_List<cow_COW<kcoC_EquationTerm, cow_Direct<kcoC_EquationTerm>>> terms;
 };
+
+extern template class fw_PersistentClass<kcoC_Equation, kcoC_Constraint>;

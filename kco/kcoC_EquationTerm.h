@@ -3,6 +3,7 @@
 // coordinate system.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/base/cow_String.h"
@@ -12,7 +13,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kcoC_EquationTerm : public mem_Allocated {
+class kcoC_EquationTerm : public fw_PersistentClass<kcoC_EquationTerm, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "kcoC_EquationTerm";
   static constexpr const char* kScriptName = "EquationTerm";
@@ -34,15 +35,8 @@ class kcoC_EquationTerm : public mem_Allocated {
   kcoC_EquationTerm(double coefficient_, const cow_String& setName_, std::int32_t dof_, std::int32_t coordSysId_ = 0)
       : coefficient(coefficient_), setName(setName_), dof(dof_), coordSysId(coordSysId_) {}
   explicit kcoC_EquationTerm(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kcoC_EquationTerm() = default;
-  virtual kcoC_EquationTerm* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kcoC_EquationTerm& o) const;
-  bool operator!=(const kcoC_EquationTerm& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   double GetCoefficient() const { return coefficient; }
@@ -61,3 +55,5 @@ class kcoC_EquationTerm : public mem_Allocated {
   std::int32_t coordSysId = 0;  // 0: the global system
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kcoC_EquationTerm, mem_Allocated>;

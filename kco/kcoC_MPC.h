@@ -3,12 +3,13 @@
 // or a user kind.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kco/kcoC_Constraint.h"
 #include "kco/kcoC_Enums.h"
 #include "platform/base/cow_String.h"
 #include "platform/model/rgnC_Region.h"
 
-class kcoC_MPC : public kcoC_Constraint {
+class kcoC_MPC : public fw_PersistentClass<kcoC_MPC, kcoC_Constraint> {
  public:
   using BaseClass = kcoC_Constraint;
   using RootClass = kcoC_Constraint;
@@ -32,15 +33,8 @@ class kcoC_MPC : public kcoC_Constraint {
 
   kcoC_MPC() = default;
   explicit kcoC_MPC(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kcoC_MPC* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kcoC_MPC& o) const;
-  bool operator!=(const kcoC_MPC& o) const { return !(*this == o); }
 
   const rgnC_Region& GetSurface() const { return surface; }
   void SetSurface(const rgnC_Region& v) { surface = v; }
@@ -55,9 +49,6 @@ class kcoC_MPC : public kcoC_Constraint {
   std::int32_t GetUserType() const { return userType; }
   void SetUserType(std::int32_t v) { userType = v; }
 
- protected:
-  bool SameAs(const kcoC_Constraint& o) const override;
-
  private:
   rgnC_Region surface;
   rgnC_Region refPoint;
@@ -66,3 +57,5 @@ class kcoC_MPC : public kcoC_Constraint {
   kcoC_UserModeEnum userMode = kcoC_UserModeEnum::DOF_MODE_MPC;
   std::int32_t userType = 0;  // the user kind, for USER_MPC
 };
+
+extern template class fw_PersistentClass<kcoC_MPC, kcoC_Constraint>;

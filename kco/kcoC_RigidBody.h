@@ -3,11 +3,12 @@
 // regions under other names; the steps of kcoC_RigidBody_702 and kcoC_RigidBody_720 rename them.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kco/kcoC_Constraint.h"
 #include "kco/kcoC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kcoC_RigidBody : public kcoC_Constraint {
+class kcoC_RigidBody : public fw_PersistentClass<kcoC_RigidBody, kcoC_Constraint> {
  public:
   using BaseClass = kcoC_Constraint;
   using RootClass = kcoC_Constraint;
@@ -32,15 +33,8 @@ class kcoC_RigidBody : public kcoC_Constraint {
 
   kcoC_RigidBody() = default;
   explicit kcoC_RigidBody(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kcoC_RigidBody* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kcoC_RigidBody& o) const;
-  bool operator!=(const kcoC_RigidBody& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRefPointRegion() const { return refPointRegion; }
   void SetRefPointRegion(const rgnC_Region& v) { refPointRegion = v; }
@@ -57,9 +51,6 @@ class kcoC_RigidBody : public kcoC_Constraint {
   bool GetIsothermal() const { return isothermal; }
   void SetIsothermal(bool v) { isothermal = v; }
 
- protected:
-  bool SameAs(const kcoC_Constraint& o) const override;
-
  private:
   rgnC_Region refPointRegion;
   rgnC_Region bodyRegion;
@@ -69,3 +60,5 @@ class kcoC_RigidBody : public kcoC_Constraint {
   bool refPointAtCOM = false;
   bool isothermal = false;
 };
+
+extern template class fw_PersistentClass<kcoC_RigidBody, kcoC_Constraint>;

@@ -2,11 +2,12 @@
 // A coupling of a shell edge to a solid face.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kco/kcoC_Constraint.h"
 #include "kco/kcoC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kcoC_ShellSolidCoupling : public kcoC_Constraint {
+class kcoC_ShellSolidCoupling : public fw_PersistentClass<kcoC_ShellSolidCoupling, kcoC_Constraint> {
  public:
   using BaseClass = kcoC_Constraint;
   using RootClass = kcoC_Constraint;
@@ -30,15 +31,8 @@ class kcoC_ShellSolidCoupling : public kcoC_Constraint {
 
   kcoC_ShellSolidCoupling() = default;
   explicit kcoC_ShellSolidCoupling(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kcoC_ShellSolidCoupling* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kcoC_ShellSolidCoupling& o) const;
-  bool operator!=(const kcoC_ShellSolidCoupling& o) const { return !(*this == o); }
 
   const rgnC_Region& GetShellEdge() const { return shellEdge; }
   void SetShellEdge(const rgnC_Region& v) { shellEdge = v; }
@@ -53,9 +47,6 @@ class kcoC_ShellSolidCoupling : public kcoC_Constraint {
   double GetInfluenceDistance() const { return influenceDistance; }
   void SetInfluenceDistance(double v) { influenceDistance = v; }
 
- protected:
-  bool SameAs(const kcoC_Constraint& o) const override;
-
  private:
   rgnC_Region shellEdge;
   rgnC_Region solidFace;
@@ -64,3 +55,5 @@ class kcoC_ShellSolidCoupling : public kcoC_Constraint {
   kcoC_PosToleranceEnm influenceDistanceMethod = kcoC_PosToleranceEnm::COMPUTED;
   double influenceDistance = 0.0;
 };
+
+extern template class fw_PersistentClass<kcoC_ShellSolidCoupling, kcoC_Constraint>;

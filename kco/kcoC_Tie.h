@@ -4,11 +4,12 @@
 // depend on the model and the analysis; kcoC_AssertInModel judges them (codes 5 to 7).
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kco/kcoC_Constraint.h"
 #include "kco/kcoC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kcoC_Tie : public kcoC_Constraint {
+class kcoC_Tie : public fw_PersistentClass<kcoC_Tie, kcoC_Constraint> {
  public:
   using BaseClass = kcoC_Constraint;
   using RootClass = kcoC_Constraint;
@@ -43,15 +44,8 @@ class kcoC_Tie : public kcoC_Constraint {
 
   kcoC_Tie() = default;
   explicit kcoC_Tie(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kcoC_Tie* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kcoC_Tie& o) const;
-  bool operator!=(const kcoC_Tie& o) const { return !(*this == o); }
 
   const rgnC_Region& GetMaster() const { return master; }
   void SetMaster(const rgnC_Region& v) { master = v; }
@@ -88,9 +82,6 @@ class kcoC_Tie : public kcoC_Constraint {
   bool GetIonConcentration() const { return ionConcentration; }
   void SetIonConcentration(bool v) { ionConcentration = v; }
 
- protected:
-  bool SameAs(const kcoC_Constraint& o) const override;
-
  private:
   rgnC_Region master;  // the main surface
   rgnC_Region slave;  // the secondary region
@@ -110,3 +101,5 @@ class kcoC_Tie : public kcoC_Constraint {
   bool fluidElectricPotential = false;
   bool ionConcentration = false;
 };
+
+extern template class fw_PersistentClass<kcoC_Tie, kcoC_Constraint>;

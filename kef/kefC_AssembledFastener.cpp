@@ -2,16 +2,10 @@
 
 #include <algorithm>
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kef/kefC_assert.h"
 
-kefC_AssembledFastener::kefC_AssembledFastener(const cls_ReadVisitor& reader) : kefC_Fastener(reader) { fw_ReadFields(*this, reader); }
-void kefC_AssembledFastener::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kefC_AssembledFastener* kefC_AssembledFastener::Copy() const { return new kefC_AssembledFastener(*this); }
-bool kefC_AssembledFastener::operator==(const kefC_AssembledFastener& o) const { return fw_EqualFields(*this, o); }
-bool kefC_AssembledFastener::SameAs(const kefC_Fastener& o) const { return *this == static_cast<const kefC_AssembledFastener&>(o); }
-void kefC_AssembledFastener::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kefC_AssembledFastener>(r); }
-void kefC_AssembledFastener::CowDtor(void* p) { fw_CowDtor<kefC_AssembledFastener>(p); }
+kefC_AssembledFastener::kefC_AssembledFastener(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 namespace {
 // Empty, or nothing but blanks.
@@ -32,3 +26,5 @@ void kefC_AssembledFastener::AssertValid() const {
   for (const auto* list : {&templateSurfaces, &assignedSurfaces})
     for (const cow_String& s : *list) kefC_Assert(!Blank(s), kefC_BlankSurfaceName);
 }
+
+template class fw_PersistentClass<kefC_AssembledFastener, kefC_Fastener>;

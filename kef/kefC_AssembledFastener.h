@@ -3,12 +3,13 @@
 // surfaces assigned to surfaces of this model.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Fastener.h"
 #include "kef/kefC_Enums.h"
 #include "platform/base/cow_List.h"
 #include "platform/base/cow_String.h"
 
-class kefC_AssembledFastener : public kefC_Fastener {
+class kefC_AssembledFastener : public fw_PersistentClass<kefC_AssembledFastener, kefC_Fastener> {
  public:
   using BaseClass = kefC_Fastener;
   using RootClass = kefC_Fastener;
@@ -43,15 +44,8 @@ class kefC_AssembledFastener : public kefC_Fastener {
 
   kefC_AssembledFastener() = default;
   explicit kefC_AssembledFastener(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_AssembledFastener* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_AssembledFastener& o) const;
-  bool operator!=(const kefC_AssembledFastener& o) const { return !(*this == o); }
 
   const cow_String& GetTemplateModel() const { return templateModel; }
   void SetTemplateModel(const cow_String& v) { AssertEditable(); templateModel = v; }
@@ -70,9 +64,6 @@ class kefC_AssembledFastener : public kefC_Fastener {
   bool GetFlipNormal() const { return flipNormal; }
   void SetFlipNormal(bool v) { AssertEditable(); flipNormal = v; }
 
- protected:
-  bool SameAs(const kefC_Fastener& o) const override;
-
  private:
   cow_String templateModel;
   cow_String controlSet;
@@ -83,3 +74,5 @@ class kefC_AssembledFastener : public kefC_Fastener {
   cow_String scriptName;
   bool flipNormal = false;
 };
+
+extern template class fw_PersistentClass<kefC_AssembledFastener, kefC_Fastener>;

@@ -3,13 +3,14 @@
 // the crack normal or by q vectors.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Crack.h"
 #include "kef/kefC_Enums.h"
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_List.h"
 #include "platform/model/rgnC_Region.h"
 
-class kefC_ContourIntegral : public kefC_Crack {
+class kefC_ContourIntegral : public fw_PersistentClass<kefC_ContourIntegral, kefC_Crack> {
  public:
   using BaseClass = kefC_Crack;
   using RootClass = kefC_Crack;
@@ -35,15 +36,8 @@ class kefC_ContourIntegral : public kefC_Crack {
 
   kefC_ContourIntegral() = default;
   explicit kefC_ContourIntegral(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_ContourIntegral* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_ContourIntegral& o) const;
-  bool operator!=(const kefC_ContourIntegral& o) const { return !(*this == o); }
 
   bool GetSymmetric() const { return symmetric; }
   void SetSymmetric(bool v) { AssertEditable(); symmetric = v; }
@@ -62,9 +56,6 @@ class kefC_ContourIntegral : public kefC_Crack {
   kefC_collapsedElementAtTipEnm GetCollapsedElementAtTip() const { return collapsedElementAtTip; }
   void SetCollapsedElementAtTip(kefC_collapsedElementAtTipEnm v) { AssertEditable(); collapsedElementAtTip = v; }
 
- protected:
-  bool SameAs(const kefC_Crack& o) const override;
-
  private:
   bool symmetric = false;
   rgnC_Region crackFront;
@@ -75,3 +66,5 @@ class kefC_ContourIntegral : public kefC_Crack {
   double midNodePosition = 0.5;
   kefC_collapsedElementAtTipEnm collapsedElementAtTip = kefC_collapsedElementAtTipEnm::NONE;
 };
+
+extern template class fw_PersistentClass<kefC_ContourIntegral, kefC_Crack>;

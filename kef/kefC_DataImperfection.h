@@ -2,12 +2,13 @@
 // An imperfection given as data: one row of displacements per node, the nodes by number.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Imperfection.h"
 #include "kef/kefC_Enums.h"
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_List.h"
 
-class kefC_DataImperfection : public kefC_Imperfection {
+class kefC_DataImperfection : public fw_PersistentClass<kefC_DataImperfection, kefC_Imperfection> {
  public:
   using BaseClass = kefC_Imperfection;
   using RootClass = kefC_Imperfection;
@@ -28,15 +29,8 @@ class kefC_DataImperfection : public kefC_Imperfection {
 
   kefC_DataImperfection() = default;
   explicit kefC_DataImperfection(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_DataImperfection* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_DataImperfection& o) const;
-  bool operator!=(const kefC_DataImperfection& o) const { return !(*this == o); }
 
   const cow_2DArray<double>& GetImperfectionTable() const { return imperfectionTable; }
   void SetImperfectionTable(const cow_2DArray<double>& v) { imperfectionTable = v; }
@@ -45,11 +39,10 @@ class kefC_DataImperfection : public kefC_Imperfection {
   kefC_SystemEnum GetSystem() const { return system; }
   void SetSystem(kefC_SystemEnum v) { system = v; }
 
- protected:
-  bool SameAs(const kefC_Imperfection& o) const override;
-
  private:
   cow_2DArray<double> imperfectionTable;
   cow_List<std::int32_t> nodeNumbers;
   kefC_SystemEnum system = kefC_SystemEnum::CARTESIAN;
 };
+
+extern template class fw_PersistentClass<kefC_DataImperfection, kefC_Imperfection>;

@@ -4,11 +4,12 @@
 // model (codes 39 and 40) by kefC_AssertInModel.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Crack.h"
 #include "kef/kefC_Enums.h"
 #include "platform/base/cow_String.h"
 
-class kefC_DebondVCCT : public kefC_Crack {
+class kefC_DebondVCCT : public fw_PersistentClass<kefC_DebondVCCT, kefC_Crack> {
  public:
   using BaseClass = kefC_Crack;
   using RootClass = kefC_Crack;
@@ -30,15 +31,8 @@ class kefC_DebondVCCT : public kefC_Crack {
 
   kefC_DebondVCCT() = default;
   explicit kefC_DebondVCCT(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_DebondVCCT* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_DebondVCCT& o) const;
-  bool operator!=(const kefC_DebondVCCT& o) const { return !(*this == o); }
 
   const cow_String& GetStepName() const { return stepName; }
   void SetStepName(const cow_String& v) { AssertEditable(); stepName = v; }
@@ -49,12 +43,11 @@ class kefC_DebondVCCT : public kefC_Crack {
   std::int32_t GetPrintFreqVal() const { return printFreqVal; }
   void SetPrintFreqVal(std::int32_t v) { AssertEditable(); printFreqVal = v; }
 
- protected:
-  bool SameAs(const kefC_Crack& o) const override;
-
  private:
   cow_String stepName;
   cow_String surfToSurfInteraction;
   kefC_DebondAmplitudeEnm debondingForceAmp = kefC_DebondAmplitudeEnm::STEP;
   std::int32_t printFreqVal = 1;
 };
+
+extern template class fw_PersistentClass<kefC_DebondVCCT, kefC_Crack>;

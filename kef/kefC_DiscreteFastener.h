@@ -2,10 +2,11 @@
 // A discrete fastener: one fastener at each point of a region, joined as the adherend says.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Fastener.h"
 #include "kef/kefC_Enums.h"
 
-class kefC_DiscreteFastener : public kefC_Fastener {
+class kefC_DiscreteFastener : public fw_PersistentClass<kefC_DiscreteFastener, kefC_Fastener> {
  public:
   using BaseClass = kefC_Fastener;
   using RootClass = kefC_Fastener;
@@ -33,22 +34,14 @@ class kefC_DiscreteFastener : public kefC_Fastener {
 
   kefC_DiscreteFastener() = default;
   explicit kefC_DiscreteFastener(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_DiscreteFastener* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_DiscreteFastener& o) const;
-  bool operator!=(const kefC_DiscreteFastener& o) const { return !(*this == o); }
 
   kefC_DiscreteAdherendEnum GetConnectionType() const { return connectionType; }
   void SetConnectionType(kefC_DiscreteAdherendEnum v) { AssertEditable(); connectionType = v; }
 
- protected:
-  bool SameAs(const kefC_Fastener& o) const override;
-
  private:
   kefC_DiscreteAdherendEnum connectionType = kefC_DiscreteAdherendEnum::CONNECTOR;
 };
+
+extern template class fw_PersistentClass<kefC_DiscreteFastener, kefC_Fastener>;

@@ -25,7 +25,9 @@ class kefC_Fastener : public mem_Allocated {
 
   virtual ~kefC_Fastener() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kefC_Fastener* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kefC_Fastener* Copy() const { return DoCopy(); }
+  virtual kefC_Fastener* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;

@@ -3,13 +3,14 @@
 // with scale factors.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Imperfection.h"
 #include "kef/kefC_Enums.h"
 #include "platform/base/cow_List.h"
 #include "platform/base/cow_String.h"
 #include "platform/model/rgnC_Region.h"
 
-class kefC_FileImperfection : public kefC_Imperfection {
+class kefC_FileImperfection : public fw_PersistentClass<kefC_FileImperfection, kefC_Imperfection> {
  public:
   using BaseClass = kefC_Imperfection;
   using RootClass = kefC_Imperfection;
@@ -33,15 +34,8 @@ class kefC_FileImperfection : public kefC_Imperfection {
 
   kefC_FileImperfection() = default;
   explicit kefC_FileImperfection(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_FileImperfection* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_FileImperfection& o) const;
-  bool operator!=(const kefC_FileImperfection& o) const { return !(*this == o); }
 
   const cow_String& GetResultsFile() const { return resultsFile; }
   void SetResultsFile(const cow_String& v) { resultsFile = v; }
@@ -56,9 +50,6 @@ class kefC_FileImperfection : public kefC_Imperfection {
   const cow_List<double>& GetScalingFactors() const { return scalingFactors; }
   void SetScalingFactors(const cow_List<double>& v) { scalingFactors = v; }
 
- protected:
-  bool SameAs(const kefC_Imperfection& o) const override;
-
  private:
   cow_String resultsFile;
   std::int32_t step = 1;
@@ -67,3 +58,5 @@ class kefC_FileImperfection : public kefC_Imperfection {
   cow_List<std::int32_t> modeNumbers;
   cow_List<double> scalingFactors;
 };
+
+extern template class fw_PersistentClass<kefC_FileImperfection, kefC_Imperfection>;

@@ -3,12 +3,13 @@
 // variables.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Inertia.h"
 #include "kef/kefC_Enums.h"
 #include "platform/base/cow_2DArray.h"
 #include "platform/model/rgnC_Region.h"
 
-class kefC_HeatCapacitance : public kefC_Inertia {
+class kefC_HeatCapacitance : public fw_PersistentClass<kefC_HeatCapacitance, kefC_Inertia> {
  public:
   using BaseClass = kefC_Inertia;
   using RootClass = kefC_Inertia;
@@ -30,15 +31,8 @@ class kefC_HeatCapacitance : public kefC_Inertia {
 
   kefC_HeatCapacitance() = default;
   explicit kefC_HeatCapacitance(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_HeatCapacitance* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_HeatCapacitance& o) const;
-  bool operator!=(const kefC_HeatCapacitance& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { AssertEditable(); region = v; }
@@ -49,12 +43,11 @@ class kefC_HeatCapacitance : public kefC_Inertia {
   const cow_2DArray<double>& GetTable() const { return table; }
   void SetTable(const cow_2DArray<double>& v) { AssertEditable(); table = v; }
 
- protected:
-  bool SameAs(const kefC_Inertia& o) const override;
-
  private:
   rgnC_Region region;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   cow_2DArray<double> table;
 };
+
+extern template class fw_PersistentClass<kefC_HeatCapacitance, kefC_Inertia>;

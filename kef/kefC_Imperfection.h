@@ -21,7 +21,9 @@ class kefC_Imperfection : public mem_Allocated {
 
   virtual ~kefC_Imperfection() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kefC_Imperfection* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kefC_Imperfection* Copy() const { return DoCopy(); }
+  virtual kefC_Imperfection* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;

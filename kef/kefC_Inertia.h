@@ -20,7 +20,9 @@ class kefC_Inertia : public mem_Allocated {
 
   virtual ~kefC_Inertia() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kefC_Inertia* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kefC_Inertia* Copy() const { return DoCopy(); }
+  virtual kefC_Inertia* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;

@@ -2,11 +2,12 @@
 // An imperfection read from an input file, in a coordinate system of the given kind.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Imperfection.h"
 #include "kef/kefC_Enums.h"
 #include "platform/base/cow_String.h"
 
-class kefC_InputImperfection : public kefC_Imperfection {
+class kefC_InputImperfection : public fw_PersistentClass<kefC_InputImperfection, kefC_Imperfection> {
  public:
   using BaseClass = kefC_Imperfection;
   using RootClass = kefC_Imperfection;
@@ -26,25 +27,17 @@ class kefC_InputImperfection : public kefC_Imperfection {
 
   kefC_InputImperfection() = default;
   explicit kefC_InputImperfection(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_InputImperfection* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_InputImperfection& o) const;
-  bool operator!=(const kefC_InputImperfection& o) const { return !(*this == o); }
 
   const cow_String& GetInputFile() const { return inputFile; }
   void SetInputFile(const cow_String& v) { inputFile = v; }
   kefC_SystemEnum GetSystem() const { return system; }
   void SetSystem(kefC_SystemEnum v) { system = v; }
 
- protected:
-  bool SameAs(const kefC_Imperfection& o) const override;
-
  private:
   cow_String inputFile;
   kefC_SystemEnum system = kefC_SystemEnum::CARTESIAN;
 };
+
+extern template class fw_PersistentClass<kefC_InputImperfection, kefC_Imperfection>;

@@ -3,11 +3,12 @@
 // spread by mass or by volume.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Inertia.h"
 #include "kef/kefC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kefC_NonstructuralMass : public kefC_Inertia {
+class kefC_NonstructuralMass : public fw_PersistentClass<kefC_NonstructuralMass, kefC_Inertia> {
  public:
   using BaseClass = kefC_Inertia;
   using RootClass = kefC_Inertia;
@@ -29,15 +30,8 @@ class kefC_NonstructuralMass : public kefC_Inertia {
 
   kefC_NonstructuralMass() = default;
   explicit kefC_NonstructuralMass(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_NonstructuralMass* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_NonstructuralMass& o) const;
-  bool operator!=(const kefC_NonstructuralMass& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { AssertEditable(); region = v; }
@@ -48,12 +42,11 @@ class kefC_NonstructuralMass : public kefC_Inertia {
   kefC_DistributionEnum GetDistribution() const { return distribution; }
   void SetDistribution(kefC_DistributionEnum v) { AssertEditable(); distribution = v; }
 
- protected:
-  bool SameAs(const kefC_Inertia& o) const override;
-
  private:
   rgnC_Region region;
   kefC_UnitsEnum units = kefC_UnitsEnum::TOTAL_MASS;
   double magnitude = 0.0;
   kefC_DistributionEnum distribution = kefC_DistributionEnum::MASS_PROPORTIONAL;
 };
+
+extern template class fw_PersistentClass<kefC_NonstructuralMass, kefC_Inertia>;

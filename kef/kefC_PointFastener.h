@@ -4,6 +4,7 @@
 // of beam type is judged against the model (codes 17 and 41) by kefC_AssertInModel.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Fastener.h"
 #include "framework/fw_OrLiteral.h"
 #include "kef/kefC_Enums.h"
@@ -11,7 +12,7 @@
 #include "platform/base/cow_String.h"
 #include "platform/model/rgnC_Region.h"
 
-class kefC_PointFastener : public kefC_Fastener {
+class kefC_PointFastener : public fw_PersistentClass<kefC_PointFastener, kefC_Fastener> {
  public:
   using BaseClass = kefC_Fastener;
   using RootClass = kefC_Fastener;
@@ -57,15 +58,8 @@ class kefC_PointFastener : public kefC_Fastener {
 
   kefC_PointFastener() = default;
   explicit kefC_PointFastener(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_PointFastener* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_PointFastener& o) const;
-  bool operator!=(const kefC_PointFastener& o) const { return !(*this == o); }
 
   bool IsAllLayers() const { return maximumLayers.IsLiteral(); }
   void SetMaximumLayers(kefC_AllEnum v) { AssertEditable(); maximumLayers = v; }
@@ -108,9 +102,6 @@ class kefC_PointFastener : public kefC_Fastener {
   kefC_AxisEnum GetConnectorOrientationAxis2() const { return connectorOrientationAxis2; }
   void SetConnectorOrientationAxis2(kefC_AxisEnum v) { AssertEditable(); connectorOrientationAxis2 = v; }
 
- protected:
-  bool SameAs(const kefC_Fastener& o) const override;
-
  private:
   rgnC_Region targetSurface;
   cow_List<rgnC_Region> targetSurfaces;
@@ -132,3 +123,5 @@ class kefC_PointFastener : public kefC_Fastener {
   kefC_AxisEnum connectorOrientationAxis1 = kefC_AxisEnum::AXIS_1;
   kefC_AxisEnum connectorOrientationAxis2 = kefC_AxisEnum::AXIS_1;
 };
+
+extern template class fw_PersistentClass<kefC_PointFastener, kefC_Fastener>;

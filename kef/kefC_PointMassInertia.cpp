@@ -2,16 +2,10 @@
 
 #include <cmath>
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kef/kefC_assert.h"
 
-kefC_PointMassInertia::kefC_PointMassInertia(const cls_ReadVisitor& reader) : kefC_Inertia(reader) { fw_ReadFields(*this, reader); }
-void kefC_PointMassInertia::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kefC_PointMassInertia* kefC_PointMassInertia::Copy() const { return new kefC_PointMassInertia(*this); }
-bool kefC_PointMassInertia::operator==(const kefC_PointMassInertia& o) const { return fw_EqualFields(*this, o); }
-bool kefC_PointMassInertia::SameAs(const kefC_Inertia& o) const { return *this == static_cast<const kefC_PointMassInertia&>(o); }
-void kefC_PointMassInertia::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kefC_PointMassInertia>(r); }
-void kefC_PointMassInertia::CowDtor(void* p) { fw_CowDtor<kefC_PointMassInertia>(p); }
+kefC_PointMassInertia::kefC_PointMassInertia(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 void kefC_PointMassInertia::AssertValid() const {
   if (suppress) return;  // a suppressed feature is not validated
@@ -25,3 +19,5 @@ void kefC_PointMassInertia::AssertValid() const {
   kefC_Assert(i11 >= 0 && i22 >= 0 && i33 >= 0, kefC_NegativeDiagonalInertia);
   kefC_Assert(mass == 0 || !anisotropic, kefC_IsotropicAndAnisotropicMass);
 }
+
+template class fw_PersistentClass<kefC_PointMassInertia, kefC_Inertia>;

@@ -3,12 +3,13 @@
 // direction (mass1 to mass3), and the inertia tensor in a coordinate system.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Inertia.h"
 #include "kef/kefC_Enums.h"
 #include "platform/base/cow_String.h"
 #include "platform/model/rgnC_Region.h"
 
-class kefC_PointMassInertia : public kefC_Inertia {
+class kefC_PointMassInertia : public fw_PersistentClass<kefC_PointMassInertia, kefC_Inertia> {
  public:
   using BaseClass = kefC_Inertia;
   using RootClass = kefC_Inertia;
@@ -40,15 +41,8 @@ class kefC_PointMassInertia : public kefC_Inertia {
 
   kefC_PointMassInertia() = default;
   explicit kefC_PointMassInertia(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_PointMassInertia* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_PointMassInertia& o) const;
-  bool operator!=(const kefC_PointMassInertia& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { AssertEditable(); region = v; }
@@ -79,9 +73,6 @@ class kefC_PointMassInertia : public kefC_Inertia {
   double GetMass3() const { return mass3; }
   void SetMass3(double v) { AssertEditable(); mass3 = v; }
 
- protected:
-  bool SameAs(const kefC_Inertia& o) const override;
-
  private:
   rgnC_Region region;
   double mass = 0.0;
@@ -98,3 +89,5 @@ class kefC_PointMassInertia : public kefC_Inertia {
   double mass2 = 0.0;
   double mass3 = 0.0;
 };
+
+extern template class fw_PersistentClass<kefC_PointMassInertia, kefC_Inertia>;

@@ -23,7 +23,9 @@ class kefC_Spring : public mem_Allocated {
 
   virtual ~kefC_Spring() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kefC_Spring* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kefC_Spring* Copy() const { return DoCopy(); }
+  virtual kefC_Spring* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;

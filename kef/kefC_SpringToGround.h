@@ -2,11 +2,12 @@
 // A spring or dashpot from each point of a region to ground, acting in one degree of freedom.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Spring.h"
 #include "kef/kefC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kefC_SpringToGround : public kefC_Spring {
+class kefC_SpringToGround : public fw_PersistentClass<kefC_SpringToGround, kefC_Spring> {
  public:
   using BaseClass = kefC_Spring;
   using RootClass = kefC_Spring;
@@ -32,22 +33,14 @@ class kefC_SpringToGround : public kefC_Spring {
 
   kefC_SpringToGround() = default;
   explicit kefC_SpringToGround(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_SpringToGround* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_SpringToGround& o) const;
-  bool operator!=(const kefC_SpringToGround& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { AssertEditable(); region = v; }
 
- protected:
-  bool SameAs(const kefC_Spring& o) const override;
-
  private:
   rgnC_Region region;
 };
+
+extern template class fw_PersistentClass<kefC_SpringToGround, kefC_Spring>;

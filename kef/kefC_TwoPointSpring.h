@@ -3,12 +3,13 @@
 // fixed degree of freedom at each end.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kef/kefC_Spring.h"
 #include "kef/kefC_Enums.h"
 #include "platform/base/cow_List.h"
 #include "platform/model/rgnC_Region.h"
 
-class kefC_TwoPointSpring : public kefC_Spring {
+class kefC_TwoPointSpring : public fw_PersistentClass<kefC_TwoPointSpring, kefC_Spring> {
  public:
   using BaseClass = kefC_Spring;
   using RootClass = kefC_Spring;
@@ -35,25 +36,17 @@ class kefC_TwoPointSpring : public kefC_Spring {
 
   kefC_TwoPointSpring() = default;
   explicit kefC_TwoPointSpring(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_TwoPointSpring* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_TwoPointSpring& o) const;
-  bool operator!=(const kefC_TwoPointSpring& o) const { return !(*this == o); }
 
   const cow_List<rgnC_Region>& GetRegionPairs() const { return regionPairs; }
   void SetRegionPairs(const cow_List<rgnC_Region>& v) { AssertEditable(); regionPairs = v; }
   kefC_SpringAxisTypeEnum GetAxis() const { return axis; }
   void SetAxis(kefC_SpringAxisTypeEnum v) { AssertEditable(); axis = v; }
 
- protected:
-  bool SameAs(const kefC_Spring& o) const override;
-
  private:
   cow_List<rgnC_Region> regionPairs;  // the two regions of each pair, pair after pair
   kefC_SpringAxisTypeEnum axis = kefC_SpringAxisTypeEnum::NODAL_LINE;
 };
+
+extern template class fw_PersistentClass<kefC_TwoPointSpring, kefC_Spring>;

@@ -1,6 +1,7 @@
 #pragma once
 // An extended finite element crack in a domain, with its initial location and the per-element
 // crack data.
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_OrLiteral.h"
 #include <cstdint>
 
@@ -10,7 +11,7 @@
 #include "platform/base/cow_String.h"
 #include "platform/model/rgnC_Region.h"
 
-class kefC_XFEMCrack : public kefC_Crack {
+class kefC_XFEMCrack : public fw_PersistentClass<kefC_XFEMCrack, kefC_Crack> {
  public:
   using BaseClass = kefC_Crack;
   using RootClass = kefC_Crack;
@@ -39,15 +40,8 @@ class kefC_XFEMCrack : public kefC_Crack {
 
   kefC_XFEMCrack() = default;
   explicit kefC_XFEMCrack(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kefC_XFEMCrack* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kefC_XFEMCrack& o) const;
-  bool operator!=(const kefC_XFEMCrack& o) const { return !(*this == o); }
 
   const rgnC_Region& GetCrackDomain() const { return crackDomain; }
   void SetCrackDomain(const rgnC_Region& v) { AssertEditable(); crackDomain = v; }
@@ -72,9 +66,6 @@ class kefC_XFEMCrack : public kefC_Crack {
   bool GetAutoDetectValue() const { return autoDetectValue; }
   void SetAutoDetectValue(bool v) { AssertEditable(); autoDetectValue = v; }
 
- protected:
-  bool SameAs(const kefC_Crack& o) const override;
-
  private:
   rgnC_Region crackDomain;
   rgnC_Region crackLocation;
@@ -88,3 +79,5 @@ class kefC_XFEMCrack : public kefC_Crack {
   cow_List<double> crackFrontDist;
   bool autoDetectValue = false;
 };
+
+extern template class fw_PersistentClass<kefC_XFEMCrack, kefC_Crack>;

@@ -32,7 +32,7 @@ class kfdC_AnalyticalField : public kfdC_Field {
   void SetCsysType(CsysTypeEnm v) { csysType = v; }
   const cow_String& GetCsysPartName() const { return csysPartName; }
   void SetCsysPartName(const cow_String& v) { csysPartName = v; }
-  kfdC_AnalyticalField* Copy() const override = 0;
+  kfdC_AnalyticalField* Copy() const { return static_cast<kfdC_AnalyticalField*>(DoCopy()); }
   static const char* csysCmd() { return "csys"; }
   static const char* csysPartNameCmd() { return "csysPartName"; }
 

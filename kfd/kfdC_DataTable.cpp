@@ -1,14 +1,9 @@
 #include "kfd/kfdC_DataTable.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kfd/kfdC_assert.h"
 
 kfdC_DataTable::kfdC_DataTable(const cls_ReadVisitor& reader) : uid(reader.GetUid()) { fw_ReadFields(*this, reader); }
-void kfdC_DataTable::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kfdC_DataTable* kfdC_DataTable::Copy() const { return new kfdC_DataTable(*this); }
-bool kfdC_DataTable::operator==(const kfdC_DataTable& o) const { return fw_EqualFields(*this, o); }
-void kfdC_DataTable::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kfdC_DataTable>(r); }
-void kfdC_DataTable::CowDtor(void* p) { fw_CowDtor<kfdC_DataTable>(p); }
 
 void kfdC_DataTable::AssertValid() const {
   kfdC_Assert(dataWidth >= 1, kfdC_InvalidWidth);
@@ -32,3 +27,5 @@ void kfdC_DataTable::AddRow(const cow_String& label, const cow_List<double>& val
   domain = cow_List<cow_String>(std::move(labels));
   data = cow_List<double>(std::move(all));
 }
+
+template class fw_PersistentClass<kfdC_DataTable, mem_Allocated>;

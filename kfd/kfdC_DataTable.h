@@ -4,6 +4,7 @@
 // label, row after row.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/cow_List.h"
 #include "platform/base/cow_String.h"
@@ -14,7 +15,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kfdC_DataTable : public mem_Allocated {
+class kfdC_DataTable : public fw_PersistentClass<kfdC_DataTable, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "kfdC_DataTable";
   static constexpr const char* kScriptName = "FieldDataTable";  // "DataTable" constructs a table collection's data table
@@ -34,14 +35,8 @@ class kfdC_DataTable : public mem_Allocated {
   kfdC_DataTable() = default;
   explicit kfdC_DataTable(const cls_ReadVisitor& reader);
   virtual ~kfdC_DataTable() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual kfdC_DataTable* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kfdC_DataTable& o) const;
-  bool operator!=(const kfdC_DataTable& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   std::int32_t GetDataWidth() const { return dataWidth; }
@@ -63,3 +58,5 @@ class kfdC_DataTable : public mem_Allocated {
   cow_List<double> data;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kfdC_DataTable, mem_Allocated>;

@@ -1,16 +1,10 @@
 #include "kfd/kfdC_DiscreteField.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kfd/kfdC_DiscreteFieldContainer.h"
 #include "kfd/kfdC_assert.h"
 
-kfdC_DiscreteField::kfdC_DiscreteField(const cls_ReadVisitor& reader) : kfdC_Field(reader) { fw_ReadFields(*this, reader); }
-void kfdC_DiscreteField::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kfdC_DiscreteField* kfdC_DiscreteField::Copy() const { return new kfdC_DiscreteField(*this); }
-bool kfdC_DiscreteField::operator==(const kfdC_DiscreteField& o) const { return fw_EqualFields(*this, o); }
-bool kfdC_DiscreteField::SameAs(const kfdC_Field& o) const { return *this == static_cast<const kfdC_DiscreteField&>(o); }
-void kfdC_DiscreteField::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kfdC_DiscreteField>(r); }
-void kfdC_DiscreteField::CowDtor(void* p) { fw_CowDtor<kfdC_DiscreteField>(p); }
+kfdC_DiscreteField::kfdC_DiscreteField(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 void kfdC_DiscreteField::AssertValid() const {
   const std::size_t width = static_cast<std::size_t>(std::max<std::int32_t>(dataTable.GetDataWidth(), 0));
@@ -58,3 +52,5 @@ const kfdC_DiscreteField& kfdC_GetDiscreteField(const kfdC_DiscreteFieldContaine
   if (!f) fields.Fields().RefuseMissingKey(name);
   return *f;
 }
+
+template class fw_PersistentClass<kfdC_DiscreteField, kfdC_Field>;

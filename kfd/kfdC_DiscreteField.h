@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kfd/kfdC_Field.h"
 #include "framework/fw_Field.h"
 #include "kfd/kfdC_DataTable.h"
@@ -14,7 +15,7 @@
 #include "platform/base/cow_String.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kfdC_DiscreteField : public kfdC_Field {
+class kfdC_DiscreteField : public fw_PersistentClass<kfdC_DiscreteField, kfdC_Field> {
  public:
   using BaseClass = kfdC_Field;
   using RootClass = kfdC_Field;
@@ -58,14 +59,8 @@ class kfdC_DiscreteField : public kfdC_Field {
 
   kfdC_DiscreteField() = default;
   explicit kfdC_DiscreteField(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kfdC_DiscreteField* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kfdC_DiscreteField& o) const;
-  bool operator!=(const kfdC_DiscreteField& o) const { return !(*this == o); }
 
   locationEnum GetLocation() const { return location; }
   void SetLocation(locationEnum v) { location = v; }
@@ -87,9 +82,6 @@ class kfdC_DiscreteField : public kfdC_Field {
   // Refuses a field that names part instances in its labels where it is applied to a part.
   void AssertPartLevelUse() const;
 
- protected:
-  bool SameAs(const kfdC_Field& o) const override;
-
  private:
   locationEnum location = locationEnum::NODES;
   discreteFieldTypeEnum fieldType = discreteFieldTypeEnum::SCALAR;
@@ -99,3 +91,5 @@ class kfdC_DiscreteField : public kfdC_Field {
   cow_String analyticFieldName;
   kfdC_DataTable dataTable;
 };
+
+extern template class fw_PersistentClass<kfdC_DiscreteField, kfdC_Field>;

@@ -3,10 +3,11 @@
 // rectangular one, R, Th, Z in a cylindrical one, R, Th, P in a spherical one.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kfd/kfdC_AnalyticalField.h"
 #include "framework/fw_Field.h"
 
-class kfdC_ExpressionField : public kfdC_AnalyticalField {
+class kfdC_ExpressionField : public fw_PersistentClass<kfdC_ExpressionField, kfdC_AnalyticalField> {
  public:
   using BaseClass = kfdC_AnalyticalField;
   using RootClass = kfdC_Field;
@@ -31,21 +32,14 @@ class kfdC_ExpressionField : public kfdC_AnalyticalField {
 
   kfdC_ExpressionField() = default;
   explicit kfdC_ExpressionField(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kfdC_ExpressionField* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kfdC_ExpressionField& o) const;
-  bool operator!=(const kfdC_ExpressionField& o) const { return !(*this == o); }
 
   const cow_String& GetExpression() const { return expression; }
   void SetExpression(const cow_String& v) { expression = v; }
 
- protected:
-  bool SameAs(const kfdC_Field& o) const override;
-
  private:
   cow_String expression;
 };
+
+extern template class fw_PersistentClass<kfdC_ExpressionField, kfdC_AnalyticalField>;

@@ -23,7 +23,9 @@ class kfdC_Field : public mem_Allocated {
 
   virtual ~kfdC_Field() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kfdC_Field* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kfdC_Field* Copy() const { return DoCopy(); }
+  virtual kfdC_Field* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;

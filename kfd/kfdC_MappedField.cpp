@@ -1,14 +1,9 @@
 #include "kfd/kfdC_MappedField.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kfd/kfdC_assert.h"
 
-kfdC_MappedField::kfdC_MappedField(const cls_ReadVisitor& reader) : kfdC_AnalyticalField(reader) { fw_ReadFields(*this, reader); }
-void kfdC_MappedField::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kfdC_MappedField* kfdC_MappedField::Copy() const { return new kfdC_MappedField(*this); }
-bool kfdC_MappedField::operator==(const kfdC_MappedField& o) const { return fw_EqualFields(*this, o); }
-bool kfdC_MappedField::SameAs(const kfdC_Field& o) const { return *this == static_cast<const kfdC_MappedField&>(o); }
-void kfdC_MappedField::CowDtor(void* p) { fw_CowDtor<kfdC_MappedField>(p); }
+kfdC_MappedField::kfdC_MappedField(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 void kfdC_MappedField::AssertValid() const {
   AssertAnalyticalValid();
@@ -226,3 +221,5 @@ void kfdC_MappedField::InitializeMetadata(cls_ClassRegistrar& registrar) {
       },
       Fields());
 }
+
+template class fw_PersistentClass<kfdC_MappedField, kfdC_AnalyticalField>;

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kfd/kfdC_AnalyticalField.h"
 #include "framework/fw_Field.h"
 #include "kfd/kfdC_OdbMeshRegionData.h"
@@ -14,7 +15,7 @@
 #include "platform/base/cow_List.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kfdC_MappedField : public kfdC_AnalyticalField {
+class kfdC_MappedField : public fw_PersistentClass<kfdC_MappedField, kfdC_AnalyticalField> {
  public:
   using BaseClass = kfdC_AnalyticalField;
   using RootClass = kfdC_Field;
@@ -83,14 +84,9 @@ class kfdC_MappedField : public kfdC_AnalyticalField {
 
   kfdC_MappedField() = default;
   explicit kfdC_MappedField(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kfdC_MappedField* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kfdC_MappedField& o) const;
-  bool operator!=(const kfdC_MappedField& o) const { return !(*this == o); }
 
   regionTypeEnum GetRegionType() const { return regionType; }
   void SetRegionType(regionTypeEnum v) { regionType = v; }
@@ -168,9 +164,6 @@ class kfdC_MappedField : public kfdC_AnalyticalField {
   // unknown key).
   static std::array<int, 2> GridPlaneAxes(std::int32_t planeKey);
 
- protected:
-  bool SameAs(const kfdC_Field& o) const override;
-
  private:
   regionTypeEnum regionType = regionTypeEnum::POINT;
   fieldDataTypeEnum fieldDataType = fieldDataTypeEnum::SCALAR;
@@ -197,3 +190,5 @@ class kfdC_MappedField : public kfdC_AnalyticalField {
   double coordScale2 = 1.0;
   double coordScale3 = 1.0;
 };
+
+extern template class fw_PersistentClass<kfdC_MappedField, kfdC_AnalyticalField>;

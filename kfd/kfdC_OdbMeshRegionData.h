@@ -5,6 +5,7 @@
 // bottom points of it.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/cow_String.h"
 #include "platform/base/omu_PrimEnum.h"
@@ -15,7 +16,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kfdC_OdbMeshRegionData : public mem_Allocated {
+class kfdC_OdbMeshRegionData : public fw_PersistentClass<kfdC_OdbMeshRegionData, mem_Allocated> {
  public:
   enum class QuantityToPlotEnm : std::int32_t { FIELD_OUTPUT = 0, DISCONTINUITIES = 1 };
   static constexpr omu_EnumLiteral kQuantityToPlotLiterals[] = {{"FIELD_OUTPUT", 0}, {"DISCONTINUITIES", 1}, {nullptr, 0}};
@@ -97,14 +98,8 @@ class kfdC_OdbMeshRegionData : public mem_Allocated {
   kfdC_OdbMeshRegionData() = default;
   explicit kfdC_OdbMeshRegionData(const cls_ReadVisitor& reader);
   virtual ~kfdC_OdbMeshRegionData() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual kfdC_OdbMeshRegionData* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kfdC_OdbMeshRegionData& o) const;
-  bool operator!=(const kfdC_OdbMeshRegionData& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   std::int32_t GetStepIdx() const { return stepIdx; }
@@ -213,3 +208,5 @@ class kfdC_OdbMeshRegionData : public mem_Allocated {
   cow_String botLabel;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kfdC_OdbMeshRegionData, mem_Allocated>;

@@ -2,9 +2,10 @@
 // A Butterworth filter: maximally flat in the pass band, of order 1 to 20.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kfl/kflC_Filter.h"
 
-class kflC_ButterworthFilter : public kflC_Filter {
+class kflC_ButterworthFilter : public fw_PersistentClass<kflC_ButterworthFilter, kflC_Filter> {
  public:
   using BaseClass = kflC_Filter;
   using RootClass = kflC_Filter;
@@ -26,21 +27,14 @@ class kflC_ButterworthFilter : public kflC_Filter {
 
   kflC_ButterworthFilter() = default;
   explicit kflC_ButterworthFilter(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kflC_ButterworthFilter* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kflC_ButterworthFilter& o) const;
-  bool operator!=(const kflC_ButterworthFilter& o) const { return !(*this == o); }
 
   double GetCutoffFrequency() const { return cutoffFrequency; }
   void SetCutoffFrequency(double v) { cutoffFrequency = v; }
   std::int32_t GetOrder() const { return order; }
   void SetOrder(std::int32_t v) { order = v; }
 
- protected:
-  bool SameAs(const kflC_Filter& o) const override;
 };
+
+extern template class fw_PersistentClass<kflC_ButterworthFilter, kflC_Filter>;

@@ -3,9 +3,10 @@
 // bought with a ripple in the pass band whose size the ripple factor sets.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kfl/kflC_Filter.h"
 
-class kflC_Chebyshev1Filter : public kflC_Filter {
+class kflC_Chebyshev1Filter : public fw_PersistentClass<kflC_Chebyshev1Filter, kflC_Filter> {
  public:
   using BaseClass = kflC_Filter;
   using RootClass = kflC_Filter;
@@ -28,15 +29,8 @@ class kflC_Chebyshev1Filter : public kflC_Filter {
 
   kflC_Chebyshev1Filter() = default;
   explicit kflC_Chebyshev1Filter(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kflC_Chebyshev1Filter* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kflC_Chebyshev1Filter& o) const;
-  bool operator!=(const kflC_Chebyshev1Filter& o) const { return !(*this == o); }
 
   double GetCutoffFrequency() const { return cutoffFrequency; }
   void SetCutoffFrequency(double v) { cutoffFrequency = v; }
@@ -45,9 +39,8 @@ class kflC_Chebyshev1Filter : public kflC_Filter {
   double GetRippleFactor() const { return rippleFactor; }
   void SetRippleFactor(double v) { rippleFactor = v; }
 
- protected:
-  bool SameAs(const kflC_Filter& o) const override;
-
  private:
   double rippleFactor = 0.225;  // about a quarter of a decibel
 };
+
+extern template class fw_PersistentClass<kflC_Chebyshev1Filter, kflC_Filter>;

@@ -32,7 +32,9 @@ class kflC_Filter : public mem_Allocated {
 
   virtual ~kflC_Filter() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kflC_Filter* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kflC_Filter* Copy() const { return DoCopy(); }
+  virtual kflC_Filter* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;

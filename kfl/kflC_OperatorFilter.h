@@ -3,9 +3,10 @@
 // absolute value), compared with the limit when one is given.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "kfl/kflC_Filter.h"
 
-class kflC_OperatorFilter : public kflC_Filter {
+class kflC_OperatorFilter : public fw_PersistentClass<kflC_OperatorFilter, kflC_Filter> {
  public:
   using BaseClass = kflC_Filter;
   using RootClass = kflC_Filter;
@@ -25,16 +26,9 @@ class kflC_OperatorFilter : public kflC_Filter {
 
   kflC_OperatorFilter() = default;
   explicit kflC_OperatorFilter(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kflC_OperatorFilter* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
 
-  bool operator==(const kflC_OperatorFilter& o) const;
-  bool operator!=(const kflC_OperatorFilter& o) const { return !(*this == o); }
-
- protected:
-  bool SameAs(const kflC_Filter& o) const override;
 };
+
+extern template class fw_PersistentClass<kflC_OperatorFilter, kflC_Filter>;

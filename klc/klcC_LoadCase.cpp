@@ -4,15 +4,10 @@
 #include <set>
 #include <string>
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "klc/klcC_assert.h"
 
 klcC_LoadCase::klcC_LoadCase(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
-void klcC_LoadCase::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-klcC_LoadCase* klcC_LoadCase::Copy() const { return new klcC_LoadCase(*this); }
-bool klcC_LoadCase::operator==(const klcC_LoadCase& o) const { return fw_EqualFields(*this, o); }
-void klcC_LoadCase::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<klcC_LoadCase>(r); }
-void klcC_LoadCase::CowDtor(void* p) { fw_CowDtor<klcC_LoadCase>(p); }
 
 namespace {
 // One list, term by term: named, not named before in this list, finitely scaled. A load and a
@@ -35,3 +30,5 @@ void klcC_LoadCase::AssertValid() const {
   klcC_CheckTerms(loads, klcC_LoadRepeated);
   klcC_CheckTerms(boundaryConditions, klcC_BoundaryConditionRepeated);
 }
+
+template class fw_PersistentClass<klcC_LoadCase, mem_Allocated>;

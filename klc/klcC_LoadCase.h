@@ -1,6 +1,7 @@
 #pragma once
 // A load case: a named combination, for one step, of loads and boundary conditions of the model,
 // each with the factor it is scaled by.
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "klc/klcC_LoadCaseTerm.h"
 #include "platform/base/bas_Alloc.h"
@@ -13,7 +14,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class klcC_LoadCase : public mem_Allocated {
+class klcC_LoadCase : public fw_PersistentClass<klcC_LoadCase, mem_Allocated> {
  public:
   using Term = cow_COW<klcC_LoadCaseTerm, cow_Direct<klcC_LoadCaseTerm>>;
   using Terms = cow_List<Term>;
@@ -37,15 +38,8 @@ class klcC_LoadCase : public mem_Allocated {
 
   klcC_LoadCase() = default;
   explicit klcC_LoadCase(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~klcC_LoadCase() = default;
-  virtual klcC_LoadCase* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const klcC_LoadCase& o) const;
-  bool operator!=(const klcC_LoadCase& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   bool GetSuppress() const { return suppress; }
@@ -67,3 +61,5 @@ class klcC_LoadCase : public mem_Allocated {
   Terms boundaryConditions;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<klcC_LoadCase, mem_Allocated>;

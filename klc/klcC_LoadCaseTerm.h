@@ -1,6 +1,7 @@
 #pragma once
 // One member of a load case: a load or boundary condition of the model, by name, with the factor
 // it is scaled by.
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/base/cow_String.h"
@@ -10,7 +11,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class klcC_LoadCaseTerm : public mem_Allocated {
+class klcC_LoadCaseTerm : public fw_PersistentClass<klcC_LoadCaseTerm, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "klcC_LoadCaseTerm";
   static constexpr const char* kScriptName = "LoadCaseTerm";
@@ -29,16 +30,9 @@ class klcC_LoadCaseTerm : public mem_Allocated {
   klcC_LoadCaseTerm() = default;
   klcC_LoadCaseTerm(const cow_String& name_, double scaleFactor_) : name(name_), scaleFactor(scaleFactor_) {}
   explicit klcC_LoadCaseTerm(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~klcC_LoadCaseTerm() = default;
-  virtual klcC_LoadCaseTerm* Copy() const;
   // The term on its own: named, with a finite factor.
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const klcC_LoadCaseTerm& o) const;
-  bool operator!=(const klcC_LoadCaseTerm& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   const cow_String& GetName() const { return name; }
@@ -51,3 +45,5 @@ class klcC_LoadCaseTerm : public mem_Allocated {
   double scaleFactor = 1.0;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<klcC_LoadCaseTerm, mem_Allocated>;

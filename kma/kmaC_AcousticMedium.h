@@ -1,11 +1,11 @@
 #pragma once
 // Acoustic medium: bulk modulus and volumetric drag of a fluid.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_AcousticMedium : public kmaC_MaterialOption {
+class kmaC_AcousticMedium : public fw_PersistentClass<kmaC_AcousticMedium, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_AcousticMedium";
@@ -26,15 +26,8 @@ class kmaC_AcousticMedium : public kmaC_MaterialOption {
 
   kmaC_AcousticMedium() = default;
   explicit kmaC_AcousticMedium(const cls_ReadVisitor& r);
-  kmaC_AcousticMedium* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_AcousticMedium& o) const;
-  bool operator!=(const kmaC_AcousticMedium& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String bulkModulusCmd() { return "bulkModulus"; }
@@ -55,9 +48,6 @@ class kmaC_AcousticMedium : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool bulkModulus = true;
   bool volumetricDrag = false;
@@ -65,3 +55,5 @@ class kmaC_AcousticMedium : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_AcousticMedium, kmaC_MaterialOption>;

@@ -1,12 +1,12 @@
 #pragma once
 // Annealing of a plastic option: above the anneal temperature the plastic strain is set to zero.
 // The data may depend on field variables.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_AnnealTemperature : public kmaC_MaterialOption {
+class kmaC_AnnealTemperature : public fw_PersistentClass<kmaC_AnnealTemperature, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_AnnealTemperature";
@@ -25,15 +25,8 @@ class kmaC_AnnealTemperature : public kmaC_MaterialOption {
 
   kmaC_AnnealTemperature() = default;
   explicit kmaC_AnnealTemperature(const cls_ReadVisitor& r);
-  kmaC_AnnealTemperature* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_AnnealTemperature& o) const;
-  bool operator!=(const kmaC_AnnealTemperature& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -48,11 +41,10 @@ class kmaC_AnnealTemperature : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_AnnealTemperature, kmaC_MaterialOption>;

@@ -1,11 +1,12 @@
 #pragma once
 // Brittle cracking: the cracking stress and the post-cracking tension stiffening.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "kma/kmaC_OptionSlot.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_BrittleCracking : public kmaC_MaterialOption {
+class kmaC_BrittleCracking : public fw_PersistentClass<kmaC_BrittleCracking, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { STRESS = 0, STRAIN = 1, GFI = 2 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"STRESS", 0}, {"STRAIN", 1}, {"GFI", 2}, {nullptr, 0}};
@@ -31,16 +32,9 @@ class kmaC_BrittleCracking : public kmaC_MaterialOption {
 
   kmaC_BrittleCracking() = default;
   explicit kmaC_BrittleCracking(const cls_ReadVisitor& r);
-  kmaC_BrittleCracking* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for brittle cracking"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_BrittleCracking& o) const;
-  bool operator!=(const kmaC_BrittleCracking& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -62,9 +56,6 @@ class kmaC_BrittleCracking : public kmaC_MaterialOption {
   void SetShearRetention(const kmaC_MaterialOption& v) { shearRetention.Set(v, "shearRetention"); }
   void ClearShearRetention() { shearRetention.Clear(); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::STRESS;
   bool temperatureDependency = false;
@@ -72,3 +63,5 @@ class kmaC_BrittleCracking : public kmaC_MaterialOption {
   kmaC_MaterialTable table;
   kmaC_OptionSlot<kmaC_OptionClass::ShearRetention> shearRetention;
 };
+
+extern template class fw_PersistentClass<kmaC_BrittleCracking, kmaC_MaterialOption>;

@@ -1,11 +1,12 @@
 #pragma once
 // Creep of a cap plasticity material with one law for both mechanisms (the form before cohesion
 // and consolidation creep were told apart): the law and its data; a user law reads no table.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_CapCreep : public kmaC_MaterialOption {
+class kmaC_CapCreep : public fw_PersistentClass<kmaC_CapCreep, kmaC_MaterialOption> {
  public:
   enum class LawEnm : std::int32_t { STRAIN = 0, TIME = 1, SINGHM = 2, USER = 3 };
   static constexpr omu_EnumLiteral kLawLiterals[] = {{"STRAIN", 0}, {"TIME", 1}, {"SINGHM", 2}, {"USER", 3}, {nullptr, 0}};
@@ -30,15 +31,8 @@ class kmaC_CapCreep : public kmaC_MaterialOption {
 
   kmaC_CapCreep() = default;
   explicit kmaC_CapCreep(const cls_ReadVisitor& r);
-  kmaC_CapCreep* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_CapCreep& o) const;
-  bool operator!=(const kmaC_CapCreep& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String lawCmd() { return "law"; }
@@ -56,12 +50,11 @@ class kmaC_CapCreep : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   LawEnm law = LawEnm::STRAIN;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_CapCreep, kmaC_MaterialOption>;

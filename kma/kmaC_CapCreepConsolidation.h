@@ -1,11 +1,12 @@
 #pragma once
 // Consolidation (volumetric) creep of a cap plasticity material: the law, its time measure and its
 // data; a user law reads no table. The time measure joined the layout at 2008.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_CapCreepConsolidation : public kmaC_MaterialOption {
+class kmaC_CapCreepConsolidation : public fw_PersistentClass<kmaC_CapCreepConsolidation, kmaC_MaterialOption> {
  public:
   enum class LawEnm : std::int32_t { STRAIN = 0, TIME = 1, USER = 2, POWER_LAW = 3, TIME_POWER_LAW = 4 };
   static constexpr omu_EnumLiteral kLawLiterals[] = {{"STRAIN", 0}, {"TIME", 1}, {"USER", 2}, {"POWER_LAW", 3}, {"TIME_POWER_LAW", 4}, {nullptr, 0}};
@@ -35,15 +36,8 @@ class kmaC_CapCreepConsolidation : public kmaC_MaterialOption {
 
   kmaC_CapCreepConsolidation() = default;
   explicit kmaC_CapCreepConsolidation(const cls_ReadVisitor& r);
-  kmaC_CapCreepConsolidation* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_CapCreepConsolidation& o) const;
-  bool operator!=(const kmaC_CapCreepConsolidation& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String lawCmd() { return "law"; }
@@ -64,9 +58,6 @@ class kmaC_CapCreepConsolidation : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   LawEnm law = LawEnm::STRAIN;
   TimeEnm time = TimeEnm::TOTAL;
@@ -74,3 +65,5 @@ class kmaC_CapCreepConsolidation : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_CapCreepConsolidation, kmaC_MaterialOption>;

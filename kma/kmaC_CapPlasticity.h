@@ -1,13 +1,13 @@
 #pragma once
 // Modified Drucker-Prager cap plasticity: cohesion, friction angle, cap eccentricity, initial
 // yield surface position, transition parameter and flow stress ratio per row.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "kma/kmaC_OptionSlot.h"
 
-class kmaC_CapPlasticity : public kmaC_MaterialOption {
+class kmaC_CapPlasticity : public fw_PersistentClass<kmaC_CapPlasticity, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_CapPlasticity";
@@ -29,16 +29,9 @@ class kmaC_CapPlasticity : public kmaC_MaterialOption {
 
   kmaC_CapPlasticity() = default;
   explicit kmaC_CapPlasticity(const cls_ReadVisitor& r);
-  kmaC_CapPlasticity* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for cap plasticity"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_CapPlasticity& o) const;
-  bool operator!=(const kmaC_CapPlasticity& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -65,9 +58,6 @@ class kmaC_CapPlasticity : public kmaC_MaterialOption {
   void SetCapCreep(const kmaC_MaterialOption& v) { capCreep.Set(v, "capCreep"); }
   void ClearCapCreep() { capCreep.Clear(); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
@@ -76,3 +66,5 @@ class kmaC_CapPlasticity : public kmaC_MaterialOption {
   kmaC_OptionSlot<kmaC_OptionClass::CapCreepConsolidation> capCreepConsolidation;
   kmaC_OptionSlot<kmaC_OptionClass::CapCreep> capCreep;
 };
+
+extern template class fw_PersistentClass<kmaC_CapPlasticity, kmaC_MaterialOption>;

@@ -1,11 +1,11 @@
 #pragma once
 // Gray cast iron plasticity: the plastic Poisson's ratio in tension.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_CastIronPlasticity : public kmaC_MaterialOption {
+class kmaC_CastIronPlasticity : public fw_PersistentClass<kmaC_CastIronPlasticity, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_CastIronPlasticity";
@@ -24,16 +24,9 @@ class kmaC_CastIronPlasticity : public kmaC_MaterialOption {
 
   kmaC_CastIronPlasticity() = default;
   explicit kmaC_CastIronPlasticity(const cls_ReadVisitor& r);
-  kmaC_CastIronPlasticity* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for cast iron plasticity"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_CastIronPlasticity& o) const;
-  bool operator!=(const kmaC_CastIronPlasticity& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -48,11 +41,10 @@ class kmaC_CastIronPlasticity : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_CastIronPlasticity, kmaC_MaterialOption>;

@@ -1,10 +1,11 @@
 #pragma once
 // Critical state clay plasticity: exponential or tabular hardening.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_ClayPlasticity : public kmaC_MaterialOption {
+class kmaC_ClayPlasticity : public fw_PersistentClass<kmaC_ClayPlasticity, kmaC_MaterialOption> {
  public:
   enum class HardeningEnm : std::int32_t { EXPONENTIAL = 0, TABULAR = 1 };
   static constexpr omu_EnumLiteral kHardeningLiterals[] = {{"EXPONENTIAL", 0}, {"TABULAR", 1}, {nullptr, 0}};
@@ -29,16 +30,9 @@ class kmaC_ClayPlasticity : public kmaC_MaterialOption {
 
   kmaC_ClayPlasticity() = default;
   explicit kmaC_ClayPlasticity(const cls_ReadVisitor& r);
-  kmaC_ClayPlasticity* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for clay plasticity"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_ClayPlasticity& o) const;
-  bool operator!=(const kmaC_ClayPlasticity& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String hardeningCmd() { return "hardening"; }
@@ -56,12 +50,11 @@ class kmaC_ClayPlasticity : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   HardeningEnm hardening = HardeningEnm::EXPONENTIAL;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_ClayPlasticity, kmaC_MaterialOption>;

@@ -1,10 +1,11 @@
 #pragma once
 // Thermal conductivity: one, three or six coefficients by the symmetry of the type.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Conductivity : public kmaC_MaterialOption {
+class kmaC_Conductivity : public fw_PersistentClass<kmaC_Conductivity, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { ISOTROPIC = 0, ORTHOTROPIC = 1, ANISOTROPIC = 2 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"ISOTROPIC", 0}, {"ORTHOTROPIC", 1}, {"ANISOTROPIC", 2}, {nullptr, 0}};
@@ -29,15 +30,8 @@ class kmaC_Conductivity : public kmaC_MaterialOption {
 
   kmaC_Conductivity() = default;
   explicit kmaC_Conductivity(const cls_ReadVisitor& r);
-  kmaC_Conductivity* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Conductivity& o) const;
-  bool operator!=(const kmaC_Conductivity& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -55,12 +49,11 @@ class kmaC_Conductivity : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::ISOTROPIC;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Conductivity, kmaC_MaterialOption>;

@@ -1,10 +1,11 @@
 #pragma once
 // Creep: the law, its time measure and the data table; a user law reads no table.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Creep : public kmaC_MaterialOption {
+class kmaC_Creep : public fw_PersistentClass<kmaC_Creep, kmaC_MaterialOption> {
  public:
   enum class LawEnm : std::int32_t { STRAIN = 0, TIME = 1, HYPERBOLIC_SINE = 2, USER = 3, ANAND = 4, DARVEAUX = 5, DOUBLE_POWER = 6, POWER_LAW = 7, TIME_POWER_LAW = 8 };
   enum class TimeEnm : std::int32_t { TOTAL = 0, CREEP = 1 };
@@ -33,16 +34,9 @@ class kmaC_Creep : public kmaC_MaterialOption {
 
   kmaC_Creep() = default;
   explicit kmaC_Creep(const cls_ReadVisitor& r);
-  kmaC_Creep* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for creep"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Creep& o) const;
-  bool operator!=(const kmaC_Creep& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String lawCmd() { return "law"; }
@@ -63,9 +57,6 @@ class kmaC_Creep : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   LawEnm law = LawEnm::STRAIN;
   TimeEnm time = TimeEnm::TOTAL;
@@ -73,3 +64,5 @@ class kmaC_Creep : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Creep, kmaC_MaterialOption>;

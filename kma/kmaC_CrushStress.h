@@ -3,11 +3,12 @@
 // crushes, with an optional velocity-factor sub-option for its rate dependence. The table holds the
 // crush stress, plus one column for temperature when temperature-dependent and one per
 // field-variable dependency.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "kma/kmaC_OptionSlot.h"
 
-class kmaC_CrushStress : public kmaC_MaterialOption {
+class kmaC_CrushStress : public fw_PersistentClass<kmaC_CrushStress, kmaC_MaterialOption> {
  public:
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
@@ -29,16 +30,9 @@ class kmaC_CrushStress : public kmaC_MaterialOption {
 
   kmaC_CrushStress() = default;
   explicit kmaC_CrushStress(const cls_ReadVisitor& r);
-  kmaC_CrushStress* Copy() const override;
   // Dependencies (code 0), the table (code 23), then the velocity factor when present.
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_CrushStress& o) const;
-  bool operator!=(const kmaC_CrushStress& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -60,12 +54,11 @@ class kmaC_CrushStress : public kmaC_MaterialOption {
   }
   void ClearCrushStressVelocityFactor() { crushStressVelocityFactor.Clear(); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
   kmaC_OptionSlot<kmaC_OptionClass::CrushStressVelocityFactor> crushStressVelocityFactor;
 };
+
+extern template class fw_PersistentClass<kmaC_CrushStress, kmaC_MaterialOption>;

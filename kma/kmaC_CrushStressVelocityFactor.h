@@ -2,10 +2,11 @@
 // The rate dependence of a crush stress: a factor on the crush stress against the crushing
 // velocity. The table holds (factor, velocity), plus one column for temperature when
 // temperature-dependent and one per field-variable dependency.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_CrushStressVelocityFactor : public kmaC_MaterialOption {
+class kmaC_CrushStressVelocityFactor : public fw_PersistentClass<kmaC_CrushStressVelocityFactor, kmaC_MaterialOption> {
  public:
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
@@ -25,16 +26,9 @@ class kmaC_CrushStressVelocityFactor : public kmaC_MaterialOption {
 
   kmaC_CrushStressVelocityFactor() = default;
   explicit kmaC_CrushStressVelocityFactor(const cls_ReadVisitor& r);
-  kmaC_CrushStressVelocityFactor* Copy() const override;
   // Dependencies (code 0), then the table (code 23).
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_CrushStressVelocityFactor& o) const;
-  bool operator!=(const kmaC_CrushStressVelocityFactor& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -49,11 +43,10 @@ class kmaC_CrushStressVelocityFactor : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_CrushStressVelocityFactor, kmaC_MaterialOption>;

@@ -1,12 +1,12 @@
 #pragma once
 // Cycled yield data of a plastic option under the ORNL rules: the yield stress against plastic
 // strain after cycling, possibly temperature dependent.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_CycledPlastic : public kmaC_MaterialOption {
+class kmaC_CycledPlastic : public fw_PersistentClass<kmaC_CycledPlastic, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_CycledPlastic";
@@ -24,15 +24,8 @@ class kmaC_CycledPlastic : public kmaC_MaterialOption {
 
   kmaC_CycledPlastic() = default;
   explicit kmaC_CycledPlastic(const cls_ReadVisitor& r);
-  kmaC_CycledPlastic* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_CycledPlastic& o) const;
-  bool operator!=(const kmaC_CycledPlastic& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -44,10 +37,9 @@ class kmaC_CycledPlastic : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_CycledPlastic, kmaC_MaterialOption>;

@@ -1,12 +1,12 @@
 #pragma once
 // Isotropic part of combined hardening: the yield surface size against equivalent plastic strain,
 // or the parameters of the exponential law (initial yield stress, saturation value, rate).
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_CyclicHardening : public kmaC_MaterialOption {
+class kmaC_CyclicHardening : public fw_PersistentClass<kmaC_CyclicHardening, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_CyclicHardening";
@@ -26,15 +26,8 @@ class kmaC_CyclicHardening : public kmaC_MaterialOption {
 
   kmaC_CyclicHardening() = default;
   explicit kmaC_CyclicHardening(const cls_ReadVisitor& r);
-  kmaC_CyclicHardening* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_CyclicHardening& o) const;
-  bool operator!=(const kmaC_CyclicHardening& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -52,12 +45,11 @@ class kmaC_CyclicHardening : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   bool parameters = false;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_CyclicHardening, kmaC_MaterialOption>;

@@ -5,11 +5,12 @@
 // multi-mode criterion it belongs to (`failureIndex`, from 1). The table holds the displacement or
 // energy at failure (with the damage variable, or the mode-mix ratio, per the choices), plus one
 // column for temperature when temperature-dependent and one per field-variable dependency.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_DamageEvolution : public kmaC_MaterialOption {
+class kmaC_DamageEvolution : public fw_PersistentClass<kmaC_DamageEvolution, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { DISPLACEMENT = 0, ENERGY = 1 };
   enum class SofteningEnm : std::int32_t { LINEAR = 0, EXPONENTIAL = 1, TABULAR = 2 };
@@ -55,18 +56,11 @@ class kmaC_DamageEvolution : public kmaC_MaterialOption {
 
   kmaC_DamageEvolution() = default;
   explicit kmaC_DamageEvolution(const cls_ReadVisitor& r);
-  kmaC_DamageEvolution* Copy() const override;
   // Dependencies (code 0), the combination of type, softening and mixed-mode behavior (code 38),
   // then the table (code 23). The failure index is checked by the owning initiation, which knows
   // how many failure modes its criterion has.
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_DamageEvolution& o) const;
-  bool operator!=(const kmaC_DamageEvolution& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -104,9 +98,6 @@ class kmaC_DamageEvolution : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::DISPLACEMENT;
   SofteningEnm softening = SofteningEnm::LINEAR;
@@ -120,3 +111,5 @@ class kmaC_DamageEvolution : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_DamageEvolution, kmaC_MaterialOption>;

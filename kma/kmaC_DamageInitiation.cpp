@@ -1,5 +1,7 @@
 #include "kma/kmaC_DamageInitiation.h"
 
+#include "framework/fw_PersistentClassImpl.h"
+
 #include <algorithm>
 #include <vector>
 
@@ -7,13 +9,7 @@
 #include "kma/kmaC_OptionListTraits.h"
 #include "kma/kmaC_assert.h"
 
-kmaC_DamageInitiation::kmaC_DamageInitiation(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
-kmaC_DamageInitiation* kmaC_DamageInitiation::Copy() const { return mem_New<kmaC_DamageInitiation>(*this); }
-void kmaC_DamageInitiation::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-bool kmaC_DamageInitiation::operator==(const kmaC_DamageInitiation& o) const { return fw_EqualFields(*this, o); }
-bool kmaC_DamageInitiation::SameAs(const kmaC_MaterialOption& o) const { return *this == static_cast<const kmaC_DamageInitiation&>(o); }
-void kmaC_DamageInitiation::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_DamageInitiation>(r); }
-void kmaC_DamageInitiation::CowDtor(void* p) { fw_CowDtor<kmaC_DamageInitiation>(p); }
+kmaC_DamageInitiation::kmaC_DamageInitiation(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 
 const kmaC_MaterialOptionList* kmaC_DamageInitiation::OptionList(std::string_view member) const {
   return member == "DamageEvolutionList" ? &damageEvolutions.List() : nullptr;
@@ -35,3 +31,5 @@ void kmaC_DamageInitiation::AssertValid() const {
     seen.push_back(index);
   }
 }
+
+template class fw_PersistentClass<kmaC_DamageInitiation, kmaC_MaterialOption>;

@@ -2,12 +2,13 @@
 // Onset of damage by one criterion (the slot of the material names it): the criterion's data table,
 // the forming-limit definition, the direction and position of evaluation and the numerical controls,
 // and the list of damage evolutions that follow the onset (one per failure mode of the criterion).
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "kma/kmaC_OptionListMember.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_DamageInitiation : public kmaC_MaterialOption {
+class kmaC_DamageInitiation : public fw_PersistentClass<kmaC_DamageInitiation, kmaC_MaterialOption> {
  public:
   enum class DefinitionEnm : std::int32_t { MSFLD = 0, FLD = 1 };
   enum class DirectionEnm : std::int32_t { NMORI = 0, TMORI = 1 };
@@ -50,19 +51,12 @@ class kmaC_DamageInitiation : public kmaC_MaterialOption {
 
   kmaC_DamageInitiation() = default;
   explicit kmaC_DamageInitiation(const cls_ReadVisitor& r);
-  kmaC_DamageInitiation* Copy() const override;
   // Dependencies (code 0), the table (code 23), then the damage evolutions: each of its class
   // (code 11) and valid, no failure index twice (code 74).
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const kmaC_MaterialOptionList* OptionList(std::string_view member) const override;
   kmaC_MaterialOptionList* ModifyOptionList(std::string_view member) override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_DamageInitiation& o) const;
-  bool operator!=(const kmaC_DamageInitiation& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String definitionCmd() { return "definition"; }
@@ -117,9 +111,6 @@ class kmaC_DamageInitiation : public kmaC_MaterialOption {
   const kmaC_MaterialOptionList& GetDamageEvolutionList() const { return damageEvolutions.List(); }
   void SetDamageEvolutionList(const kmaC_MaterialOptionList& v) { damageEvolutions.Set(v, "DamageEvolutionList"); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   DefinitionEnm definition = DefinitionEnm::MSFLD;
   double omega = 1.0;
@@ -138,3 +129,5 @@ class kmaC_DamageInitiation : public kmaC_MaterialOption {
   kmaC_MaterialTable table;
   kmaC_OptionListMember<kmaC_OptionClass::DamageEvolution> damageEvolutions;
 };
+
+extern template class fw_PersistentClass<kmaC_DamageInitiation, kmaC_MaterialOption>;

@@ -1,10 +1,10 @@
 #pragma once
 // Rayleigh and structural damping factors of a material.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 
-class kmaC_Damping : public kmaC_MaterialOption {
+class kmaC_Damping : public fw_PersistentClass<kmaC_Damping, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_Damping";
@@ -24,15 +24,8 @@ class kmaC_Damping : public kmaC_MaterialOption {
 
   kmaC_Damping() = default;
   explicit kmaC_Damping(const cls_ReadVisitor& r);
-  kmaC_Damping* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Damping& o) const;
-  bool operator!=(const kmaC_Damping& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String alphaCmd() { return "alpha"; }
@@ -50,12 +43,11 @@ class kmaC_Damping : public kmaC_MaterialOption {
   double GetStructural() const { return structural; }
   void SetStructural(double v) { structural = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   double alpha = 0.0;
   double beta = 0.0;
   double composite = 0.0;
   double structural = 0.0;
 };
+
+extern template class fw_PersistentClass<kmaC_Damping, kmaC_MaterialOption>;

@@ -1,11 +1,12 @@
 #pragma once
 // Mass density of a material, uniform or given by a discrete field, possibly temperature and
 // field dependent.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Density : public kmaC_MaterialOption {
+class kmaC_Density : public fw_PersistentClass<kmaC_Density, kmaC_MaterialOption> {
  public:
   enum class DistributionTypeEnm : std::int32_t { UNIFORM = 0, ANALYTICAL_FIELD = 1, DISCRETE_FIELD = 2 };
   static constexpr omu_EnumLiteral kDistributionTypeLiterals[] = {{"UNIFORM", 0}, {"ANALYTICAL_FIELD", 1}, {"DISCRETE_FIELD", 2}, {nullptr, 0}};
@@ -31,15 +32,8 @@ class kmaC_Density : public kmaC_MaterialOption {
 
   kmaC_Density() = default;
   explicit kmaC_Density(const cls_ReadVisitor& r);
-  kmaC_Density* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Density& o) const;
-  bool operator!=(const kmaC_Density& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String distributionTypeCmd() { return "distributionType"; }
@@ -60,9 +54,6 @@ class kmaC_Density : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   DistributionTypeEnm distributionType = DistributionTypeEnm::UNIFORM;
   cow_String fieldName;
@@ -70,3 +61,5 @@ class kmaC_Density : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Density, kmaC_MaterialOption>;

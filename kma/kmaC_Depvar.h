@@ -1,11 +1,11 @@
 #pragma once
 // Solution-dependent state variables of a user material: their number and the one that deletes
 // an element.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 
-class kmaC_Depvar : public kmaC_MaterialOption {
+class kmaC_Depvar : public fw_PersistentClass<kmaC_Depvar, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_Depvar";
@@ -23,15 +23,8 @@ class kmaC_Depvar : public kmaC_MaterialOption {
 
   kmaC_Depvar() = default;
   explicit kmaC_Depvar(const cls_ReadVisitor& r);
-  kmaC_Depvar* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Depvar& o) const;
-  bool operator!=(const kmaC_Depvar& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String nCmd() { return "n"; }
@@ -43,10 +36,9 @@ class kmaC_Depvar : public kmaC_MaterialOption {
   std::int32_t GetDeleteVar() const { return deleteVar; }
   void SetDeleteVar(std::int32_t v) { deleteVar = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   std::int32_t n = 0;
   std::int32_t deleteVar = 0;
 };
+
+extern template class fw_PersistentClass<kmaC_Depvar, kmaC_MaterialOption>;

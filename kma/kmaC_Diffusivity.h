@@ -1,10 +1,11 @@
 #pragma once
 // Mass diffusivity by the symmetry of the type and the diffusion law.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Diffusivity : public kmaC_MaterialOption {
+class kmaC_Diffusivity : public fw_PersistentClass<kmaC_Diffusivity, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { ISOTROPIC = 0, ORTHOTROPIC = 1, ANISOTROPIC = 2 };
   enum class LawEnm : std::int32_t { GENERAL = 0, FICK = 1 };
@@ -33,16 +34,9 @@ class kmaC_Diffusivity : public kmaC_MaterialOption {
 
   kmaC_Diffusivity() = default;
   explicit kmaC_Diffusivity(const cls_ReadVisitor& r);
-  kmaC_Diffusivity* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for diffusivity"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Diffusivity& o) const;
-  bool operator!=(const kmaC_Diffusivity& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -63,9 +57,6 @@ class kmaC_Diffusivity : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::ISOTROPIC;
   LawEnm law = LawEnm::GENERAL;
@@ -73,3 +64,5 @@ class kmaC_Diffusivity : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Diffusivity, kmaC_MaterialOption>;

@@ -1,12 +1,13 @@
 #pragma once
 // Extended Drucker-Prager plasticity: the shear criterion, the flow potential eccentricity and the
 // data table.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "kma/kmaC_OptionSlot.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_DruckerPrager : public kmaC_MaterialOption {
+class kmaC_DruckerPrager : public fw_PersistentClass<kmaC_DruckerPrager, kmaC_MaterialOption> {
  public:
   enum class ShearCriterionEnm : std::int32_t { LINEAR = 0, HYPERBOLIC = 1, EXPONENTIAL = 2 };
   static constexpr omu_EnumLiteral kShearCriterionLiterals[] = {{"LINEAR", 0}, {"HYPERBOLIC", 1}, {"EXPONENTIAL", 2}, {nullptr, 0}};
@@ -34,16 +35,9 @@ class kmaC_DruckerPrager : public kmaC_MaterialOption {
 
   kmaC_DruckerPrager() = default;
   explicit kmaC_DruckerPrager(const cls_ReadVisitor& r);
-  kmaC_DruckerPrager* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for drucker prager"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_DruckerPrager& o) const;
-  bool operator!=(const kmaC_DruckerPrager& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String shearCriterionCmd() { return "shearCriterion"; }
@@ -71,9 +65,6 @@ class kmaC_DruckerPrager : public kmaC_MaterialOption {
   void SetDruckerPragerCreep(const kmaC_MaterialOption& v) { druckerPragerCreep.Set(v, "druckerPragerCreep"); }
   void ClearDruckerPragerCreep() { druckerPragerCreep.Clear(); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   ShearCriterionEnm shearCriterion = ShearCriterionEnm::LINEAR;
   double eccentricity = 0.1;
@@ -83,3 +74,5 @@ class kmaC_DruckerPrager : public kmaC_MaterialOption {
   kmaC_MaterialTable table;
   kmaC_OptionSlot<kmaC_OptionClass::DruckerPragerCreep> druckerPragerCreep;
 };
+
+extern template class fw_PersistentClass<kmaC_DruckerPrager, kmaC_MaterialOption>;

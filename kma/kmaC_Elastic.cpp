@@ -1,15 +1,11 @@
 #include "kma/kmaC_Elastic.h"
 
+#include "framework/fw_PersistentClassImpl.h"
+
 #include "kma/kmaC_OptionSlotTraits.h"
 #include "kma/kmaC_assert.h"
 
-kmaC_Elastic::kmaC_Elastic(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
-kmaC_Elastic* kmaC_Elastic::Copy() const { return mem_New<kmaC_Elastic>(*this); }
-void kmaC_Elastic::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-bool kmaC_Elastic::operator==(const kmaC_Elastic& o) const { return fw_EqualFields(*this, o); }
-bool kmaC_Elastic::SameAs(const kmaC_MaterialOption& o) const { return *this == static_cast<const kmaC_Elastic&>(o); }
-void kmaC_Elastic::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_Elastic>(r); }
-void kmaC_Elastic::CowDtor(void* p) { fw_CowDtor<kmaC_Elastic>(p); }
+kmaC_Elastic::kmaC_Elastic(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 
 const kmaC_FailStress& kmaC_Elastic::GetFailStress() const {
   if (failStress.IsNull()) nex_ThrowCmd("The elastic option has no failStress");
@@ -29,3 +25,5 @@ void kmaC_Elastic::AssertValid() const {
   if (const kmaC_MaterialOption* stress = failStress.ConstGet()) stress->AssertValid();
   table.AssertValid();
 }
+
+template class fw_PersistentClass<kmaC_Elastic, kmaC_MaterialOption>;

@@ -1,6 +1,7 @@
 #pragma once
 // Linear elastic behavior: the symmetry of the data, the data table, its dependencies, and the
 // optional fail-stress and fail-strain limits.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_FailStrain.h"
 #include "kma/kmaC_FailStress.h"
 #include "kma/kmaC_MaterialOption.h"
@@ -8,7 +9,7 @@
 #include "kma/kmaC_OptionSlot.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Elastic : public kmaC_MaterialOption {
+class kmaC_Elastic : public fw_PersistentClass<kmaC_Elastic, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t {
     ISOTROPIC = 0,
@@ -57,16 +58,9 @@ class kmaC_Elastic : public kmaC_MaterialOption {
 
   kmaC_Elastic() = default;
   explicit kmaC_Elastic(const cls_ReadVisitor& r);
-  kmaC_Elastic* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for elastic"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Elastic& o) const;
-  bool operator!=(const kmaC_Elastic& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -105,9 +99,6 @@ class kmaC_Elastic : public kmaC_MaterialOption {
   void SetFailStrain(const kmaC_FailStrain& v) { failStrain.Set(v, "failStrain"); }
   void ClearFailStrain() { failStrain.Clear(); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::ISOTROPIC;
   bool noCompression = false;
@@ -120,3 +111,5 @@ class kmaC_Elastic : public kmaC_MaterialOption {
   kmaC_OptionSlot<kmaC_OptionClass::FailStress> failStress;
   kmaC_OptionSlot<kmaC_OptionClass::FailStrain> failStrain;
 };
+
+extern template class fw_PersistentClass<kmaC_Elastic, kmaC_MaterialOption>;

@@ -1,10 +1,11 @@
 #pragma once
 // Electrical conductivity by the symmetry of the type, possibly frequency dependent.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_ElectricalConductivity : public kmaC_MaterialOption {
+class kmaC_ElectricalConductivity : public fw_PersistentClass<kmaC_ElectricalConductivity, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { ISOTROPIC = 0, ORTHOTROPIC = 1, ANISOTROPIC = 2 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"ISOTROPIC", 0}, {"ORTHOTROPIC", 1}, {"ANISOTROPIC", 2}, {nullptr, 0}};
@@ -30,15 +31,8 @@ class kmaC_ElectricalConductivity : public kmaC_MaterialOption {
 
   kmaC_ElectricalConductivity() = default;
   explicit kmaC_ElectricalConductivity(const cls_ReadVisitor& r);
-  kmaC_ElectricalConductivity* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_ElectricalConductivity& o) const;
-  bool operator!=(const kmaC_ElectricalConductivity& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -59,9 +53,6 @@ class kmaC_ElectricalConductivity : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::ISOTROPIC;
   bool frequencyDependency = false;
@@ -69,3 +60,5 @@ class kmaC_ElectricalConductivity : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_ElectricalConductivity, kmaC_MaterialOption>;

@@ -1,18 +1,14 @@
 #include "kma/kmaC_Electrode.h"
 
+#include "framework/fw_PersistentClassImpl.h"
+
 #include <utility>
 
 #include "kma/kmaC_OptionListTraits.h"
 #include "kma/kmaC_OptionSlotTraits.h"
 #include "kma/kmaC_assert.h"
 
-kmaC_Electrode::kmaC_Electrode(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
-kmaC_Electrode* kmaC_Electrode::Copy() const { return mem_New<kmaC_Electrode>(*this); }
-void kmaC_Electrode::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-bool kmaC_Electrode::operator==(const kmaC_Electrode& o) const { return fw_EqualFields(*this, o); }
-bool kmaC_Electrode::SameAs(const kmaC_MaterialOption& o) const { return *this == static_cast<const kmaC_Electrode&>(o); }
-void kmaC_Electrode::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_Electrode>(r); }
-void kmaC_Electrode::CowDtor(void* p) { fw_CowDtor<kmaC_Electrode>(p); }
+kmaC_Electrode::kmaC_Electrode(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 
 void kmaC_Electrode::AssertValid() const {
   kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
@@ -33,3 +29,5 @@ const kmaC_MaterialOptionList* kmaC_Electrode::OptionList(std::string_view membe
 kmaC_MaterialOptionList* kmaC_Electrode::ModifyOptionList(std::string_view member) {
   return const_cast<kmaC_MaterialOptionList*>(std::as_const(*this).OptionList(member));
 }
+
+template class fw_PersistentClass<kmaC_Electrode, kmaC_MaterialOption>;

@@ -3,6 +3,7 @@
 // conduction as a sub-option, and two lists: the particle kinds it is made of and its layers
 // through the thickness. The lists are reached by the list shortcuts under the names
 // "ElectrodeParticleList" and "ElectrodeParticleLayerList".
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "kma/kmaC_ElectrodeParticle.h"
@@ -11,7 +12,7 @@
 #include "kma/kmaC_OptionSlot.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Electrode : public kmaC_MaterialOption {
+class kmaC_Electrode : public fw_PersistentClass<kmaC_Electrode, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { NEGATIVE = 0, POSITIVE = 1 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"NEGATIVE", 0}, {"POSITIVE", 1}, {nullptr, 0}};
@@ -39,20 +40,13 @@ class kmaC_Electrode : public kmaC_MaterialOption {
 
   kmaC_Electrode() = default;
   explicit kmaC_Electrode(const cls_ReadVisitor& r);
-  kmaC_Electrode* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for electrode"; }
   // The list of that member name: "ElectrodeParticleList" or "ElectrodeParticleLayerList" (the
   // names the list shortcuts use) or the field's own scripting name.
   const kmaC_MaterialOptionList* OptionList(std::string_view member) const override;
   kmaC_MaterialOptionList* ModifyOptionList(std::string_view member) override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Electrode& o) const;
-  bool operator!=(const kmaC_Electrode& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -83,9 +77,6 @@ class kmaC_Electrode : public kmaC_MaterialOption {
     electrodeParticleLayerList.Set(v, "electrodeParticleLayerList");
   }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::NEGATIVE;
   bool temperatureDependency = false;
@@ -95,3 +86,5 @@ class kmaC_Electrode : public kmaC_MaterialOption {
   kmaC_OptionListMember<kmaC_OptionClass::ElectrodeParticle> electrodeParticleList;
   kmaC_OptionListMember<kmaC_OptionClass::ElectrodeParticleLayer> electrodeParticleLayerList;
 };
+
+extern template class fw_PersistentClass<kmaC_Electrode, kmaC_MaterialOption>;

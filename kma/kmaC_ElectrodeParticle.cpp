@@ -1,15 +1,11 @@
 #include "kma/kmaC_ElectrodeParticle.h"
 
+#include "framework/fw_PersistentClassImpl.h"
+
 #include "kma/kmaC_OptionSlotTraits.h"
 #include "kma/kmaC_assert.h"
 
-kmaC_ElectrodeParticle::kmaC_ElectrodeParticle(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
-kmaC_ElectrodeParticle* kmaC_ElectrodeParticle::Copy() const { return mem_New<kmaC_ElectrodeParticle>(*this); }
-void kmaC_ElectrodeParticle::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-bool kmaC_ElectrodeParticle::operator==(const kmaC_ElectrodeParticle& o) const { return fw_EqualFields(*this, o); }
-bool kmaC_ElectrodeParticle::SameAs(const kmaC_MaterialOption& o) const { return *this == static_cast<const kmaC_ElectrodeParticle&>(o); }
-void kmaC_ElectrodeParticle::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_ElectrodeParticle>(r); }
-void kmaC_ElectrodeParticle::CowDtor(void* p) { fw_CowDtor<kmaC_ElectrodeParticle>(p); }
+kmaC_ElectrodeParticle::kmaC_ElectrodeParticle(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 
 void kmaC_ElectrodeParticle::AssertValid() const {
   kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
@@ -17,3 +13,5 @@ void kmaC_ElectrodeParticle::AssertValid() const {
     if (sub) sub->AssertValid();
   table.AssertValid();
 }
+
+template class fw_PersistentClass<kmaC_ElectrodeParticle, kmaC_MaterialOption>;

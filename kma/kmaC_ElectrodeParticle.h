@@ -2,6 +2,7 @@
 // One particle kind of a porous electrode: its radius (blank until given), its data table (the
 // open-circuit potential over the state of charge) and the solid-phase diffusion and electrical
 // conduction of the particle as sub-options.
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_OrLiteral.h"
 #include <limits>
 
@@ -10,9 +11,8 @@
 #include "kma/kmaC_OptionSlot.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_ElectrodeParticle : public kmaC_MaterialOption {
+class kmaC_ElectrodeParticle : public fw_PersistentClass<kmaC_ElectrodeParticle, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_ElectrodeParticle";
@@ -34,16 +34,9 @@ class kmaC_ElectrodeParticle : public kmaC_MaterialOption {
 
   kmaC_ElectrodeParticle() = default;
   explicit kmaC_ElectrodeParticle(const cls_ReadVisitor& r);
-  kmaC_ElectrodeParticle* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for electrodeParticle"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_ElectrodeParticle& o) const;
-  bool operator!=(const kmaC_ElectrodeParticle& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String radiusCmd() { return "radius"; }
@@ -69,9 +62,6 @@ class kmaC_ElectrodeParticle : public kmaC_MaterialOption {
   void SetElectricalConductivity(const kmaC_MaterialOption& v) { electricalConductivity.Set(v, "electricalConductivity"); }
   void ClearElectricalConductivity() { electricalConductivity.Clear(); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   fw_Unspecified radius = std::numeric_limits<double>::max();
   bool temperatureDependency = false;
@@ -80,3 +70,5 @@ class kmaC_ElectrodeParticle : public kmaC_MaterialOption {
   kmaC_OptionSlot<kmaC_OptionClass::Diffusivity> diffusivity;
   kmaC_OptionSlot<kmaC_OptionClass::ElectricalConductivity> electricalConductivity;
 };
+
+extern template class fw_PersistentClass<kmaC_ElectrodeParticle, kmaC_MaterialOption>;

@@ -2,6 +2,7 @@
 // One layer of a porous electrode through its thickness: the layer's thickness (blank until
 // given), the number of elements across it and its data table (the particle volume fractions of
 // the layer).
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_OrLiteral.h"
 #include <limits>
 
@@ -9,9 +10,8 @@
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_ElectrodeParticleLayer : public kmaC_MaterialOption {
+class kmaC_ElectrodeParticleLayer : public fw_PersistentClass<kmaC_ElectrodeParticleLayer, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_ElectrodeParticleLayer";
@@ -32,15 +32,8 @@ class kmaC_ElectrodeParticleLayer : public kmaC_MaterialOption {
 
   kmaC_ElectrodeParticleLayer() = default;
   explicit kmaC_ElectrodeParticleLayer(const cls_ReadVisitor& r);
-  kmaC_ElectrodeParticleLayer* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_ElectrodeParticleLayer& o) const;
-  bool operator!=(const kmaC_ElectrodeParticleLayer& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String thicknessCmd() { return "thickness"; }
@@ -61,9 +54,6 @@ class kmaC_ElectrodeParticleLayer : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   fw_Unspecified thickness = std::numeric_limits<double>::max();
   std::int32_t numElements = 1;
@@ -71,3 +61,5 @@ class kmaC_ElectrodeParticleLayer : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_ElectrodeParticleLayer, kmaC_MaterialOption>;

@@ -1,11 +1,12 @@
 #pragma once
 // Equation of state: the form, its data table and the detonation energy of explosives.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "kma/kmaC_OptionSlot.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Eos : public kmaC_MaterialOption {
+class kmaC_Eos : public fw_PersistentClass<kmaC_Eos, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { MIE_GRUNEISEN = 0, US_UP = 1, IDEAL_GAS = 2, TABULAR = 3, JWL = 4, IGNITION_AND_GROWTH = 5, P_ALPHA = 6, USER = 7 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"MIE_GRUNEISEN", 0}, {"US_UP", 1}, {"IDEAL_GAS", 2}, {"TABULAR", 3}, {"JWL", 4}, {"IGNITION_AND_GROWTH", 5}, {"P_ALPHA", 6}, {"USER", 7}, {nullptr, 0}};
@@ -34,16 +35,9 @@ class kmaC_Eos : public kmaC_MaterialOption {
 
   kmaC_Eos() = default;
   explicit kmaC_Eos(const cls_ReadVisitor& r);
-  kmaC_Eos* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name in eos"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Eos& o) const;
-  bool operator!=(const kmaC_Eos& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -74,9 +68,6 @@ class kmaC_Eos : public kmaC_MaterialOption {
   void SetEosShear(const kmaC_MaterialOption& v) { eosShear.Set(v, "eosShear"); }
   void ClearEosShear() { eosShear.Clear(); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::MIE_GRUNEISEN;
   double detonationEnergy = 0.0;
@@ -87,3 +78,5 @@ class kmaC_Eos : public kmaC_MaterialOption {
   kmaC_MaterialTable table;
   kmaC_OptionSlot<kmaC_OptionClass::EosShear> eosShear;
 };
+
+extern template class fw_PersistentClass<kmaC_Eos, kmaC_MaterialOption>;

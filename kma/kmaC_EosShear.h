@@ -2,11 +2,12 @@
 // The deviatoric response of an equation-of-state material: viscous (a viscosity per row) or
 // elastic (a shear modulus per row). Older files knew only the viscous kind; the kind joined the
 // layout at 1338.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_EosShear : public kmaC_MaterialOption {
+class kmaC_EosShear : public fw_PersistentClass<kmaC_EosShear, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { VISCOUS = 0, ELASTIC = 1 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"VISCOUS", 0}, {"ELASTIC", 1}, {nullptr, 0}};
@@ -32,15 +33,8 @@ class kmaC_EosShear : public kmaC_MaterialOption {
 
   kmaC_EosShear() = default;
   explicit kmaC_EosShear(const cls_ReadVisitor& r);
-  kmaC_EosShear* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_EosShear& o) const;
-  bool operator!=(const kmaC_EosShear& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -58,12 +52,11 @@ class kmaC_EosShear : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::VISCOUS;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_EosShear, kmaC_MaterialOption>;

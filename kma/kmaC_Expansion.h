@@ -1,11 +1,12 @@
 #pragma once
 // Thermal expansion: the coefficients for the symmetry of the type, the reference temperature
 // (zero) and whether a user routine supplies the strains.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Expansion : public kmaC_MaterialOption {
+class kmaC_Expansion : public fw_PersistentClass<kmaC_Expansion, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { ISOTROPIC = 0, ORTHOTROPIC = 1, ANISOTROPIC = 2, SHORT_FIBER = 3 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"ISOTROPIC", 0}, {"ORTHOTROPIC", 1}, {"ANISOTROPIC", 2}, {"SHORT_FIBER", 3}, {nullptr, 0}};
@@ -32,15 +33,8 @@ class kmaC_Expansion : public kmaC_MaterialOption {
 
   kmaC_Expansion() = default;
   explicit kmaC_Expansion(const cls_ReadVisitor& r);
-  kmaC_Expansion* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Expansion& o) const;
-  bool operator!=(const kmaC_Expansion& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -64,9 +58,6 @@ class kmaC_Expansion : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::ISOTROPIC;
   bool userSubroutine = false;
@@ -75,3 +66,5 @@ class kmaC_Expansion : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Expansion, kmaC_MaterialOption>;

@@ -1,10 +1,11 @@
 #pragma once
 // Fail-strain limits of an elastic option: a table of limit strains, possibly temperature and
 // field dependent.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_FailStrain : public kmaC_MaterialOption {
+class kmaC_FailStrain : public fw_PersistentClass<kmaC_FailStrain, kmaC_MaterialOption> {
  public:
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
@@ -24,15 +25,8 @@ class kmaC_FailStrain : public kmaC_MaterialOption {
 
   kmaC_FailStrain() = default;
   explicit kmaC_FailStrain(const cls_ReadVisitor& r);
-  kmaC_FailStrain* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_FailStrain& o) const;
-  bool operator!=(const kmaC_FailStrain& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -46,11 +40,10 @@ class kmaC_FailStrain : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_FailStrain, kmaC_MaterialOption>;

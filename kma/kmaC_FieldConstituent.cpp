@@ -1,14 +1,9 @@
 #include "kma/kmaC_FieldConstituent.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kma/kmaC_assert.h"
 
 kmaC_FieldConstituent::kmaC_FieldConstituent(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
-kmaC_FieldConstituent* kmaC_FieldConstituent::Copy() const { return mem_New<kmaC_FieldConstituent>(*this); }
-void kmaC_FieldConstituent::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-bool kmaC_FieldConstituent::operator==(const kmaC_FieldConstituent& o) const { return fw_EqualFields(*this, o); }
-void kmaC_FieldConstituent::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_FieldConstituent>(r); }
-void kmaC_FieldConstituent::CowDtor(void* p) { fw_CowDtor<kmaC_FieldConstituent>(p); }
 
 int kmaC_FieldConstituent::OrientationColumns(OrientationEnm o) {
   switch (o) {
@@ -42,3 +37,5 @@ void kmaC_FieldConstituent::AssertValid() const {
   }
   table.AssertValid();
 }
+
+template class fw_PersistentClass<kmaC_FieldConstituent, mem_Allocated>;

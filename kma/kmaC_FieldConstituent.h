@@ -8,6 +8,7 @@
 // table holds, per row, the data the orientation kind needs: a direction (3 columns) for FIXED,
 // the normal of the plane (3 columns) for RANDOM_2D, the six components a11 a22 a33 a12 a13 a23 of
 // the second-order orientation tensor for ORIENTATION_TENSOR, and nothing for RANDOM_3D.
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_OrLiteral.h"
 #include <limits>
 
@@ -15,7 +16,7 @@
 #include "platform/base/cow_String.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_FieldConstituent : public mem_Allocated {
+class kmaC_FieldConstituent : public fw_PersistentClass<kmaC_FieldConstituent, mem_Allocated> {
  public:
   enum class TypeEnm : std::int32_t { MATRIX = 0, INCLUSION = 1 };
   enum class ShapeEnm : std::int32_t { SPHERE = 0, PROLATE = 1, OBLATE = 2, CYLINDER = 3, PENNY = 4 };
@@ -56,14 +57,7 @@ class kmaC_FieldConstituent : public mem_Allocated {
   kmaC_FieldConstituent& operator=(const kmaC_FieldConstituent&) = default;
   explicit kmaC_FieldConstituent(const cls_ReadVisitor& r);
   virtual ~kmaC_FieldConstituent() = default;
-  virtual kmaC_FieldConstituent* Copy() const;
   virtual void AssertValid() const;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_FieldConstituent& o) const;
-  bool operator!=(const kmaC_FieldConstituent& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String fieldConstituentRepositoryCmd() { return "fieldConstituents"; }
@@ -117,3 +111,5 @@ class kmaC_FieldConstituent : public mem_Allocated {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_FieldConstituent, mem_Allocated>;

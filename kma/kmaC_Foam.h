@@ -1,10 +1,11 @@
 #pragma once
 // Crushable foam plasticity: the hardening of the yield surface and its shape data.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Foam : public kmaC_MaterialOption {
+class kmaC_Foam : public fw_PersistentClass<kmaC_Foam, kmaC_MaterialOption> {
  public:
   enum class HardeningEnm : std::int32_t { VOLUMETRIC = 0, ISOTROPIC = 1 };
   static constexpr omu_EnumLiteral kHardeningLiterals[] = {{"VOLUMETRIC", 0}, {"ISOTROPIC", 1}, {nullptr, 0}};
@@ -29,16 +30,9 @@ class kmaC_Foam : public kmaC_MaterialOption {
 
   kmaC_Foam() = default;
   explicit kmaC_Foam(const cls_ReadVisitor& r);
-  kmaC_Foam* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for foam"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Foam& o) const;
-  bool operator!=(const kmaC_Foam& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String hardeningCmd() { return "hardening"; }
@@ -56,12 +50,11 @@ class kmaC_Foam : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   HardeningEnm hardening = HardeningEnm::VOLUMETRIC;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Foam, kmaC_MaterialOption>;

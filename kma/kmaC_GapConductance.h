@@ -1,11 +1,11 @@
 #pragma once
 // Heat conductance across a gap against clearance or pressure.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_GapConductance : public kmaC_MaterialOption {
+class kmaC_GapConductance : public fw_PersistentClass<kmaC_GapConductance, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_GapConductance";
@@ -25,15 +25,8 @@ class kmaC_GapConductance : public kmaC_MaterialOption {
 
   kmaC_GapConductance() = default;
   explicit kmaC_GapConductance(const cls_ReadVisitor& r);
-  kmaC_GapConductance* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_GapConductance& o) const;
-  bool operator!=(const kmaC_GapConductance& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String pressureDependencyCmd() { return "pressureDependency"; }
@@ -51,12 +44,11 @@ class kmaC_GapConductance : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool pressureDependency = false;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_GapConductance, kmaC_MaterialOption>;

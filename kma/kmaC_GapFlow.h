@@ -1,10 +1,11 @@
 #pragma once
 // Tangential flow in a gap of a cohesive element: the fluid law and the permeability limit.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_GapFlow : public kmaC_MaterialOption {
+class kmaC_GapFlow : public fw_PersistentClass<kmaC_GapFlow, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { NEWTONIAN = 0, POWER_LAW = 1, BINGHAM_PLASTIC = 2, HERSCHEL_BULKLEY = 3, USER = 4 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"NEWTONIAN", 0}, {"POWER_LAW", 1}, {"BINGHAM_PLASTIC", 2}, {"HERSCHEL_BULKLEY", 3}, {"USER", 4}, {nullptr, 0}};
@@ -30,15 +31,8 @@ class kmaC_GapFlow : public kmaC_MaterialOption {
 
   kmaC_GapFlow() = default;
   explicit kmaC_GapFlow(const cls_ReadVisitor& r);
-  kmaC_GapFlow* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_GapFlow& o) const;
-  bool operator!=(const kmaC_GapFlow& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -59,9 +53,6 @@ class kmaC_GapFlow : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::NEWTONIAN;
   double kmax = 0.0;
@@ -69,3 +60,5 @@ class kmaC_GapFlow : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_GapFlow, kmaC_MaterialOption>;

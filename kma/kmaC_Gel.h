@@ -1,11 +1,11 @@
 #pragma once
 // Gel swelling: radius, saturated radius, growth rate and volume fraction per row.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_Gel : public kmaC_MaterialOption {
+class kmaC_Gel : public fw_PersistentClass<kmaC_Gel, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_Gel";
@@ -22,15 +22,8 @@ class kmaC_Gel : public kmaC_MaterialOption {
 
   kmaC_Gel() = default;
   explicit kmaC_Gel(const cls_ReadVisitor& r);
-  kmaC_Gel* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Gel& o) const;
-  bool operator!=(const kmaC_Gel& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String tableCmd() { return "table"; }
@@ -39,9 +32,8 @@ class kmaC_Gel : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Gel, kmaC_MaterialOption>;

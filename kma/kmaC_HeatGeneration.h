@@ -1,10 +1,10 @@
 #pragma once
 // Heat generation by a user routine; it has no data of its own.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 
-class kmaC_HeatGeneration : public kmaC_MaterialOption {
+class kmaC_HeatGeneration : public fw_PersistentClass<kmaC_HeatGeneration, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_HeatGeneration";
@@ -19,22 +19,13 @@ class kmaC_HeatGeneration : public kmaC_MaterialOption {
 
   kmaC_HeatGeneration() = default;
   explicit kmaC_HeatGeneration(const cls_ReadVisitor& r);
-  kmaC_HeatGeneration* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_HeatGeneration& o) const;
-  bool operator!=(const kmaC_HeatGeneration& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String setValuesCmd() { return "setValues"; }
 
-
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
 };
+
+extern template class fw_PersistentClass<kmaC_HeatGeneration, kmaC_MaterialOption>;

@@ -1,15 +1,11 @@
 #include "kma/kmaC_Hyperelastic.h"
 
+#include "framework/fw_PersistentClassImpl.h"
+
 #include "kma/kmaC_OptionListTraits.h"
 #include "kma/kmaC_assert.h"
 
-kmaC_Hyperelastic::kmaC_Hyperelastic(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
-kmaC_Hyperelastic* kmaC_Hyperelastic::Copy() const { return mem_New<kmaC_Hyperelastic>(*this); }
-void kmaC_Hyperelastic::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-bool kmaC_Hyperelastic::operator==(const kmaC_Hyperelastic& o) const { return fw_EqualFields(*this, o); }
-bool kmaC_Hyperelastic::SameAs(const kmaC_MaterialOption& o) const { return *this == static_cast<const kmaC_Hyperelastic&>(o); }
-void kmaC_Hyperelastic::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_Hyperelastic>(r); }
-void kmaC_Hyperelastic::CowDtor(void* p) { fw_CowDtor<kmaC_Hyperelastic>(p); }
+kmaC_Hyperelastic::kmaC_Hyperelastic(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 
 void kmaC_Hyperelastic::AssertValid() const {
   kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
@@ -30,3 +26,5 @@ void kmaC_Hyperelastic::AssertValid() const {
          {&uniaxialTests.List(), &biaxialTests.List(), &planarTests.List(), &volumetricTests.List()})
       for (const kmaC_OptionHandle& h : *list) h->AssertValid();
 }
+
+template class fw_PersistentClass<kmaC_Hyperelastic, kmaC_MaterialOption>;

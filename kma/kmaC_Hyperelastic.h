@@ -2,12 +2,13 @@
 // Hyperelastic behavior: the strain energy potential and its order, given by coefficients or by
 // test data, and the time scale of the moduli. With `testData` the coefficients are fitted to the
 // test data in four lists (uniaxial, biaxial, planar, volumetric), which then are validated.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "kma/kmaC_OptionListMember.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Hyperelastic : public kmaC_MaterialOption {
+class kmaC_Hyperelastic : public fw_PersistentClass<kmaC_Hyperelastic, kmaC_MaterialOption> {
  public:
   enum class MaterialTypeEnm : std::int32_t { ISOTROPIC = 0, ANISOTROPIC = 1 };
   enum class TypeEnm : std::int32_t { ARRUDA_BOYCE = 0, MOONEY_RIVLIN = 1, NEO_HOOKE = 2, OGDEN = 3, POLYNOMIAL = 4, REDUCED_POLYNOMIAL = 5, VAN_DER_WAALS = 6, YEOH = 7, MARLOW = 8, USER = 9, UNKNOWN = 10 };
@@ -51,16 +52,9 @@ class kmaC_Hyperelastic : public kmaC_MaterialOption {
 
   kmaC_Hyperelastic() = default;
   explicit kmaC_Hyperelastic(const cls_ReadVisitor& r);
-  kmaC_Hyperelastic* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for hyperelastic"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Hyperelastic& o) const;
-  bool operator!=(const kmaC_Hyperelastic& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String materialTypeCmd() { return "materialType"; }
@@ -109,9 +103,6 @@ class kmaC_Hyperelastic : public kmaC_MaterialOption {
   const kmaC_MaterialOptionList& GetVolumetricTests() const { return volumetricTests.List(); }
   void SetVolumetricTests(const kmaC_MaterialOptionList& v) { volumetricTests.Set(v, "volumetricTests"); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   MaterialTypeEnm materialType = MaterialTypeEnm::ISOTROPIC;
   TypeEnm type = TypeEnm::UNKNOWN;
@@ -128,3 +119,5 @@ class kmaC_Hyperelastic : public kmaC_MaterialOption {
   kmaC_OptionListMember<kmaC_OptionClass::PlanarTestData> planarTests;
   kmaC_OptionListMember<kmaC_OptionClass::VolumetricTestData> volumetricTests;
 };
+
+extern template class fw_PersistentClass<kmaC_Hyperelastic, kmaC_MaterialOption>;

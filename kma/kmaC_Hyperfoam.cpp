@@ -1,15 +1,9 @@
 #include "kma/kmaC_Hyperfoam.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kma/kmaC_assert.h"
 
-kmaC_Hyperfoam::kmaC_Hyperfoam(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
-kmaC_Hyperfoam* kmaC_Hyperfoam::Copy() const { return mem_New<kmaC_Hyperfoam>(*this); }
-void kmaC_Hyperfoam::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-bool kmaC_Hyperfoam::operator==(const kmaC_Hyperfoam& o) const { return fw_EqualFields(*this, o); }
-bool kmaC_Hyperfoam::SameAs(const kmaC_MaterialOption& o) const { return *this == static_cast<const kmaC_Hyperfoam&>(o); }
-void kmaC_Hyperfoam::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_Hyperfoam>(r); }
-void kmaC_Hyperfoam::CowDtor(void* p) { fw_CowDtor<kmaC_Hyperfoam>(p); }
+kmaC_Hyperfoam::kmaC_Hyperfoam(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 
 void kmaC_Hyperfoam::AssertValid() const {
   kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
@@ -19,3 +13,5 @@ void kmaC_Hyperfoam::AssertValid() const {
   kmaC_Assert(poisson <= 0.5, kmaC_PoissonAboveMaximum);
   table.AssertValid();
 }
+
+template class fw_PersistentClass<kmaC_Hyperfoam, kmaC_MaterialOption>;

@@ -1,10 +1,11 @@
 #pragma once
 // Hyperelastic foam: the order of the potential, given by coefficients or by test data.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Hyperfoam : public kmaC_MaterialOption {
+class kmaC_Hyperfoam : public fw_PersistentClass<kmaC_Hyperfoam, kmaC_MaterialOption> {
  public:
   enum class ModuliEnm : std::int32_t { LONG_TERM = 0, INSTANTANEOUS = 1 };
   static constexpr omu_EnumLiteral kModuliLiterals[] = {{"LONG_TERM", 0}, {"INSTANTANEOUS", 1}, {nullptr, 0}};
@@ -32,16 +33,9 @@ class kmaC_Hyperfoam : public kmaC_MaterialOption {
 
   kmaC_Hyperfoam() = default;
   explicit kmaC_Hyperfoam(const cls_ReadVisitor& r);
-  kmaC_Hyperfoam* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for hyperfoam"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Hyperfoam& o) const;
-  bool operator!=(const kmaC_Hyperfoam& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String testDataCmd() { return "testData"; }
@@ -68,9 +62,6 @@ class kmaC_Hyperfoam : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool testData = false;
   double poisson = 0.0;
@@ -80,3 +71,5 @@ class kmaC_Hyperfoam : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Hyperfoam, kmaC_MaterialOption>;

@@ -1,11 +1,11 @@
 #pragma once
 // Hypoelastic moduli against the first strain invariant, or from a user routine.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_Hypoelastic : public kmaC_MaterialOption {
+class kmaC_Hypoelastic : public fw_PersistentClass<kmaC_Hypoelastic, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_Hypoelastic";
@@ -25,15 +25,8 @@ class kmaC_Hypoelastic : public kmaC_MaterialOption {
 
   kmaC_Hypoelastic() = default;
   explicit kmaC_Hypoelastic(const cls_ReadVisitor& r);
-  kmaC_Hypoelastic* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Hypoelastic& o) const;
-  bool operator!=(const kmaC_Hypoelastic& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String userCmd() { return "user"; }
@@ -51,12 +44,11 @@ class kmaC_Hypoelastic : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool user = false;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Hypoelastic, kmaC_MaterialOption>;

@@ -1,10 +1,10 @@
 #pragma once
 // Fraction of inelastic dissipation that becomes heat.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 
-class kmaC_InelasticHeatFraction : public kmaC_MaterialOption {
+class kmaC_InelasticHeatFraction : public fw_PersistentClass<kmaC_InelasticHeatFraction, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_InelasticHeatFraction";
@@ -21,15 +21,8 @@ class kmaC_InelasticHeatFraction : public kmaC_MaterialOption {
 
   kmaC_InelasticHeatFraction() = default;
   explicit kmaC_InelasticHeatFraction(const cls_ReadVisitor& r);
-  kmaC_InelasticHeatFraction* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_InelasticHeatFraction& o) const;
-  bool operator!=(const kmaC_InelasticHeatFraction& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String fractionCmd() { return "fraction"; }
@@ -38,9 +31,8 @@ class kmaC_InelasticHeatFraction : public kmaC_MaterialOption {
   double GetFraction() const { return fraction; }
   void SetFraction(double v) { fraction = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   double fraction = 0.9;
 };
+
+extern template class fw_PersistentClass<kmaC_InelasticHeatFraction, kmaC_MaterialOption>;

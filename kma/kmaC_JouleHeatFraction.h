@@ -1,10 +1,10 @@
 #pragma once
 // Fraction of electric energy dissipated as heat.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 
-class kmaC_JouleHeatFraction : public kmaC_MaterialOption {
+class kmaC_JouleHeatFraction : public fw_PersistentClass<kmaC_JouleHeatFraction, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_JouleHeatFraction";
@@ -21,15 +21,8 @@ class kmaC_JouleHeatFraction : public kmaC_MaterialOption {
 
   kmaC_JouleHeatFraction() = default;
   explicit kmaC_JouleHeatFraction(const cls_ReadVisitor& r);
-  kmaC_JouleHeatFraction* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_JouleHeatFraction& o) const;
-  bool operator!=(const kmaC_JouleHeatFraction& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String fractionCmd() { return "fraction"; }
@@ -38,9 +31,8 @@ class kmaC_JouleHeatFraction : public kmaC_MaterialOption {
   double GetFraction() const { return fraction; }
   void SetFraction(double v) { fraction = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   double fraction = 1.0;
 };
+
+extern template class fw_PersistentClass<kmaC_JouleHeatFraction, kmaC_MaterialOption>;

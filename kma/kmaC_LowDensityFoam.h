@@ -1,12 +1,12 @@
 #pragma once
 // Low-density foam from uniaxial test data, with optional element removal above a principal
 // tensile stress.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_LowDensityFoam : public kmaC_MaterialOption {
+class kmaC_LowDensityFoam : public fw_PersistentClass<kmaC_LowDensityFoam, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_LowDensityFoam";
@@ -27,16 +27,9 @@ class kmaC_LowDensityFoam : public kmaC_MaterialOption {
 
   kmaC_LowDensityFoam() = default;
   explicit kmaC_LowDensityFoam(const cls_ReadVisitor& r);
-  kmaC_LowDensityFoam* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for low-density foam"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_LowDensityFoam& o) const;
-  bool operator!=(const kmaC_LowDensityFoam& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String elementRemovalCmd() { return "elementRemoval"; }
@@ -57,9 +50,6 @@ class kmaC_LowDensityFoam : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool elementRemoval = false;
   double maxAllowablePrincipalStress = 0.0;
@@ -67,3 +57,5 @@ class kmaC_LowDensityFoam : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_LowDensityFoam, kmaC_MaterialOption>;

@@ -1,15 +1,9 @@
 #include "kma/kmaC_MagneticPermeability.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kma/kmaC_assert.h"
 
-kmaC_MagneticPermeability::kmaC_MagneticPermeability(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
-kmaC_MagneticPermeability* kmaC_MagneticPermeability::Copy() const { return mem_New<kmaC_MagneticPermeability>(*this); }
-void kmaC_MagneticPermeability::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-bool kmaC_MagneticPermeability::operator==(const kmaC_MagneticPermeability& o) const { return fw_EqualFields(*this, o); }
-bool kmaC_MagneticPermeability::SameAs(const kmaC_MaterialOption& o) const { return *this == static_cast<const kmaC_MagneticPermeability&>(o); }
-void kmaC_MagneticPermeability::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_MagneticPermeability>(r); }
-void kmaC_MagneticPermeability::CowDtor(void* p) { fw_CowDtor<kmaC_MagneticPermeability>(p); }
+kmaC_MagneticPermeability::kmaC_MagneticPermeability(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 
 void kmaC_MagneticPermeability::AssertValid() const {
   kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
@@ -24,3 +18,5 @@ void kmaC_MagneticPermeability::AssertValid() const {
   curve.AllowEmptyFirstRow(true);
   curve.AssertValid();
 }
+
+template class fw_PersistentClass<kmaC_MagneticPermeability, kmaC_MaterialOption>;

@@ -1,5 +1,7 @@
 #include "kma/kmaC_Material.h"
 
+#include "framework/fw_PersistentClassImpl.h"
+
 #include "kma/kmaC_Elastic.h"
 #include "kma/kmaC_OptionSlotTraits.h"
 #include "kma/kmaC_Plastic.h"
@@ -18,11 +20,6 @@ static_assert(std::tuple_size_v<decltype(kmaC_Material::Fields())> == kmaC_Mater
 void kmaC_Material::RefuseSlot() { nex_ThrowCmd("Unknown material option"); }
 
 kmaC_Material::kmaC_Material(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
-void kmaC_Material::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kmaC_Material* kmaC_Material::Copy() const { return mem_New<kmaC_Material>(*this); }
-bool kmaC_Material::operator==(const kmaC_Material& o) const { return fw_EqualFields(*this, o); }
-void kmaC_Material::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_Material>(r); }
-void kmaC_Material::CowDtor(void* p) { fw_CowDtor<kmaC_Material>(p); }
 
 // Calls fn(slot, name) for the slot of that scripting name; false when there is none.
 template <class Fn>
@@ -110,3 +107,5 @@ void kmaC_Material::AssertValid() const {
       },
       Fields());
 }
+
+template class fw_PersistentClass<kmaC_Material, mem_Allocated>;

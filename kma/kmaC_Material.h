@@ -5,6 +5,7 @@
 // declared (and stored) whether or not its class is offered yet.
 #include <string_view>
 
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_OptionSlot.h"
 #include "platform/base/cow_String.h"
@@ -12,7 +13,7 @@
 class kmaC_Elastic;
 class kmaC_Plastic;
 
-class kmaC_Material : public mem_Allocated {
+class kmaC_Material : public fw_PersistentClass<kmaC_Material, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "kmaC_Material";
   static constexpr const char* kScriptName = "Material";
@@ -118,16 +119,9 @@ class kmaC_Material : public mem_Allocated {
   kmaC_Material(const kmaC_Material&) = default;
   kmaC_Material& operator=(const kmaC_Material&) = default;
   explicit kmaC_Material(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kmaC_Material() = default;
-  virtual kmaC_Material* Copy() const;
   // Validates every option the material holds; the material has no rule of its own.
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Material& o) const;
-  bool operator!=(const kmaC_Material& o) const { return !(*this == o); }
 
   const cls_Uid& GetUid() const { return uid; }
   const cow_String& GetDescription() const { return description; }
@@ -345,3 +339,5 @@ class kmaC_Material : public mem_Allocated {
   kmaC_OptionSlot<kmaC_OptionClass::Electrode> electrode;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kmaC_Material, mem_Allocated>;

@@ -25,7 +25,9 @@ class kmaC_MaterialOption : public mem_Allocated {
   static constexpr unsigned TypeId() { return fw_TypeId(kmaC_kArchKey, 2); }
 
   virtual ~kmaC_MaterialOption() = default;
-  virtual kmaC_MaterialOption* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kmaC_MaterialOption* Copy() const { return DoCopy(); }
+  virtual kmaC_MaterialOption* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   virtual unsigned DynTypeId() const { return TypeId(); }
   // Opens the record; a subclass writes its own fields after this.

@@ -3,16 +3,12 @@
 #include <algorithm>
 #include <vector>
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kma/kmaC_assert.h"
 
 kmaC_MaterialTable::kmaC_MaterialTable(int rows, int columns)
     : table(static_cast<std::size_t>(rows < 0 ? 0 : rows), static_cast<std::size_t>(columns < 0 ? 0 : columns), 0.0) {}
 kmaC_MaterialTable::kmaC_MaterialTable(const cls_ReadVisitor& r) : uid(r.GetUid()) { fw_ReadFields(*this, r); }
-void kmaC_MaterialTable::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-bool kmaC_MaterialTable::operator==(const kmaC_MaterialTable& o) const { return fw_EqualFields(*this, o); }
-void kmaC_MaterialTable::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_MaterialTable>(r); }
-void kmaC_MaterialTable::CowDtor(void* p) { fw_CowDtor<kmaC_MaterialTable>(p); }
 
 void kmaC_MaterialTable::AssertValid() const {
   const std::size_t rows = table.Rows(), cols = table.Columns();
@@ -53,3 +49,5 @@ void kmaC_MaterialTable::Sort(int keyColumns) {
   }
   table = cow_2DArray<double>(rows, cols, std::move(data));
 }
+
+template class fw_PersistentClass<kmaC_MaterialTable, mem_Allocated>;

@@ -1,6 +1,7 @@
 #pragma once
 // The data table of a tabular material option: rows of doubles (blank cells are stored as 0.0)
 // and whether the first row may be all zeros.
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "kma/kmaC_OptionClass.h"
 #include "platform/base/bas_Alloc.h"
@@ -11,7 +12,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kmaC_MaterialTable : public mem_Allocated {
+class kmaC_MaterialTable : public fw_PersistentClass<kmaC_MaterialTable, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "kmaC_MaterialTable";
   static constexpr int kVersion = 203;
@@ -32,12 +33,6 @@ class kmaC_MaterialTable : public mem_Allocated {
   kmaC_MaterialTable(const kmaC_MaterialTable&) = default;
   kmaC_MaterialTable& operator=(const kmaC_MaterialTable&) = default;
   explicit kmaC_MaterialTable(const cls_ReadVisitor& r);
-  void DBWrite(const cls_WriteVisitor& w) const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_MaterialTable& o) const;
-  bool operator!=(const kmaC_MaterialTable& o) const { return !(*this == o); }
 
   // Every row must hold a non-zero cell (code 23); the first row is exempt when allowed to be
   // empty. A table without columns passes.
@@ -60,3 +55,5 @@ class kmaC_MaterialTable : public mem_Allocated {
   bool allowEmptyFirstRow = false;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kmaC_MaterialTable, mem_Allocated>;

@@ -3,11 +3,12 @@
 // inclusions' response, the angle increment of the orientation integration and the names of the
 // constituents (matrix and inclusions) in the model's constituent repository. The constituents are
 // validated in that repository; this option checks only its own members.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "platform/base/cow_List.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_MeanFieldHomogenization : public kmaC_MaterialOption {
+class kmaC_MeanFieldHomogenization : public fw_PersistentClass<kmaC_MeanFieldHomogenization, kmaC_MaterialOption> {
  public:
   enum class FormulationEnm : std::int32_t { MT = 0, INVERSED_MT = 1, BALANCED = 2, VOIGT = 3, REUSS = 4 };
   static constexpr omu_EnumLiteral kFormulationLiterals[] = {{"MT", 0}, {"INVERSED_MT", 1}, {"BALANCED", 2}, {"VOIGT", 3}, {"REUSS", 4}, {nullptr, 0}};
@@ -38,15 +39,8 @@ class kmaC_MeanFieldHomogenization : public kmaC_MaterialOption {
 
   kmaC_MeanFieldHomogenization() = default;
   explicit kmaC_MeanFieldHomogenization(const cls_ReadVisitor& r);
-  kmaC_MeanFieldHomogenization* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_MeanFieldHomogenization& o) const;
-  bool operator!=(const kmaC_MeanFieldHomogenization& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String formulationCmd() { return "formulation"; }
@@ -73,9 +67,6 @@ class kmaC_MeanFieldHomogenization : public kmaC_MaterialOption {
   std::int32_t GetDependencies() const { return dependencies; }
   void SetDependencies(std::int32_t v) { dependencies = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   FormulationEnm formulation = FormulationEnm::MT;
   IsotropizationEnm isotropization = IsotropizationEnm::ALLISO;
@@ -85,3 +76,5 @@ class kmaC_MeanFieldHomogenization : public kmaC_MaterialOption {
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
 };
+
+extern template class fw_PersistentClass<kmaC_MeanFieldHomogenization, kmaC_MaterialOption>;

@@ -1,11 +1,11 @@
 #pragma once
 // Mohr-Coulomb plasticity: friction and dilation angles and the flow potential eccentricities.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_MohrCoulomb : public kmaC_MaterialOption {
+class kmaC_MohrCoulomb : public fw_PersistentClass<kmaC_MohrCoulomb, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_MohrCoulomb";
@@ -27,16 +27,9 @@ class kmaC_MohrCoulomb : public kmaC_MaterialOption {
 
   kmaC_MohrCoulomb() = default;
   explicit kmaC_MohrCoulomb(const cls_ReadVisitor& r);
-  kmaC_MohrCoulomb* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for Mohr Coulomb plasticity"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_MohrCoulomb& o) const;
-  bool operator!=(const kmaC_MohrCoulomb& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String deviatoricEccentricityCmd() { return "deviatoricEccentricity"; }
@@ -60,9 +53,6 @@ class kmaC_MohrCoulomb : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   double deviatoricEccentricity = 1.0;
   double meridionalEccentricity = 0.1;
@@ -71,3 +61,5 @@ class kmaC_MohrCoulomb : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_MohrCoulomb, kmaC_MaterialOption>;

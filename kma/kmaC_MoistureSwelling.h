@@ -1,11 +1,11 @@
 #pragma once
 // Moisture-driven swelling strain against saturation.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_MoistureSwelling : public kmaC_MaterialOption {
+class kmaC_MoistureSwelling : public fw_PersistentClass<kmaC_MoistureSwelling, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_MoistureSwelling";
@@ -22,16 +22,9 @@ class kmaC_MoistureSwelling : public kmaC_MaterialOption {
 
   kmaC_MoistureSwelling() = default;
   explicit kmaC_MoistureSwelling(const cls_ReadVisitor& r);
-  kmaC_MoistureSwelling* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for moisture swelling"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_MoistureSwelling& o) const;
-  bool operator!=(const kmaC_MoistureSwelling& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String tableCmd() { return "table"; }
@@ -40,9 +33,8 @@ class kmaC_MoistureSwelling : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_MoistureSwelling, kmaC_MaterialOption>;

@@ -1,15 +1,11 @@
 #include "kma/kmaC_MullinsEffect.h"
 
+#include "framework/fw_PersistentClassImpl.h"
+
 #include "kma/kmaC_OptionListTraits.h"
 #include "kma/kmaC_assert.h"
 
-kmaC_MullinsEffect::kmaC_MullinsEffect(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
-kmaC_MullinsEffect* kmaC_MullinsEffect::Copy() const { return mem_New<kmaC_MullinsEffect>(*this); }
-void kmaC_MullinsEffect::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-bool kmaC_MullinsEffect::operator==(const kmaC_MullinsEffect& o) const { return fw_EqualFields(*this, o); }
-bool kmaC_MullinsEffect::SameAs(const kmaC_MaterialOption& o) const { return *this == static_cast<const kmaC_MullinsEffect&>(o); }
-void kmaC_MullinsEffect::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_MullinsEffect>(r); }
-void kmaC_MullinsEffect::CowDtor(void* p) { fw_CowDtor<kmaC_MullinsEffect>(p); }
+kmaC_MullinsEffect::kmaC_MullinsEffect(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 
 const kmaC_MaterialOptionList* kmaC_MullinsEffect::OptionList(std::string_view member) const {
   if (member == "uniaxialTests") return &uniaxialTests.List();
@@ -58,3 +54,5 @@ void kmaC_MullinsEffect::AssertValid() const {
       break;
   }
 }
+
+template class fw_PersistentClass<kmaC_MullinsEffect, kmaC_MaterialOption>;

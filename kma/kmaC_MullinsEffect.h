@@ -4,12 +4,13 @@
 // constants (USER) or by unloading-reloading test data in three lists (TEST_DATA).
 // The table width follows the definition: 3 (r, m, beta) for CONSTANTS, `properties` for USER,
 // plus one column for temperature when temperature-dependent and one per field-variable dependency.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "kma/kmaC_OptionListMember.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_MullinsEffect : public kmaC_MaterialOption {
+class kmaC_MullinsEffect : public fw_PersistentClass<kmaC_MullinsEffect, kmaC_MaterialOption> {
  public:
   enum class DefinitionEnm : std::int32_t { CONSTANTS = 0, USER = 1, TEST_DATA = 2 };
   static constexpr omu_EnumLiteral kDefinitionLiterals[] = {
@@ -40,17 +41,10 @@ class kmaC_MullinsEffect : public kmaC_MaterialOption {
 
   kmaC_MullinsEffect() = default;
   explicit kmaC_MullinsEffect(const cls_ReadVisitor& r);
-  kmaC_MullinsEffect* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const kmaC_MaterialOptionList* OptionList(std::string_view member) const override;
   kmaC_MaterialOptionList* ModifyOptionList(std::string_view member) override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_MullinsEffect& o) const;
-  bool operator!=(const kmaC_MullinsEffect& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String definitionCmd() { return "definition"; }
@@ -82,9 +76,6 @@ class kmaC_MullinsEffect : public kmaC_MaterialOption {
   const kmaC_MaterialOptionList& GetPlanarTests() const { return planarTests.List(); }
   void SetPlanarTests(const kmaC_MaterialOptionList& v) { planarTests.Set(v, "planarTests"); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   DefinitionEnm definition = DefinitionEnm::CONSTANTS;
   std::int32_t properties = 0;
@@ -95,3 +86,5 @@ class kmaC_MullinsEffect : public kmaC_MaterialOption {
   kmaC_OptionListMember<kmaC_OptionClass::BiaxialTestData> biaxialTests;
   kmaC_OptionListMember<kmaC_OptionClass::PlanarTestData> planarTests;
 };
+
+extern template class fw_PersistentClass<kmaC_MullinsEffect, kmaC_MaterialOption>;

@@ -1,11 +1,11 @@
 #pragma once
 // The ORNL constitutive rules for austenitic steels in a plastic option: the saturation rate of the
 // kinematic shift and whether the cyclic hardening is reset at each reversal.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 
-class kmaC_Ornl : public kmaC_MaterialOption {
+class kmaC_Ornl : public fw_PersistentClass<kmaC_Ornl, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_Ornl";
@@ -24,15 +24,8 @@ class kmaC_Ornl : public kmaC_MaterialOption {
 
   kmaC_Ornl() = default;
   explicit kmaC_Ornl(const cls_ReadVisitor& r);
-  kmaC_Ornl* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Ornl& o) const;
-  bool operator!=(const kmaC_Ornl& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String saturationRateParameterCmd() { return "saturationRateParameter"; }
@@ -47,11 +40,10 @@ class kmaC_Ornl : public kmaC_MaterialOption {
   bool GetResetHardening() const { return resetHardening; }
   void SetResetHardening(bool v) { resetHardening = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   double saturationRateParameter = 0.2;
   bool applyRateFactor = false;
   bool resetHardening = false;
 };
+
+extern template class fw_PersistentClass<kmaC_Ornl, kmaC_MaterialOption>;

@@ -1,11 +1,12 @@
 #pragma once
 // Permeability of a porous medium by symmetry, the specific weight of the fluid and its inertial
 // drag.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Permeability : public kmaC_MaterialOption {
+class kmaC_Permeability : public fw_PersistentClass<kmaC_Permeability, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { ISOTROPIC = 0, ORTHOTROPIC = 1, ANISOTROPIC = 2 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"ISOTROPIC", 0}, {"ORTHOTROPIC", 1}, {"ANISOTROPIC", 2}, {nullptr, 0}};
@@ -32,16 +33,9 @@ class kmaC_Permeability : public kmaC_MaterialOption {
 
   kmaC_Permeability() = default;
   explicit kmaC_Permeability(const cls_ReadVisitor& r);
-  kmaC_Permeability* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for permeability"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Permeability& o) const;
-  bool operator!=(const kmaC_Permeability& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -65,9 +59,6 @@ class kmaC_Permeability : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::ISOTROPIC;
   double specificWeight = 0.0;
@@ -76,3 +67,5 @@ class kmaC_Permeability : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Permeability, kmaC_MaterialOption>;

@@ -1,10 +1,11 @@
 #pragma once
 // Piezoelectric coupling given as stress or strain coefficients.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Piezoelectric : public kmaC_MaterialOption {
+class kmaC_Piezoelectric : public fw_PersistentClass<kmaC_Piezoelectric, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { STRESS = 0, STRAIN = 1 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"STRESS", 0}, {"STRAIN", 1}, {nullptr, 0}};
@@ -27,15 +28,8 @@ class kmaC_Piezoelectric : public kmaC_MaterialOption {
 
   kmaC_Piezoelectric() = default;
   explicit kmaC_Piezoelectric(const cls_ReadVisitor& r);
-  kmaC_Piezoelectric* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Piezoelectric& o) const;
-  bool operator!=(const kmaC_Piezoelectric& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -47,10 +41,9 @@ class kmaC_Piezoelectric : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::STRESS;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Piezoelectric, kmaC_MaterialOption>;

@@ -4,10 +4,11 @@
 // side of a point used to smooth the data (0: none); `lateralNominalStrain` adds the measured lateral
 // strain as a third column, so the table width is 2 (3 with lateral strain), plus one column for
 // temperature when temperature-dependent and one per field-variable dependency.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_PlanarTestData : public kmaC_MaterialOption {
+class kmaC_PlanarTestData : public fw_PersistentClass<kmaC_PlanarTestData, kmaC_MaterialOption> {
  public:
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
@@ -30,16 +31,9 @@ class kmaC_PlanarTestData : public kmaC_MaterialOption {
 
   kmaC_PlanarTestData() = default;
   explicit kmaC_PlanarTestData(const cls_ReadVisitor& r);
-  kmaC_PlanarTestData* Copy() const override;
   // Dependencies (code 0), then the table's rows (code 23).
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_PlanarTestData& o) const;
-  bool operator!=(const kmaC_PlanarTestData& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String smoothingCmd() { return "smoothing"; }
@@ -60,9 +54,6 @@ class kmaC_PlanarTestData : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   std::int32_t smoothing = 0;
   bool lateralNominalStrain = false;
@@ -70,3 +61,5 @@ class kmaC_PlanarTestData : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_PlanarTestData, kmaC_MaterialOption>;

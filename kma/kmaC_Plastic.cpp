@@ -1,15 +1,11 @@
 #include "kma/kmaC_Plastic.h"
 
+#include "framework/fw_PersistentClassImpl.h"
+
 #include "kma/kmaC_OptionSlotTraits.h"
 #include "kma/kmaC_assert.h"
 
-kmaC_Plastic::kmaC_Plastic(const cls_ReadVisitor& r) : kmaC_MaterialOption(r) { fw_ReadFields(*this, r); }
-kmaC_Plastic* kmaC_Plastic::Copy() const { return mem_New<kmaC_Plastic>(*this); }
-void kmaC_Plastic::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-bool kmaC_Plastic::operator==(const kmaC_Plastic& o) const { return fw_EqualFields(*this, o); }
-bool kmaC_Plastic::SameAs(const kmaC_MaterialOption& o) const { return *this == static_cast<const kmaC_Plastic&>(o); }
-void kmaC_Plastic::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kmaC_Plastic>(r); }
-void kmaC_Plastic::CowDtor(void* p) { fw_CowDtor<kmaC_Plastic>(p); }
+kmaC_Plastic::kmaC_Plastic(const cls_ReadVisitor& r) : fw_PersistentClass(r) { fw_ReadFields(*this, r); }
 
 void kmaC_Plastic::AssertValid() const {
   kmaC_Assert(dependencies >= 0, kmaC_DependenciesBelowMinimum);
@@ -30,3 +26,5 @@ void kmaC_Plastic::AssertValid() const {
   if (firstYieldAtZero) kmaC_Assert(table.Rows() >= 1 && table.Columns() >= 2 && table(0, 1) == 0.0, kmaC_FirstYieldStrainNotZero);
   if (hardening == HardeningEnm::ISOTROPIC && rate) kmaC_Assert(table.Columns() >= 3, kmaC_ConstituentTableIncomplete);
 }
+
+template class fw_PersistentClass<kmaC_Plastic, kmaC_MaterialOption>;

@@ -1,6 +1,7 @@
 #pragma once
 // Metal plasticity: the hardening law, the yield data table and seven optional sub-options. The
 // rules tie the table's layout and the permitted sub-options to the hardening law.
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_OrLiteral.h"
 #include <limits>
 
@@ -9,7 +10,7 @@
 #include "kma/kmaC_OptionSlot.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Plastic : public kmaC_MaterialOption {
+class kmaC_Plastic : public fw_PersistentClass<kmaC_Plastic, kmaC_MaterialOption> {
  public:
   enum class HardeningEnm : std::int32_t {
     ISOTROPIC = 0,
@@ -73,16 +74,9 @@ class kmaC_Plastic : public kmaC_MaterialOption {
 
   kmaC_Plastic() = default;
   explicit kmaC_Plastic(const cls_ReadVisitor& r);
-  kmaC_Plastic* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for plastic"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Plastic& o) const;
-  bool operator!=(const kmaC_Plastic& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String hardeningCmd() { return "hardening"; }
@@ -155,9 +149,6 @@ class kmaC_Plastic : public kmaC_MaterialOption {
   void SetTensileFailure(const kmaC_MaterialOption& v) { tensileFailure.Set(v, "tensileFailure"); }
   void ClearTensileFailure() { tensileFailure.Clear(); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   HardeningEnm hardening = HardeningEnm::ISOTROPIC;
   bool rate = false;
@@ -180,3 +171,5 @@ class kmaC_Plastic : public kmaC_MaterialOption {
   bool staticRecovery = false;
   ExtrapolationEnm extrapolation = ExtrapolationEnm::CONSTANT;
 };
+
+extern template class fw_PersistentClass<kmaC_Plastic, kmaC_MaterialOption>;

@@ -1,11 +1,11 @@
 #pragma once
 // Thermal expansion of the pore fluid.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_PoreFluidExpansion : public kmaC_MaterialOption {
+class kmaC_PoreFluidExpansion : public fw_PersistentClass<kmaC_PoreFluidExpansion, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_PoreFluidExpansion";
@@ -25,15 +25,8 @@ class kmaC_PoreFluidExpansion : public kmaC_MaterialOption {
 
   kmaC_PoreFluidExpansion() = default;
   explicit kmaC_PoreFluidExpansion(const cls_ReadVisitor& r);
-  kmaC_PoreFluidExpansion* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_PoreFluidExpansion& o) const;
-  bool operator!=(const kmaC_PoreFluidExpansion& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String zeroCmd() { return "zero"; }
@@ -51,12 +44,11 @@ class kmaC_PoreFluidExpansion : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   double zero = 0.0;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_PoreFluidExpansion, kmaC_MaterialOption>;

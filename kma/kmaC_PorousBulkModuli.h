@@ -1,11 +1,11 @@
 #pragma once
 // Bulk moduli of the solid grains and of the permeating fluid.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_PorousBulkModuli : public kmaC_MaterialOption {
+class kmaC_PorousBulkModuli : public fw_PersistentClass<kmaC_PorousBulkModuli, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_PorousBulkModuli";
@@ -23,15 +23,8 @@ class kmaC_PorousBulkModuli : public kmaC_MaterialOption {
 
   kmaC_PorousBulkModuli() = default;
   explicit kmaC_PorousBulkModuli(const cls_ReadVisitor& r);
-  kmaC_PorousBulkModuli* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_PorousBulkModuli& o) const;
-  bool operator!=(const kmaC_PorousBulkModuli& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -43,10 +36,9 @@ class kmaC_PorousBulkModuli : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_PorousBulkModuli, kmaC_MaterialOption>;

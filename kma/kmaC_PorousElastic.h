@@ -1,10 +1,11 @@
 #pragma once
 // Porous elasticity: logarithmic bulk modulus and Poisson's ratio or shear modulus.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_PorousElastic : public kmaC_MaterialOption {
+class kmaC_PorousElastic : public fw_PersistentClass<kmaC_PorousElastic, kmaC_MaterialOption> {
  public:
   enum class ShearEnm : std::int32_t { POISSON = 0, G = 1 };
   static constexpr omu_EnumLiteral kShearLiterals[] = {{"POISSON", 0}, {"G", 1}, {nullptr, 0}};
@@ -29,15 +30,8 @@ class kmaC_PorousElastic : public kmaC_MaterialOption {
 
   kmaC_PorousElastic() = default;
   explicit kmaC_PorousElastic(const cls_ReadVisitor& r);
-  kmaC_PorousElastic* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_PorousElastic& o) const;
-  bool operator!=(const kmaC_PorousElastic& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String shearCmd() { return "shear"; }
@@ -55,12 +49,11 @@ class kmaC_PorousElastic : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   ShearEnm shear = ShearEnm::POISSON;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_PorousElastic, kmaC_MaterialOption>;

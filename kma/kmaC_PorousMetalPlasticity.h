@@ -1,11 +1,11 @@
 #pragma once
 // Gurson porous metal plasticity: the relative density and the yield parameters.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_PorousMetalPlasticity : public kmaC_MaterialOption {
+class kmaC_PorousMetalPlasticity : public fw_PersistentClass<kmaC_PorousMetalPlasticity, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_PorousMetalPlasticity";
@@ -25,16 +25,9 @@ class kmaC_PorousMetalPlasticity : public kmaC_MaterialOption {
 
   kmaC_PorousMetalPlasticity() = default;
   explicit kmaC_PorousMetalPlasticity(const cls_ReadVisitor& r);
-  kmaC_PorousMetalPlasticity* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for porous metal plasticity"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_PorousMetalPlasticity& o) const;
-  bool operator!=(const kmaC_PorousMetalPlasticity& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String relativeDensityCmd() { return "relativeDensity"; }
@@ -52,12 +45,11 @@ class kmaC_PorousMetalPlasticity : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   double relativeDensity = 0.0;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_PorousMetalPlasticity, kmaC_MaterialOption>;

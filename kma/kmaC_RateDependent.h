@@ -1,11 +1,12 @@
 #pragma once
 // Rate dependence of the yield stress of a plastic option: the law of the overstress and its
 // data table (multiplier and exponent, Johnson-Cook constants or yield ratios against rate).
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_RateDependent : public kmaC_MaterialOption {
+class kmaC_RateDependent : public fw_PersistentClass<kmaC_RateDependent, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { POWER_LAW = 0, JOHNSON_COOK = 1, YIELD_RATIO = 2 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"POWER_LAW", 0}, {"JOHNSON_COOK", 1}, {"YIELD_RATIO", 2}, {nullptr, 0}};
@@ -30,15 +31,8 @@ class kmaC_RateDependent : public kmaC_MaterialOption {
 
   kmaC_RateDependent() = default;
   explicit kmaC_RateDependent(const cls_ReadVisitor& r);
-  kmaC_RateDependent* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_RateDependent& o) const;
-  bool operator!=(const kmaC_RateDependent& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -56,12 +50,11 @@ class kmaC_RateDependent : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::POWER_LAW;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_RateDependent, kmaC_MaterialOption>;

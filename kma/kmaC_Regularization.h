@@ -1,9 +1,10 @@
 #pragma once
 // Regularization of rate-dependent data: the tolerance and the strain rate scale.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Regularization : public kmaC_MaterialOption {
+class kmaC_Regularization : public fw_PersistentClass<kmaC_Regularization, kmaC_MaterialOption> {
  public:
   enum class StrainRateRegularizationEnm : std::int32_t { LOGARITHMIC = 0, LINEAR = 1 };
   static constexpr omu_EnumLiteral kStrainRateRegularizationLiterals[] = {{"LOGARITHMIC", 0}, {"LINEAR", 1}, {nullptr, 0}};
@@ -26,15 +27,8 @@ class kmaC_Regularization : public kmaC_MaterialOption {
 
   kmaC_Regularization() = default;
   explicit kmaC_Regularization(const cls_ReadVisitor& r);
-  kmaC_Regularization* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Regularization& o) const;
-  bool operator!=(const kmaC_Regularization& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String rtolCmd() { return "rtol"; }
@@ -46,10 +40,9 @@ class kmaC_Regularization : public kmaC_MaterialOption {
   StrainRateRegularizationEnm GetStrainRateRegularization() const { return strainRateRegularization; }
   void SetStrainRateRegularization(StrainRateRegularizationEnm v) { strainRateRegularization = omu_PrimEnum<StrainRateRegularizationEnm, 1>(v).GetValue(); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   double rtol = 0.03;
   StrainRateRegularizationEnm strainRateRegularization = StrainRateRegularizationEnm::LOGARITHMIC;
 };
+
+extern template class fw_PersistentClass<kmaC_Regularization, kmaC_MaterialOption>;

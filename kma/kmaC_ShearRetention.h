@@ -2,11 +2,12 @@
 // Post-cracking shear retention of a brittle cracking material, given as retention factors over
 // crack opening strain or as the parameters of a power law. Older files knew only retention
 // factors; the kind joined the layout at 2002.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_ShearRetention : public kmaC_MaterialOption {
+class kmaC_ShearRetention : public fw_PersistentClass<kmaC_ShearRetention, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { RETENTION_FACTOR = 0, POWER_LAW = 1 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"RETENTION_FACTOR", 0}, {"POWER_LAW", 1}, {nullptr, 0}};
@@ -32,15 +33,8 @@ class kmaC_ShearRetention : public kmaC_MaterialOption {
 
   kmaC_ShearRetention() = default;
   explicit kmaC_ShearRetention(const cls_ReadVisitor& r);
-  kmaC_ShearRetention* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_ShearRetention& o) const;
-  bool operator!=(const kmaC_ShearRetention& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -58,12 +52,11 @@ class kmaC_ShearRetention : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::RETENTION_FACTOR;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_ShearRetention, kmaC_MaterialOption>;

@@ -1,11 +1,11 @@
 #pragma once
 // Soft rock plasticity: yield surface and hardening parameters.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_SoftRockPlasticity : public kmaC_MaterialOption {
+class kmaC_SoftRockPlasticity : public fw_PersistentClass<kmaC_SoftRockPlasticity, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_SoftRockPlasticity";
@@ -24,15 +24,8 @@ class kmaC_SoftRockPlasticity : public kmaC_MaterialOption {
 
   kmaC_SoftRockPlasticity() = default;
   explicit kmaC_SoftRockPlasticity(const cls_ReadVisitor& r);
-  kmaC_SoftRockPlasticity* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_SoftRockPlasticity& o) const;
-  bool operator!=(const kmaC_SoftRockPlasticity& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -47,11 +40,10 @@ class kmaC_SoftRockPlasticity : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_SoftRockPlasticity, kmaC_MaterialOption>;

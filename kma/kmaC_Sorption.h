@@ -1,10 +1,11 @@
 #pragma once
 // Sorption of a partially saturated porous medium: absorption law and data.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Sorption : public kmaC_MaterialOption {
+class kmaC_Sorption : public fw_PersistentClass<kmaC_Sorption, kmaC_MaterialOption> {
  public:
   enum class LawAbsorptionEnm : std::int32_t { TABULAR = 0, LOG = 1 };
   static constexpr omu_EnumLiteral kLawAbsorptionLiterals[] = {{"TABULAR", 0}, {"LOG", 1}, {nullptr, 0}};
@@ -27,15 +28,8 @@ class kmaC_Sorption : public kmaC_MaterialOption {
 
   kmaC_Sorption() = default;
   explicit kmaC_Sorption(const cls_ReadVisitor& r);
-  kmaC_Sorption* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Sorption& o) const;
-  bool operator!=(const kmaC_Sorption& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String lawAbsorptionCmd() { return "lawAbsorption"; }
@@ -47,10 +41,9 @@ class kmaC_Sorption : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   LawAbsorptionEnm lawAbsorption = LawAbsorptionEnm::TABULAR;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Sorption, kmaC_MaterialOption>;

@@ -1,10 +1,11 @@
 #pragma once
 // kmaC_SpecificHeat: specific heat at constant volume or constant pressure, possibly temperature and field dependent.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_SpecificHeat : public kmaC_MaterialOption {
+class kmaC_SpecificHeat : public fw_PersistentClass<kmaC_SpecificHeat, kmaC_MaterialOption> {
  public:
   enum class LawEnm : std::int32_t { CONSTANTVOLUME = 0, CONSTANTPRESSURE = 1 };
   static constexpr omu_EnumLiteral kLawLiterals[] = {{"CONSTANTVOLUME", 0}, {"CONSTANTPRESSURE", 1}, {nullptr, 0}};
@@ -29,15 +30,8 @@ class kmaC_SpecificHeat : public kmaC_MaterialOption {
 
   kmaC_SpecificHeat() = default;
   explicit kmaC_SpecificHeat(const cls_ReadVisitor& r);
-  kmaC_SpecificHeat* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_SpecificHeat& o) const;
-  bool operator!=(const kmaC_SpecificHeat& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String lawCmd() { return "law"; }
@@ -55,12 +49,11 @@ class kmaC_SpecificHeat : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   LawEnm law = LawEnm::CONSTANTVOLUME;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_SpecificHeat, kmaC_MaterialOption>;

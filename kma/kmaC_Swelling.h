@@ -1,11 +1,11 @@
 #pragma once
 // Volumetric swelling strain rate of a material.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 
-class kmaC_Swelling : public kmaC_MaterialOption {
+class kmaC_Swelling : public fw_PersistentClass<kmaC_Swelling, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_Swelling";
@@ -24,16 +24,9 @@ class kmaC_Swelling : public kmaC_MaterialOption {
 
   kmaC_Swelling() = default;
   explicit kmaC_Swelling(const cls_ReadVisitor& r);
-  kmaC_Swelling* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for swelling"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Swelling& o) const;
-  bool operator!=(const kmaC_Swelling& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -48,11 +41,10 @@ class kmaC_Swelling : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Swelling, kmaC_MaterialOption>;

@@ -1,11 +1,12 @@
 #pragma once
 // Tensile failure of a plastic option: the hydrostatic cutoff stress, how the deviatoric and
 // pressure stresses fail, and whether failed elements are deleted.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_TensileFailure : public kmaC_MaterialOption {
+class kmaC_TensileFailure : public fw_PersistentClass<kmaC_TensileFailure, kmaC_MaterialOption> {
  public:
   enum class ShearEnm : std::int32_t { DUCTILE = 0, BRITTLE = 1 };
   enum class PressureEnm : std::int32_t { DUCTILE = 0, BRITTLE = 1 };
@@ -35,15 +36,8 @@ class kmaC_TensileFailure : public kmaC_MaterialOption {
 
   kmaC_TensileFailure() = default;
   explicit kmaC_TensileFailure(const cls_ReadVisitor& r);
-  kmaC_TensileFailure* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_TensileFailure& o) const;
-  bool operator!=(const kmaC_TensileFailure& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String temperatureDependencyCmd() { return "temperatureDependency"; }
@@ -67,9 +61,6 @@ class kmaC_TensileFailure : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
@@ -78,3 +69,5 @@ class kmaC_TensileFailure : public kmaC_MaterialOption {
   PressureEnm pressure = PressureEnm::DUCTILE;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_TensileFailure, kmaC_MaterialOption>;

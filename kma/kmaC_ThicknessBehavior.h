@@ -1,10 +1,11 @@
 #pragma once
 // Gasket thickness-direction behavior: loading and unloading data in stress or force units.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_ThicknessBehavior : public kmaC_MaterialOption {
+class kmaC_ThicknessBehavior : public fw_PersistentClass<kmaC_ThicknessBehavior, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { ELASTIC_PLASTIC = 0, DAMAGE = 1 };
   enum class UnitsEnm : std::int32_t { STRESS = 0, FORCE = 1 };
@@ -35,16 +36,9 @@ class kmaC_ThicknessBehavior : public kmaC_MaterialOption {
 
   kmaC_ThicknessBehavior() = default;
   explicit kmaC_ThicknessBehavior(const cls_ReadVisitor& r);
-  kmaC_ThicknessBehavior* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for thickness behavior"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_ThicknessBehavior& o) const;
-  bool operator!=(const kmaC_ThicknessBehavior& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -71,9 +65,6 @@ class kmaC_ThicknessBehavior : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::ELASTIC_PLASTIC;
   UnitsEnm units = UnitsEnm::STRESS;
@@ -83,3 +74,5 @@ class kmaC_ThicknessBehavior : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_ThicknessBehavior, kmaC_MaterialOption>;

@@ -1,10 +1,10 @@
 #pragma once
 // Field variables defined by a user routine at each material point; no data of its own.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 
-class kmaC_UserDefinedField : public kmaC_MaterialOption {
+class kmaC_UserDefinedField : public fw_PersistentClass<kmaC_UserDefinedField, kmaC_MaterialOption> {
  public:
-
   using BaseClass = kmaC_MaterialOption;
   using RootClass = kmaC_MaterialOption;
   static constexpr const char* kClassName = "kmaC_UserDefinedField";
@@ -19,22 +19,13 @@ class kmaC_UserDefinedField : public kmaC_MaterialOption {
 
   kmaC_UserDefinedField() = default;
   explicit kmaC_UserDefinedField(const cls_ReadVisitor& r);
-  kmaC_UserDefinedField* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_UserDefinedField& o) const;
-  bool operator!=(const kmaC_UserDefinedField& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String setValuesCmd() { return "setValues"; }
 
-
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
 };
+
+extern template class fw_PersistentClass<kmaC_UserDefinedField, kmaC_MaterialOption>;

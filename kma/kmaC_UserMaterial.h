@@ -1,10 +1,11 @@
 #pragma once
 // Constitutive behavior supplied by a user routine: its mechanical and thermal constants.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_UserMaterial : public kmaC_MaterialOption {
+class kmaC_UserMaterial : public fw_PersistentClass<kmaC_UserMaterial, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { MECHANICAL = 0, THERMAL = 1, THERMOMECHANICAL = 2 };
   enum class HybridFormulationEnm : std::int32_t { INCOMPRESSIBLE = 0, TOTAL = 1, INCREMENTAL = 2 };
@@ -34,15 +35,8 @@ class kmaC_UserMaterial : public kmaC_MaterialOption {
 
   kmaC_UserMaterial() = default;
   explicit kmaC_UserMaterial(const cls_ReadVisitor& r);
-  kmaC_UserMaterial* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_UserMaterial& o) const;
-  bool operator!=(const kmaC_UserMaterial& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -66,9 +60,6 @@ class kmaC_UserMaterial : public kmaC_MaterialOption {
   HybridFormulationEnm GetHybridFormulation() const { return hybridFormulation; }
   void SetHybridFormulation(HybridFormulationEnm v) { hybridFormulation = omu_PrimEnum<HybridFormulationEnm, 1>(v).GetValue(); }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::MECHANICAL;
   bool unsymm = false;
@@ -77,3 +68,5 @@ class kmaC_UserMaterial : public kmaC_MaterialOption {
   bool effmod = false;
   HybridFormulationEnm hybridFormulation = HybridFormulationEnm::INCOMPRESSIBLE;
 };
+
+extern template class fw_PersistentClass<kmaC_UserMaterial, kmaC_MaterialOption>;

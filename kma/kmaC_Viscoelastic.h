@@ -1,11 +1,12 @@
 #pragma once
 // Linear viscoelasticity in the time or frequency domain: the data form, the Prony series limits
 // (nmax, errtol) and a preload.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Viscoelastic : public kmaC_MaterialOption {
+class kmaC_Viscoelastic : public fw_PersistentClass<kmaC_Viscoelastic, kmaC_MaterialOption> {
  public:
   enum class DomainEnm : std::int32_t { FREQUENCY = 0, TIME = 1 };
   enum class TimeEnm : std::int32_t { PRONY = 0, CREEP_TEST_DATA = 1, RELAXATION_TEST_DATA = 2, FREQUENCY_DATA = 3 };
@@ -47,16 +48,9 @@ class kmaC_Viscoelastic : public kmaC_MaterialOption {
 
   kmaC_Viscoelastic() = default;
   explicit kmaC_Viscoelastic(const cls_ReadVisitor& r);
-  kmaC_Viscoelastic* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
   const char* UnknownSubOptionMessage() const override { return "Unknown material option name for viscoelastic"; }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Viscoelastic& o) const;
-  bool operator!=(const kmaC_Viscoelastic& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String domainCmd() { return "domain"; }
@@ -89,9 +83,6 @@ class kmaC_Viscoelastic : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   DomainEnm domain = DomainEnm::TIME;
   TimeEnm time = TimeEnm::PRONY;
@@ -103,3 +94,5 @@ class kmaC_Viscoelastic : public kmaC_MaterialOption {
   kmaC_MaterialTable volumetricTable;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Viscoelastic, kmaC_MaterialOption>;

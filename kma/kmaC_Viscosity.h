@@ -1,10 +1,11 @@
 #pragma once
 // Viscosity of a fluid, possibly temperature and field dependent.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Viscosity : public kmaC_MaterialOption {
+class kmaC_Viscosity : public fw_PersistentClass<kmaC_Viscosity, kmaC_MaterialOption> {
  public:
   enum class TypeEnm : std::int32_t { NEWTONIAN = 0 };
   static constexpr omu_EnumLiteral kTypeLiterals[] = {{"NEWTONIAN", 0}, {nullptr, 0}};
@@ -29,15 +30,8 @@ class kmaC_Viscosity : public kmaC_MaterialOption {
 
   kmaC_Viscosity() = default;
   explicit kmaC_Viscosity(const cls_ReadVisitor& r);
-  kmaC_Viscosity* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Viscosity& o) const;
-  bool operator!=(const kmaC_Viscosity& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String typeCmd() { return "type"; }
@@ -55,12 +49,11 @@ class kmaC_Viscosity : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   TypeEnm type = TypeEnm::NEWTONIAN;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Viscosity, kmaC_MaterialOption>;

@@ -1,10 +1,11 @@
 #pragma once
 // Viscous behavior of a two-layer viscoplastic model: the law and its data.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_Viscous : public kmaC_MaterialOption {
+class kmaC_Viscous : public fw_PersistentClass<kmaC_Viscous, kmaC_MaterialOption> {
  public:
   enum class LawEnm : std::int32_t { STRAIN = 0, TIME = 1, USER = 2, ANAND = 3, DARVEAUX = 4, DOUBLE_POWER = 5, POWER_LAW = 6, TIME_POWER_LAW = 7 };
   static constexpr omu_EnumLiteral kLawLiterals[] = {{"STRAIN", 0}, {"TIME", 1}, {"USER", 2}, {"ANAND", 3}, {"DARVEAUX", 4}, {"DOUBLE_POWER", 5}, {"POWER_LAW", 6}, {"TIME_POWER_LAW", 7}, {nullptr, 0}};
@@ -29,15 +30,8 @@ class kmaC_Viscous : public kmaC_MaterialOption {
 
   kmaC_Viscous() = default;
   explicit kmaC_Viscous(const cls_ReadVisitor& r);
-  kmaC_Viscous* Copy() const override;
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_Viscous& o) const;
-  bool operator!=(const kmaC_Viscous& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String lawCmd() { return "law"; }
@@ -55,12 +49,11 @@ class kmaC_Viscous : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   LawEnm law = LawEnm::STRAIN;
   bool temperatureDependency = false;
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_Viscous, kmaC_MaterialOption>;

@@ -4,11 +4,12 @@
 // (POISSON_RATIO, the table then unused). `smoothing` is the number of points on each side used
 // to smooth the data (0: none). The table width is 2, plus one column for temperature when
 // temperature-dependent and one per field-variable dependency.
+#include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
 #include "kma/kmaC_MaterialTable.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kmaC_VolumetricTestData : public kmaC_MaterialOption {
+class kmaC_VolumetricTestData : public fw_PersistentClass<kmaC_VolumetricTestData, kmaC_MaterialOption> {
  public:
   enum class VolumetricResponseEnm : std::int32_t { VOLUMETRIC_DATA = 0, POISSON_RATIO = 1 };
   static constexpr omu_EnumLiteral kVolumetricResponseLiterals[] = {
@@ -37,17 +38,10 @@ class kmaC_VolumetricTestData : public kmaC_MaterialOption {
 
   kmaC_VolumetricTestData() = default;
   explicit kmaC_VolumetricTestData(const cls_ReadVisitor& r);
-  kmaC_VolumetricTestData* Copy() const override;
   // Dependencies (code 0), Poisson's ratio from -1 to 0.5 (codes 4, 5), then the table (code 23,
   // only for VOLUMETRIC_DATA).
   void AssertValid() const override;
   unsigned DynTypeId() const override { return TypeId(); }
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-
-  bool operator==(const kmaC_VolumetricTestData& o) const;
-  bool operator!=(const kmaC_VolumetricTestData& o) const { return !(*this == o); }
 
   static cow_String constructorCmd() { return kScriptName; }
   static cow_String smoothingCmd() { return "smoothing"; }
@@ -73,9 +67,6 @@ class kmaC_VolumetricTestData : public kmaC_MaterialOption {
   const kmaC_MaterialTable& GetTable() const { return table; }
   void SetTable(const kmaC_MaterialTable& v) { table = v; }
 
- protected:
-  bool SameAs(const kmaC_MaterialOption& o) const override;
-
  private:
   std::int32_t smoothing = 0;
   VolumetricResponseEnm volumetricResponse = VolumetricResponseEnm::VOLUMETRIC_DATA;
@@ -84,3 +75,5 @@ class kmaC_VolumetricTestData : public kmaC_MaterialOption {
   std::int32_t dependencies = 0;
   kmaC_MaterialTable table;
 };
+
+extern template class fw_PersistentClass<kmaC_VolumetricTestData, kmaC_MaterialOption>;

@@ -20,7 +20,9 @@ class kopC_BaseOptimization : public mem_Allocated {
 
   virtual ~kopC_BaseOptimization() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kopC_BaseOptimization* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kopC_BaseOptimization* Copy() const { return DoCopy(); }
+  virtual kopC_BaseOptimization* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;

@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_BeadFixedRegion : public kopC_GeometricRestriction {
+class kopC_BeadFixedRegion : public fw_PersistentClass<kopC_BeadFixedRegion, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -28,14 +29,8 @@ class kopC_BeadFixedRegion : public kopC_GeometricRestriction {
 
   kopC_BeadFixedRegion() = default;
   explicit kopC_BeadFixedRegion(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_BeadFixedRegion* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_BeadFixedRegion& o) const;
-  bool operator!=(const kopC_BeadFixedRegion& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -46,12 +41,11 @@ class kopC_BeadFixedRegion : public kopC_GeometricRestriction {
   bool GetU3() const { return u3; }
   void SetU3(bool v) { u3 = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   bool u1 = false;
   bool u2 = false;
   bool u3 = false;
 };
+
+extern template class fw_PersistentClass<kopC_BeadFixedRegion, kopC_GeometricRestriction>;

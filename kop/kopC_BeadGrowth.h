@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_BeadGrowth : public kopC_GeometricRestriction {
+class kopC_BeadGrowth : public fw_PersistentClass<kopC_BeadGrowth, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -27,14 +28,8 @@ class kopC_BeadGrowth : public kopC_GeometricRestriction {
 
   kopC_BeadGrowth() = default;
   explicit kopC_BeadGrowth(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_BeadGrowth* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_BeadGrowth& o) const;
-  bool operator!=(const kopC_BeadGrowth& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -43,11 +38,10 @@ class kopC_BeadGrowth : public kopC_GeometricRestriction {
   double GetShrink() const { return shrink; }
   void SetShrink(double v) { shrink = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   double growth = kopC_kUnset;
   double shrink = kopC_kUnset;
 };
+
+extern template class fw_PersistentClass<kopC_BeadGrowth, kopC_GeometricRestriction>;

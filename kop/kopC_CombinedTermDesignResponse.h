@@ -3,10 +3,11 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_OrimDesignResponse.h"
 #include "kop/kopC_CombinedTermRequest.h"
 
-class kopC_CombinedTermDesignResponse : public kopC_OrimDesignResponse {
+class kopC_CombinedTermDesignResponse : public fw_PersistentClass<kopC_CombinedTermDesignResponse, kopC_OrimDesignResponse> {
  public:
   using BaseClass = kopC_OrimDesignResponse;
   using RootClass = kopC_DesignResponse;
@@ -24,22 +25,15 @@ class kopC_CombinedTermDesignResponse : public kopC_OrimDesignResponse {
 
   kopC_CombinedTermDesignResponse() = default;
   explicit kopC_CombinedTermDesignResponse(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_CombinedTermDesignResponse* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_CombinedTermDesignResponse& o) const;
-  bool operator!=(const kopC_CombinedTermDesignResponse& o) const { return !(*this == o); }
 
   const kopC_CombinedTermRequest& GetRequest() const { return request; }
   kopC_CombinedTermRequest& GetRequest() { return request; }
   void SetRequest(const kopC_CombinedTermRequest& v) { request = v; }
 
- protected:
-  bool SameAs(const kopC_DesignResponse& o) const override;
-
  private:
   kopC_CombinedTermRequest request;
 };
+
+extern template class fw_PersistentClass<kopC_CombinedTermDesignResponse, kopC_OrimDesignResponse>;

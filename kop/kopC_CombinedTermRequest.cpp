@@ -1,15 +1,9 @@
 #include "kop/kopC_CombinedTermRequest.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kop/kopC_assert.h"
 
-kopC_CombinedTermRequest::kopC_CombinedTermRequest(const cls_ReadVisitor& reader) : kopC_Request(reader) { fw_ReadFields(*this, reader); }
-void kopC_CombinedTermRequest::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kopC_CombinedTermRequest* kopC_CombinedTermRequest::Copy() const { return new kopC_CombinedTermRequest(*this); }
-bool kopC_CombinedTermRequest::operator==(const kopC_CombinedTermRequest& o) const { return fw_EqualFields(*this, o); }
-bool kopC_CombinedTermRequest::SameAs(const kopC_Request& o) const { return *this == static_cast<const kopC_CombinedTermRequest&>(o); }
-void kopC_CombinedTermRequest::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kopC_CombinedTermRequest>(r); }
-void kopC_CombinedTermRequest::CowDtor(void* p) { fw_CowDtor<kopC_CombinedTermRequest>(p); }
+kopC_CombinedTermRequest::kopC_CombinedTermRequest(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 // Weights match the terms of a weighted sum; the number of terms fits the method; a cut-off has
 // ordered bounds.
@@ -38,3 +32,5 @@ void kopC_CombinedTermRequest::AssertValid() const {
     kopC_Assert(highCutOff == kopC_kUnset || highCutOff >= lowCutOff, kopC_HighCutOffBelowLow);
   }
 }
+
+template class fw_PersistentClass<kopC_CombinedTermRequest, kopC_Request>;

@@ -3,12 +3,13 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_Request.h"
 #include "kop/kopC_Enums.h"
 #include "platform/base/cow_String.h"
 #include "platform/base/cow_List.h"
 
-class kopC_CombinedTermRequest : public kopC_Request {
+class kopC_CombinedTermRequest : public fw_PersistentClass<kopC_CombinedTermRequest, kopC_Request> {
  public:
   using BaseClass = kopC_Request;
   using RootClass = kopC_Request;
@@ -34,14 +35,8 @@ class kopC_CombinedTermRequest : public kopC_Request {
 
   kopC_CombinedTermRequest() = default;
   explicit kopC_CombinedTermRequest(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_CombinedTermRequest* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_CombinedTermRequest& o) const;
-  bool operator!=(const kopC_CombinedTermRequest& o) const { return !(*this == o); }
 
   const cow_List<cow_String>& GetTerms() const { return terms; }
   void SetTerms(const cow_List<cow_String>& v) { terms = v; }
@@ -62,9 +57,6 @@ class kopC_CombinedTermRequest : public kopC_Request {
   double GetHighCutOff() const { return highCutOff; }
   void SetHighCutOff(double v) { highCutOff = v; }
 
- protected:
-  bool SameAs(const kopC_Request& o) const override;
-
  private:
   cow_List<cow_String> terms;
   cow_List<double> weights;
@@ -76,3 +68,5 @@ class kopC_CombinedTermRequest : public kopC_Request {
   double lowCutOff = 0.0;
   double highCutOff = kopC_kUnset;
 };
+
+extern template class fw_PersistentClass<kopC_CombinedTermRequest, kopC_Request>;

@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_CyclicSymmetry : public kopC_GeometricRestriction {
+class kopC_CyclicSymmetry : public fw_PersistentClass<kopC_CyclicSymmetry, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -28,14 +29,8 @@ class kopC_CyclicSymmetry : public kopC_GeometricRestriction {
 
   kopC_CyclicSymmetry() = default;
   explicit kopC_CyclicSymmetry(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_CyclicSymmetry* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_CyclicSymmetry& o) const;
-  bool operator!=(const kopC_CyclicSymmetry& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -46,12 +41,11 @@ class kopC_CyclicSymmetry : public kopC_GeometricRestriction {
   double GetAngle() const { return angle; }
   void SetAngle(double v) { angle = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   std::int32_t csys = 0;
   std::int32_t repetitiveSectors = 2;
   double angle = 0.0;
 };
+
+extern template class fw_PersistentClass<kopC_CyclicSymmetry, kopC_GeometricRestriction>;

@@ -3,12 +3,13 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kopC_DemoldControl : public kopC_GeometricRestriction {
+class kopC_DemoldControl : public fw_PersistentClass<kopC_DemoldControl, kopC_GeometricRestriction> {
  public:
   enum class TechniqueEnm : std::int32_t { AUTO = 0, POINT = 1, STAMP = 2 };
   static constexpr omu_EnumLiteral kTechniqueLiterals[] = {{"AUTO", 0}, {"POINT", 1}, {"STAMP", 2}, {nullptr, 0}};
@@ -31,14 +32,8 @@ class kopC_DemoldControl : public kopC_GeometricRestriction {
 
   kopC_DemoldControl() = default;
   explicit kopC_DemoldControl(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_DemoldControl* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_DemoldControl& o) const;
-  bool operator!=(const kopC_DemoldControl& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -47,11 +42,10 @@ class kopC_DemoldControl : public kopC_GeometricRestriction {
   double GetDraftAngle() const { return draftAngle; }
   void SetDraftAngle(double v) { draftAngle = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   TechniqueEnm technique = TechniqueEnm::AUTO;
   double draftAngle = 0.0;
 };
+
+extern template class fw_PersistentClass<kopC_DemoldControl, kopC_GeometricRestriction>;

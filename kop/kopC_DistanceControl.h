@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_DistanceControl : public kopC_GeometricRestriction {
+class kopC_DistanceControl : public fw_PersistentClass<kopC_DistanceControl, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -27,14 +28,8 @@ class kopC_DistanceControl : public kopC_GeometricRestriction {
 
   kopC_DistanceControl() = default;
   explicit kopC_DistanceControl(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_DistanceControl* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_DistanceControl& o) const;
-  bool operator!=(const kopC_DistanceControl& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -43,11 +38,10 @@ class kopC_DistanceControl : public kopC_GeometricRestriction {
   double GetDistance() const { return distance; }
   void SetDistance(double v) { distance = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   rgnC_Region referenceRegion;
   double distance = 0.0;
 };
+
+extern template class fw_PersistentClass<kopC_DistanceControl, kopC_GeometricRestriction>;

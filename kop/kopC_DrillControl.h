@@ -3,12 +3,13 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kopC_DrillControl : public kopC_GeometricRestriction {
+class kopC_DrillControl : public fw_PersistentClass<kopC_DrillControl, kopC_GeometricRestriction> {
  public:
   enum class TechniqueEnm : std::int32_t { AUTO = 0, POINT = 1, NONE = 2 };
   static constexpr omu_EnumLiteral kTechniqueLiterals[] = {{"AUTO", 0}, {"POINT", 1}, {"NONE", 2}, {nullptr, 0}};
@@ -32,14 +33,8 @@ class kopC_DrillControl : public kopC_GeometricRestriction {
 
   kopC_DrillControl() = default;
   explicit kopC_DrillControl(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_DrillControl* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_DrillControl& o) const;
-  bool operator!=(const kopC_DrillControl& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -50,12 +45,11 @@ class kopC_DrillControl : public kopC_GeometricRestriction {
   const rgnC_Region& GetPointRegion() const { return pointRegion; }
   void SetPointRegion(const rgnC_Region& v) { pointRegion = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   std::int32_t csys = 0;
   TechniqueEnm technique = TechniqueEnm::AUTO;
   rgnC_Region pointRegion;
 };
+
+extern template class fw_PersistentClass<kopC_DrillControl, kopC_GeometricRestriction>;

@@ -20,7 +20,9 @@ class kopC_GeometricRestriction : public mem_Allocated {
 
   virtual ~kopC_GeometricRestriction() = default;
   virtual void DBWrite(const cls_WriteVisitor& w) const = 0;
-  virtual kopC_GeometricRestriction* Copy() const = 0;
+  // A copy of the most derived object; each class's DoCopy makes it.
+  kopC_GeometricRestriction* Copy() const { return DoCopy(); }
+  virtual kopC_GeometricRestriction* DoCopy() const = 0;
   virtual void AssertValid() const = 0;
   // The type id of the object's own class.
   virtual unsigned ClassTypeId() const = 0;

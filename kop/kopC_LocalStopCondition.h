@@ -3,12 +3,13 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_StopCondition.h"
 #include "kop/kopC_Enums.h"
 #include "platform/base/cow_String.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_LocalStopCondition : public kopC_StopCondition {
+class kopC_LocalStopCondition : public fw_PersistentClass<kopC_LocalStopCondition, kopC_StopCondition> {
  public:
   using BaseClass = kopC_StopCondition;
   using RootClass = kopC_StopCondition;
@@ -33,14 +34,8 @@ class kopC_LocalStopCondition : public kopC_StopCondition {
 
   kopC_LocalStopCondition() = default;
   explicit kopC_LocalStopCondition(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_LocalStopCondition* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_LocalStopCondition& o) const;
-  bool operator!=(const kopC_LocalStopCondition& o) const { return !(*this == o); }
 
   const cow_String& GetIdentifier() const { return identifier; }
   void SetIdentifier(const cow_String& v) { identifier = v; }
@@ -59,9 +54,6 @@ class kopC_LocalStopCondition : public kopC_StopCondition {
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
 
- protected:
-  bool SameAs(const kopC_StopCondition& o) const override;
-
  private:
   cow_String identifier;
   kopC_VariableOperationEnm identifierOperation = kopC_VariableOperationEnm::MAXIMUM;
@@ -72,3 +64,5 @@ class kopC_LocalStopCondition : public kopC_StopCondition {
   std::int32_t referenceIteration = 1;
   rgnC_Region region;
 };
+
+extern template class fw_PersistentClass<kopC_LocalStopCondition, kopC_StopCondition>;

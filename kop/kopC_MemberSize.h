@@ -3,12 +3,13 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kopC_MemberSize : public kopC_GeometricRestriction {
+class kopC_MemberSize : public fw_PersistentClass<kopC_MemberSize, kopC_GeometricRestriction> {
  public:
   enum class SizeRestrictionEnm : std::int32_t { MINIMUM = 0, MAXIMUM = 1 };
   static constexpr omu_EnumLiteral kSizeRestrictionLiterals[] = {{"MINIMUM", 0}, {"MAXIMUM", 1}, {nullptr, 0}};
@@ -32,14 +33,8 @@ class kopC_MemberSize : public kopC_GeometricRestriction {
 
   kopC_MemberSize() = default;
   explicit kopC_MemberSize(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_MemberSize* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_MemberSize& o) const;
-  bool operator!=(const kopC_MemberSize& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -50,12 +45,11 @@ class kopC_MemberSize : public kopC_GeometricRestriction {
   double GetMaxThickness() const { return maxThickness; }
   void SetMaxThickness(double v) { maxThickness = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   SizeRestrictionEnm sizeRestriction = SizeRestrictionEnm::MINIMUM;
   double minThickness = kopC_kUnset;
   double maxThickness = kopC_kUnset;
 };
+
+extern template class fw_PersistentClass<kopC_MemberSize, kopC_GeometricRestriction>;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_Enums.h"
 #include "platform/base/cow_String.h"
 #include "framework/fw_Field.h"
@@ -13,7 +14,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class kopC_Objective : public mem_Allocated {
+class kopC_Objective : public fw_PersistentClass<kopC_Objective, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "kopC_Objective";
   static constexpr const char* kScriptName = "Objective";
@@ -33,14 +34,8 @@ class kopC_Objective : public mem_Allocated {
 
   kopC_Objective() = default;
   explicit kopC_Objective(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kopC_Objective() = default;
-  virtual kopC_Objective* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_Objective& o) const;
-  bool operator!=(const kopC_Objective& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   const cow_String& GetDesignResponse() const { return designResponse; }
@@ -62,3 +57,5 @@ class kopC_Objective : public mem_Allocated {
   bool suppressed = false;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kopC_Objective, mem_Allocated>;

@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_Constraint.h"
 #include "kop/kopC_Enums.h"
 #include "platform/base/cow_String.h"
 
-class kopC_OrimConstraint : public kopC_Constraint {
+class kopC_OrimConstraint : public fw_PersistentClass<kopC_OrimConstraint, kopC_Constraint> {
  public:
   using BaseClass = kopC_Constraint;
   using RootClass = kopC_Constraint;
@@ -27,14 +28,8 @@ class kopC_OrimConstraint : public kopC_Constraint {
 
   kopC_OrimConstraint() = default;
   explicit kopC_OrimConstraint(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_OrimConstraint* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_OrimConstraint& o) const;
-  bool operator!=(const kopC_OrimConstraint& o) const { return !(*this == o); }
   // True for the methods whose value is a fraction of the initial value.
   bool IsRelative() const { return static_cast<int>(restrictionMethod) % 2 == 1; }
 
@@ -45,11 +40,10 @@ class kopC_OrimConstraint : public kopC_Constraint {
   double GetRestrictionValue() const { return restrictionValue; }
   void SetRestrictionValue(double v) { restrictionValue = v; }
 
- protected:
-  bool SameAs(const kopC_Constraint& o) const override;
-
  private:
   cow_String designResponse;
   kopC_RestrictionMethodEnm restrictionMethod = kopC_RestrictionMethodEnm::ABSOLUTE_LESS_THAN_EQUAL;
   double restrictionValue = 0.0;
 };
+
+extern template class fw_PersistentClass<kopC_OrimConstraint, kopC_Constraint>;

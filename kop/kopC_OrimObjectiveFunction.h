@@ -3,13 +3,14 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_ObjectiveFunction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/base/cow_List.h"
 #include "kop/kopC_Objective.h"
 #include "platform/base/cow_COW.h"
 
-class kopC_OrimObjectiveFunction : public kopC_ObjectiveFunction {
+class kopC_OrimObjectiveFunction : public fw_PersistentClass<kopC_OrimObjectiveFunction, kopC_ObjectiveFunction> {
  public:
   using BaseClass = kopC_ObjectiveFunction;
   using RootClass = kopC_ObjectiveFunction;
@@ -28,14 +29,8 @@ class kopC_OrimObjectiveFunction : public kopC_ObjectiveFunction {
 
   kopC_OrimObjectiveFunction() = default;
   explicit kopC_OrimObjectiveFunction(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_OrimObjectiveFunction* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_OrimObjectiveFunction& o) const;
-  bool operator!=(const kopC_OrimObjectiveFunction& o) const { return !(*this == o); }
   using ObjectiveHandle = cow_COW<kopC_Objective, cow_Virtual<kopC_Objective>>;
   // The entries that are not suppressed.
   std::size_t UnsuppressedCount() const;
@@ -45,10 +40,9 @@ class kopC_OrimObjectiveFunction : public kopC_ObjectiveFunction {
   const cow_List<ObjectiveHandle>& GetObjectives() const { return objectives; }
   void SetObjectives(const cow_List<ObjectiveHandle>& v) { objectives = v; }
 
- protected:
-  bool SameAs(const kopC_ObjectiveFunction& o) const override;
-
  private:
   kopC_TargetEnm target = kopC_TargetEnm::MINIMIZE;
   cow_List<ObjectiveHandle> objectives;
 };
+
+extern template class fw_PersistentClass<kopC_OrimObjectiveFunction, kopC_ObjectiveFunction>;

@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_StopCondition.h"
 #include "kop/kopC_Enums.h"
 #include "platform/base/cow_String.h"
 
-class kopC_OrimStopCondition : public kopC_StopCondition {
+class kopC_OrimStopCondition : public fw_PersistentClass<kopC_OrimStopCondition, kopC_StopCondition> {
  public:
   using BaseClass = kopC_StopCondition;
   using RootClass = kopC_StopCondition;
@@ -27,14 +28,8 @@ class kopC_OrimStopCondition : public kopC_StopCondition {
 
   kopC_OrimStopCondition() = default;
   explicit kopC_OrimStopCondition(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_OrimStopCondition* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_OrimStopCondition& o) const;
-  bool operator!=(const kopC_OrimStopCondition& o) const { return !(*this == o); }
 
   const cow_String& GetDesignResponse() const { return designResponse; }
   void SetDesignResponse(const cow_String& v) { designResponse = v; }
@@ -43,11 +38,10 @@ class kopC_OrimStopCondition : public kopC_StopCondition {
   double GetReferenceValue() const { return referenceValue; }
   void SetReferenceValue(double v) { referenceValue = v; }
 
- protected:
-  bool SameAs(const kopC_StopCondition& o) const override;
-
  private:
   cow_String designResponse;
   kopC_ComparisonEnm comparisonOperation = kopC_ComparisonEnm::LESS_THAN_EQUAL;
   double referenceValue = 0.0;
 };
+
+extern template class fw_PersistentClass<kopC_OrimStopCondition, kopC_StopCondition>;

@@ -20,7 +20,7 @@ void kopC_OrimTask::InitializeMetadata(cls_ClassRegistrar& registrar) {
 
 // The task container copies through here. The registry clones a task of any kind registered in
 // this family, so the base keeps no list of its kinds; a kind nobody registered is refused.
-kopC_OrimTask* kopC_OrimTask::Copy() const {
+kopC_BaseOptimization* kopC_OrimTask::DoCopy() const {
   const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByTypeId(ClassTypeId());
   const bool known = md && md->CanConstruct() && md->IsA(cls_MetadataOfClass<kopC_OrimTask>());
   kopC_Assert(known, kopC_UnknownTaskCopy);

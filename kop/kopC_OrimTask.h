@@ -30,7 +30,8 @@ class kopC_OrimTask : public kopC_Task {
   static void InitializeMetadata(cls_ClassRegistrar& registrar);
   static void CowDtor(void* p);
   // A copy of the task as its own kind; a kind this module does not know is refused with code 1.
-  kopC_OrimTask* Copy() const override;
+  kopC_OrimTask* Copy() const { return static_cast<kopC_OrimTask*>(DoCopy()); }
+  kopC_BaseOptimization* DoCopy() const override;
   bool IsGeneral() const { return algorithm == kopC_AlgorithmEnm::GENERAL_OPTIMIZATION; }
   // The rules every kind runs last: the general-only settings, then the contents.
   void AssertValidTask() const;

@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_OverhangControl : public kopC_GeometricRestriction {
+class kopC_OverhangControl : public fw_PersistentClass<kopC_OverhangControl, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -28,14 +29,8 @@ class kopC_OverhangControl : public kopC_GeometricRestriction {
 
   kopC_OverhangControl() = default;
   explicit kopC_OverhangControl(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_OverhangControl* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_OverhangControl& o) const;
-  bool operator!=(const kopC_OverhangControl& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -46,12 +41,11 @@ class kopC_OverhangControl : public kopC_GeometricRestriction {
   double GetFilterRadius() const { return filterRadius; }
   void SetFilterRadius(double v) { filterRadius = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   double overhangAngle = 45.0;
   double radius = kopC_kUnset;
   double filterRadius = kopC_kUnset;
 };
+
+extern template class fw_PersistentClass<kopC_OverhangControl, kopC_GeometricRestriction>;

@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_PenetrationCheck : public kopC_GeometricRestriction {
+class kopC_PenetrationCheck : public fw_PersistentClass<kopC_PenetrationCheck, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -26,24 +27,17 @@ class kopC_PenetrationCheck : public kopC_GeometricRestriction {
 
   kopC_PenetrationCheck() = default;
   explicit kopC_PenetrationCheck(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_PenetrationCheck* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_PenetrationCheck& o) const;
-  bool operator!=(const kopC_PenetrationCheck& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
   const rgnC_Region& GetPenetrationCheckRegion() const { return penetrationCheckRegion; }
   void SetPenetrationCheckRegion(const rgnC_Region& v) { penetrationCheckRegion = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   rgnC_Region penetrationCheckRegion;
 };
+
+extern template class fw_PersistentClass<kopC_PenetrationCheck, kopC_GeometricRestriction>;

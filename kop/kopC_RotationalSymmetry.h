@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_RotationalSymmetry : public kopC_GeometricRestriction {
+class kopC_RotationalSymmetry : public fw_PersistentClass<kopC_RotationalSymmetry, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -26,24 +27,17 @@ class kopC_RotationalSymmetry : public kopC_GeometricRestriction {
 
   kopC_RotationalSymmetry() = default;
   explicit kopC_RotationalSymmetry(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_RotationalSymmetry* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_RotationalSymmetry& o) const;
-  bool operator!=(const kopC_RotationalSymmetry& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
   double GetAngle() const { return angle; }
   void SetAngle(double v) { angle = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   double angle = 90.0;
 };
+
+extern template class fw_PersistentClass<kopC_RotationalSymmetry, kopC_GeometricRestriction>;

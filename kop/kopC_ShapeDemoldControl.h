@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_ShapeDemoldControl : public kopC_GeometricRestriction {
+class kopC_ShapeDemoldControl : public fw_PersistentClass<kopC_ShapeDemoldControl, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -29,14 +30,8 @@ class kopC_ShapeDemoldControl : public kopC_GeometricRestriction {
 
   kopC_ShapeDemoldControl() = default;
   explicit kopC_ShapeDemoldControl(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_ShapeDemoldControl* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_ShapeDemoldControl& o) const;
-  bool operator!=(const kopC_ShapeDemoldControl& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -49,9 +44,6 @@ class kopC_ShapeDemoldControl : public kopC_GeometricRestriction {
   double GetCollisionCheckTolerance() const { return collisionCheckTolerance; }
   void SetCollisionCheckTolerance(double v) { collisionCheckTolerance = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   std::int32_t csys = 0;
@@ -59,3 +51,5 @@ class kopC_ShapeDemoldControl : public kopC_GeometricRestriction {
   double undercutTolerance = 0.0;
   double collisionCheckTolerance = 0.01;
 };
+
+extern template class fw_PersistentClass<kopC_ShapeDemoldControl, kopC_GeometricRestriction>;

@@ -3,12 +3,13 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 #include "platform/base/omu_PrimEnum.h"
 
-class kopC_ShapePlanarSymmetry : public kopC_GeometricRestriction {
+class kopC_ShapePlanarSymmetry : public fw_PersistentClass<kopC_ShapePlanarSymmetry, kopC_GeometricRestriction> {
  public:
   enum class AxisEnm : std::int32_t { AXIS_1 = 0, AXIS_2 = 1, AXIS_3 = 2 };
   static constexpr omu_EnumLiteral kAxisLiterals[] = {{"AXIS_1", 0}, {"AXIS_2", 1}, {"AXIS_3", 2}, {nullptr, 0}};
@@ -31,14 +32,8 @@ class kopC_ShapePlanarSymmetry : public kopC_GeometricRestriction {
 
   kopC_ShapePlanarSymmetry() = default;
   explicit kopC_ShapePlanarSymmetry(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_ShapePlanarSymmetry* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_ShapePlanarSymmetry& o) const;
-  bool operator!=(const kopC_ShapePlanarSymmetry& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -47,11 +42,10 @@ class kopC_ShapePlanarSymmetry : public kopC_GeometricRestriction {
   AxisEnm GetAxis() const { return axis; }
   void SetAxis(AxisEnm v) { axis = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   std::int32_t csys = 0;
   AxisEnm axis = AxisEnm::AXIS_1;
 };
+
+extern template class fw_PersistentClass<kopC_ShapePlanarSymmetry, kopC_GeometricRestriction>;

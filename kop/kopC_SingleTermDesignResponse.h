@@ -3,10 +3,11 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_OrimDesignResponse.h"
 #include "kop/kopC_SingleTermRequest.h"
 
-class kopC_SingleTermDesignResponse : public kopC_OrimDesignResponse {
+class kopC_SingleTermDesignResponse : public fw_PersistentClass<kopC_SingleTermDesignResponse, kopC_OrimDesignResponse> {
  public:
   using BaseClass = kopC_OrimDesignResponse;
   using RootClass = kopC_DesignResponse;
@@ -24,22 +25,15 @@ class kopC_SingleTermDesignResponse : public kopC_OrimDesignResponse {
 
   kopC_SingleTermDesignResponse() = default;
   explicit kopC_SingleTermDesignResponse(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_SingleTermDesignResponse* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_SingleTermDesignResponse& o) const;
-  bool operator!=(const kopC_SingleTermDesignResponse& o) const { return !(*this == o); }
 
   const kopC_SingleTermRequest& GetRequest() const { return request; }
   kopC_SingleTermRequest& GetRequest() { return request; }
   void SetRequest(const kopC_SingleTermRequest& v) { request = v; }
 
- protected:
-  bool SameAs(const kopC_DesignResponse& o) const override;
-
  private:
   kopC_SingleTermRequest request;
 };
+
+extern template class fw_PersistentClass<kopC_SingleTermDesignResponse, kopC_OrimDesignResponse>;

@@ -1,16 +1,10 @@
 #include "kop/kopC_SingleTermRequest.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kop/kopC_assert.h"
 #include "kop/kopC_Labels.h"
 
-kopC_SingleTermRequest::kopC_SingleTermRequest(const cls_ReadVisitor& reader) : kopC_Request(reader) { fw_ReadFields(*this, reader); }
-void kopC_SingleTermRequest::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kopC_SingleTermRequest* kopC_SingleTermRequest::Copy() const { return new kopC_SingleTermRequest(*this); }
-bool kopC_SingleTermRequest::operator==(const kopC_SingleTermRequest& o) const { return fw_EqualFields(*this, o); }
-bool kopC_SingleTermRequest::SameAs(const kopC_Request& o) const { return *this == static_cast<const kopC_SingleTermRequest&>(o); }
-void kopC_SingleTermRequest::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kopC_SingleTermRequest>(r); }
-void kopC_SingleTermRequest::CowDtor(void* p) { fw_CowDtor<kopC_SingleTermRequest>(p); }
+kopC_SingleTermRequest::kopC_SingleTermRequest(const cls_ReadVisitor& reader) : fw_PersistentClass(reader) { fw_ReadFields(*this, reader); }
 
 // Identifier first, then its operation and region, deviation, shell layer and steps.
 void kopC_SingleTermRequest::AssertValid() const {
@@ -33,3 +27,5 @@ void kopC_SingleTermRequest::AssertValid() const {
   for (const StepOptionHandle& option : stepOptions)
     if (!option.IsNull()) option->AssertValid();
 }
+
+template class fw_PersistentClass<kopC_SingleTermRequest, kopC_Request>;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_Request.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
@@ -11,7 +12,7 @@
 #include "kop/kopC_StepOption.h"
 #include "platform/base/cow_COW.h"
 
-class kopC_SingleTermRequest : public kopC_Request {
+class kopC_SingleTermRequest : public fw_PersistentClass<kopC_SingleTermRequest, kopC_Request> {
  public:
   using BaseClass = kopC_Request;
   using RootClass = kopC_Request;
@@ -38,14 +39,8 @@ class kopC_SingleTermRequest : public kopC_Request {
 
   kopC_SingleTermRequest() = default;
   explicit kopC_SingleTermRequest(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_SingleTermRequest* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_SingleTermRequest& o) const;
-  bool operator!=(const kopC_SingleTermRequest& o) const { return !(*this == o); }
   using StepOptionHandle = cow_COW<kopC_StepOption, cow_Virtual<kopC_StepOption>>;
 
   const cow_String& GetIdentifier() const { return identifier; }
@@ -69,9 +64,6 @@ class kopC_SingleTermRequest : public kopC_Request {
   double GetDeviationReferenceValue() const { return deviationReferenceValue; }
   void SetDeviationReferenceValue(double v) { deviationReferenceValue = v; }
 
- protected:
-  bool SameAs(const kopC_Request& o) const override;
-
  private:
   cow_String identifier;
   kopC_VariableOperationEnm operation = kopC_VariableOperationEnm::SUM;
@@ -84,3 +76,5 @@ class kopC_SingleTermRequest : public kopC_Request {
   kopC_DeviationReferenceEnm deviationReference = kopC_DeviationReferenceEnm::DEVIATION_FROM_MAXIMUM;
   double deviationReferenceValue = kopC_kUnset;
 };
+
+extern template class fw_PersistentClass<kopC_SingleTermRequest, kopC_Request>;

@@ -3,12 +3,13 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_Variable.h"
 #include "kop/kopC_Enums.h"
 #include "platform/base/cow_String.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_SingleVariable : public kopC_Variable {
+class kopC_SingleVariable : public fw_PersistentClass<kopC_SingleVariable, kopC_Variable> {
  public:
   using BaseClass = kopC_Variable;
   using RootClass = kopC_Variable;
@@ -28,14 +29,8 @@ class kopC_SingleVariable : public kopC_Variable {
 
   kopC_SingleVariable() = default;
   explicit kopC_SingleVariable(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_SingleVariable* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_SingleVariable& o) const;
-  bool operator!=(const kopC_SingleVariable& o) const { return !(*this == o); }
 
   const cow_String& GetIdentifier() const { return identifier; }
   void SetIdentifier(const cow_String& v) { identifier = v; }
@@ -44,11 +39,10 @@ class kopC_SingleVariable : public kopC_Variable {
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
 
- protected:
-  bool SameAs(const kopC_Variable& o) const override;
-
  private:
   cow_String identifier;
   kopC_VariableOperationEnm operation = kopC_VariableOperationEnm::MAXIMUM;
   rgnC_Region region;
 };
+
+extern template class fw_PersistentClass<kopC_SingleVariable, kopC_Variable>;

@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_SizingPointSymmetry : public kopC_GeometricRestriction {
+class kopC_SizingPointSymmetry : public fw_PersistentClass<kopC_SizingPointSymmetry, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -26,24 +27,17 @@ class kopC_SizingPointSymmetry : public kopC_GeometricRestriction {
 
   kopC_SizingPointSymmetry() = default;
   explicit kopC_SizingPointSymmetry(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_SizingPointSymmetry* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_SizingPointSymmetry& o) const;
-  bool operator!=(const kopC_SizingPointSymmetry& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
   std::int32_t GetCsys() const { return csys; }
   void SetCsys(std::int32_t v) { csys = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   std::int32_t csys = 0;
 };
+
+extern template class fw_PersistentClass<kopC_SizingPointSymmetry, kopC_GeometricRestriction>;

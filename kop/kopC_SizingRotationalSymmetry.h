@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_SizingRotationalSymmetry : public kopC_GeometricRestriction {
+class kopC_SizingRotationalSymmetry : public fw_PersistentClass<kopC_SizingRotationalSymmetry, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -27,14 +28,8 @@ class kopC_SizingRotationalSymmetry : public kopC_GeometricRestriction {
 
   kopC_SizingRotationalSymmetry() = default;
   explicit kopC_SizingRotationalSymmetry(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_SizingRotationalSymmetry* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_SizingRotationalSymmetry& o) const;
-  bool operator!=(const kopC_SizingRotationalSymmetry& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -43,11 +38,10 @@ class kopC_SizingRotationalSymmetry : public kopC_GeometricRestriction {
   double GetAngle() const { return angle; }
   void SetAngle(double v) { angle = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   std::int32_t csys = 0;
   double angle = 90.0;
 };
+
+extern template class fw_PersistentClass<kopC_SizingRotationalSymmetry, kopC_GeometricRestriction>;

@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_SlideRegion : public kopC_GeometricRestriction {
+class kopC_SlideRegion : public fw_PersistentClass<kopC_SlideRegion, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -25,21 +26,14 @@ class kopC_SlideRegion : public kopC_GeometricRestriction {
 
   kopC_SlideRegion() = default;
   explicit kopC_SlideRegion(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_SlideRegion* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_SlideRegion& o) const;
-  bool operator!=(const kopC_SlideRegion& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
 };
+
+extern template class fw_PersistentClass<kopC_SlideRegion, kopC_GeometricRestriction>;

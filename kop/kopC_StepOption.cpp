@@ -2,16 +2,11 @@
 
 #include <string_view>
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 #include "kop/kopC_Enums.h"
 #include "kop/kopC_assert.h"
 
 kopC_StepOption::kopC_StepOption(const cls_ReadVisitor& reader) : uid(reader.GetUid()) { fw_ReadFields(*this, reader); }
-void kopC_StepOption::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-kopC_StepOption* kopC_StepOption::Copy() const { return new kopC_StepOption(*this); }
-bool kopC_StepOption::operator==(const kopC_StepOption& o) const { return fw_EqualFields(*this, o); }
-void kopC_StepOption::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<kopC_StepOption>(r); }
-void kopC_StepOption::CowDtor(void* p) { fw_CowDtor<kopC_StepOption>(p); }
 
 // A step option names its step (a step, a step set or "ALL"); the mode range counts only when not
 // every mode is used and no single modes are listed.
@@ -48,3 +43,5 @@ std::vector<cls_ScriptField> kopC_StepOption::ScriptFace(std::vector<cls_ScriptF
   }
   return stored;
 }
+
+template class fw_PersistentClass<kopC_StepOption, mem_Allocated>;

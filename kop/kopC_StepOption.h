@@ -4,6 +4,7 @@
 #include <tuple>
 #include <vector>
 
+#include "framework/fw_PersistentClass.h"
 #include "platform/base/cow_String.h"
 #include "platform/base/cow_List.h"
 #include "framework/fw_Field.h"
@@ -15,7 +16,7 @@ class cls_WriteVisitor;
 class cls_ClassRegistrar;
 struct cls_ScriptField;
 
-class kopC_StepOption : public mem_Allocated {
+class kopC_StepOption : public fw_PersistentClass<kopC_StepOption, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "kopC_StepOption";
   static constexpr const char* kScriptName = "StepOption";
@@ -38,14 +39,8 @@ class kopC_StepOption : public mem_Allocated {
 
   kopC_StepOption() = default;
   explicit kopC_StepOption(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const;
   virtual ~kopC_StepOption() = default;
-  virtual kopC_StepOption* Copy() const;
   virtual void AssertValid() const;
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_StepOption& o) const;
-  bool operator!=(const kopC_StepOption& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   const cow_String& GetModel() const { return model; }
@@ -82,3 +77,5 @@ class kopC_StepOption : public mem_Allocated {
   cow_List<std::int32_t> modes;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<kopC_StepOption, mem_Allocated>;

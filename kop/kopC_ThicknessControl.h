@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_ThicknessControl : public kopC_GeometricRestriction {
+class kopC_ThicknessControl : public fw_PersistentClass<kopC_ThicknessControl, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -27,14 +28,8 @@ class kopC_ThicknessControl : public kopC_GeometricRestriction {
 
   kopC_ThicknessControl() = default;
   explicit kopC_ThicknessControl(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_ThicknessControl* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_ThicknessControl& o) const;
-  bool operator!=(const kopC_ThicknessControl& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -43,11 +38,10 @@ class kopC_ThicknessControl : public kopC_GeometricRestriction {
   double GetMaxThickness() const { return maxThickness; }
   void SetMaxThickness(double v) { maxThickness = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   double minThickness = kopC_kUnset;
   double maxThickness = kopC_kUnset;
 };
+
+extern template class fw_PersistentClass<kopC_ThicknessControl, kopC_GeometricRestriction>;

@@ -3,11 +3,12 @@
 #include <cstdint>
 #include <tuple>
 
+#include "framework/fw_PersistentClass.h"
 #include "kop/kopC_GeometricRestriction.h"
 #include "kop/kopC_Enums.h"
 #include "platform/model/rgnC_Region.h"
 
-class kopC_TranslationalSymmetry : public kopC_GeometricRestriction {
+class kopC_TranslationalSymmetry : public fw_PersistentClass<kopC_TranslationalSymmetry, kopC_GeometricRestriction> {
  public:
   using BaseClass = kopC_GeometricRestriction;
   using RootClass = kopC_GeometricRestriction;
@@ -27,14 +28,8 @@ class kopC_TranslationalSymmetry : public kopC_GeometricRestriction {
 
   kopC_TranslationalSymmetry() = default;
   explicit kopC_TranslationalSymmetry(const cls_ReadVisitor& reader);
-  void DBWrite(const cls_WriteVisitor& w) const override;
-  kopC_TranslationalSymmetry* Copy() const override;
   void AssertValid() const override;
   unsigned ClassTypeId() const override { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const kopC_TranslationalSymmetry& o) const;
-  bool operator!=(const kopC_TranslationalSymmetry& o) const { return !(*this == o); }
 
   const rgnC_Region& GetRegion() const { return region; }
   void SetRegion(const rgnC_Region& v) { region = v; }
@@ -43,11 +38,10 @@ class kopC_TranslationalSymmetry : public kopC_GeometricRestriction {
   double GetTranslation() const { return translation; }
   void SetTranslation(double v) { translation = v; }
 
- protected:
-  bool SameAs(const kopC_GeometricRestriction& o) const override;
-
  private:
   rgnC_Region region;
   std::int32_t csys = 0;
   double translation = 1.0;
 };
+
+extern template class fw_PersistentClass<kopC_TranslationalSymmetry, kopC_GeometricRestriction>;

@@ -3,6 +3,7 @@
 // how quickly an element becomes active.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/cow_String.h"
 #include "platform/base/omu_PrimEnum.h"
@@ -13,7 +14,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class ktbC_ActivateElem : public mem_Allocated {
+class ktbC_ActivateElem : public fw_PersistentClass<ktbC_ActivateElem, mem_Allocated> {
  public:
   // Elements become active at once (INSTANTANEOUS) or over "timeConstantValue" (SPECIFIED).
   enum class timeConstantEnum : std::int32_t { INSTANTANEOUS = 0, SPECIFIED = 1 };
@@ -38,14 +39,8 @@ class ktbC_ActivateElem : public mem_Allocated {
   ktbC_ActivateElem() = default;
   explicit ktbC_ActivateElem(const cls_ReadVisitor& reader);
   virtual ~ktbC_ActivateElem() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_ActivateElem* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_ActivateElem& o) const;
-  bool operator!=(const ktbC_ActivateElem& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   const cow_String& GetEventSeries() const { return eventSeries; }
@@ -61,3 +56,5 @@ class ktbC_ActivateElem : public mem_Allocated {
   double timeConstantValue = 0.0;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_ActivateElem, mem_Allocated>;

@@ -2,6 +2,7 @@
 // A table of typed columns: a label and its columns in order.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "ktb/ktbC_DataColumnList.h"
 #include "platform/base/cow_String.h"
@@ -12,7 +13,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class ktbC_CompositeColTable : public mem_Allocated {
+class ktbC_CompositeColTable : public fw_PersistentClass<ktbC_CompositeColTable, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "ktbC_CompositeColTable";
   static constexpr const char* kScriptName = "DataTable";
@@ -33,14 +34,8 @@ class ktbC_CompositeColTable : public mem_Allocated {
   ktbC_CompositeColTable() = default;
   explicit ktbC_CompositeColTable(const cls_ReadVisitor& reader);
   virtual ~ktbC_CompositeColTable() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_CompositeColTable* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_CompositeColTable& o) const;
-  bool operator!=(const ktbC_CompositeColTable& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   const cow_String& GetLabel() const { return label; }
@@ -56,3 +51,5 @@ class ktbC_CompositeColTable : public mem_Allocated {
   ktbC_DataColumnList columns;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_CompositeColTable, mem_Allocated>;

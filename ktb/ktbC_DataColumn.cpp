@@ -1,13 +1,8 @@
 #include "ktb/ktbC_DataColumn.h"
 
-#include "framework/fw_FieldTable.h"
+#include "framework/fw_PersistentClassImpl.h"
 
 ktbC_DataColumn::ktbC_DataColumn(const cls_ReadVisitor& reader) : uid(reader.GetUid()) { fw_ReadFields(*this, reader); }
-void ktbC_DataColumn::DBWrite(const cls_WriteVisitor& w) const { fw_WriteFields(*this, w); }
-ktbC_DataColumn* ktbC_DataColumn::Copy() const { return new ktbC_DataColumn(*this); }
-bool ktbC_DataColumn::operator==(const ktbC_DataColumn& o) const { return fw_EqualFields(*this, o); }
-void ktbC_DataColumn::InitializeMetadata(cls_ClassRegistrar& r) { fw_InitializeMetadata<ktbC_DataColumn>(r); }
-void ktbC_DataColumn::CowDtor(void* p) { fw_CowDtor<ktbC_DataColumn>(p); }
 
 void ktbC_DataColumn::AssertValid() const {
   // The module has no error table: every combination of members is a table a user may mean.
@@ -20,3 +15,5 @@ std::size_t ktbC_DataColumn::Size() const {
     default: return column_float.size();
   }
 }
+
+template class fw_PersistentClass<ktbC_DataColumn, mem_Allocated>;

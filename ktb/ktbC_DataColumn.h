@@ -3,6 +3,7 @@
 // belongs to its type; the lists of the other types stay empty.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/cow_List.h"
 #include "platform/base/cow_String.h"
@@ -14,7 +15,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class ktbC_DataColumn : public mem_Allocated {
+class ktbC_DataColumn : public fw_PersistentClass<ktbC_DataColumn, mem_Allocated> {
  public:
   // The type of the values; INTEGER values are kept in "column_int", FLOAT ones in
   // "column_float", STRING ones in "column_str".
@@ -42,14 +43,8 @@ class ktbC_DataColumn : public mem_Allocated {
   ktbC_DataColumn() = default;
   explicit ktbC_DataColumn(const cls_ReadVisitor& reader);
   virtual ~ktbC_DataColumn() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_DataColumn* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_DataColumn& o) const;
-  bool operator!=(const ktbC_DataColumn& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   std::int32_t GetColId() const { return colId; }
@@ -76,3 +71,5 @@ class ktbC_DataColumn : public mem_Allocated {
   cow_List<cow_String> column_str;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_DataColumn, mem_Allocated>;

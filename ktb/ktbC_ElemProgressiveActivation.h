@@ -3,6 +3,7 @@
 // deformation, how the free surface is tracked, and the activation records.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "ktb/ktbC_ActivateElem.h"
 #include "platform/base/cow_COW.h"
@@ -16,7 +17,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class ktbC_ElemProgressiveActivation : public mem_Allocated {
+class ktbC_ElemProgressiveActivation : public fw_PersistentClass<ktbC_ElemProgressiveActivation, mem_Allocated> {
  public:
   // How the free surface of the active elements is tracked: from the exposed element facets
   // (FACET), or not at all (NONE).
@@ -44,14 +45,8 @@ class ktbC_ElemProgressiveActivation : public mem_Allocated {
   ktbC_ElemProgressiveActivation() = default;
   explicit ktbC_ElemProgressiveActivation(const cls_ReadVisitor& reader);
   virtual ~ktbC_ElemProgressiveActivation() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_ElemProgressiveActivation* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_ElemProgressiveActivation& o) const;
-  bool operator!=(const ktbC_ElemProgressiveActivation& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   const rgnC_Region& GetElset() const { return elset; }
@@ -70,3 +65,5 @@ class ktbC_ElemProgressiveActivation : public mem_Allocated {
   cow_List<ActivationHandle> activations;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_ElemProgressiveActivation, mem_Allocated>;

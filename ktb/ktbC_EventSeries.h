@@ -4,6 +4,7 @@
 // created in the step "createStepName"; its positions pass through "transformations" in order.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_COW.h"
@@ -18,7 +19,7 @@ class cls_WriteVisitor;
 class cls_ClassRegistrar;
 class ktbC_Transformation;
 
-class ktbC_EventSeries : public mem_Allocated {
+class ktbC_EventSeries : public fw_PersistentClass<ktbC_EventSeries, mem_Allocated> {
  public:
   // Whether the event times count from the start of the step or of the analysis.
   enum class TimeSpanEnm : std::int32_t { STEP_TIME = 0, TOTAL_TIME = 1 };
@@ -57,14 +58,8 @@ class ktbC_EventSeries : public mem_Allocated {
   ktbC_EventSeries& operator=(const ktbC_EventSeries& o);
   explicit ktbC_EventSeries(const cls_ReadVisitor& reader);
   virtual ~ktbC_EventSeries();
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_EventSeries* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_EventSeries& o) const;
-  bool operator!=(const ktbC_EventSeries& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   const cow_String& GetEventSeriesType() const { return eventSeriesType; }
@@ -89,3 +84,5 @@ class ktbC_EventSeries : public mem_Allocated {
   cow_List<TransformationHandle> transformations;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_EventSeries, mem_Allocated>;

@@ -3,6 +3,7 @@
 // "fieldNums" field values.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/persist/cls_Uid.h"
@@ -11,7 +12,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class ktbC_EventSeriesType : public mem_Allocated {
+class ktbC_EventSeriesType : public fw_PersistentClass<ktbC_EventSeriesType, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "ktbC_EventSeriesType";
   static constexpr const char* kScriptName = "EventSeriesType";
@@ -29,14 +30,8 @@ class ktbC_EventSeriesType : public mem_Allocated {
   ktbC_EventSeriesType() = default;
   explicit ktbC_EventSeriesType(const cls_ReadVisitor& reader);
   virtual ~ktbC_EventSeriesType() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_EventSeriesType* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_EventSeriesType& o) const;
-  bool operator!=(const ktbC_EventSeriesType& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   std::int32_t GetFieldNums() const { return fieldNums; }
@@ -46,3 +41,5 @@ class ktbC_EventSeriesType : public mem_Allocated {
   std::int32_t fieldNums = 0;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_EventSeriesType, mem_Allocated>;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/cow_List.h"
 #include "platform/base/cow_String.h"
@@ -17,7 +18,7 @@ class cls_WriteVisitor;
 class cls_ClassRegistrar;
 struct cls_ScriptField;
 
-class ktbC_ParameterColumn : public mem_Allocated {
+class ktbC_ParameterColumn : public fw_PersistentClass<ktbC_ParameterColumn, mem_Allocated> {
  public:
   // The type of the parameter; INTEGER values are kept in "paramDefaultVal_int" and
   // "paramAllowedVal_int", FLOAT and STRING ones in the lists of their own suffix.
@@ -53,14 +54,8 @@ class ktbC_ParameterColumn : public mem_Allocated {
   ktbC_ParameterColumn() = default;
   explicit ktbC_ParameterColumn(const cls_ReadVisitor& reader);
   virtual ~ktbC_ParameterColumn() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_ParameterColumn* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_ParameterColumn& o) const;
-  bool operator!=(const ktbC_ParameterColumn& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   const cow_String& GetParamName() const { return paramName; }
@@ -97,3 +92,5 @@ class ktbC_ParameterColumn : public mem_Allocated {
   cow_List<cow_String> paramAllowedVal_str;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_ParameterColumn, mem_Allocated>;

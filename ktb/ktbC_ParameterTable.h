@@ -2,6 +2,7 @@
 // A table of parameter columns: the parameters that index the data of property tables.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "ktb/ktbC_ParameterColumnList.h"
 #include "platform/base/cow_String.h"
@@ -12,7 +13,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class ktbC_ParameterTable : public mem_Allocated {
+class ktbC_ParameterTable : public fw_PersistentClass<ktbC_ParameterTable, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "ktbC_ParameterTable";
   static constexpr const char* kScriptName = "ParameterTable";
@@ -31,14 +32,8 @@ class ktbC_ParameterTable : public mem_Allocated {
   ktbC_ParameterTable() = default;
   explicit ktbC_ParameterTable(const cls_ReadVisitor& reader);
   virtual ~ktbC_ParameterTable() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_ParameterTable* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_ParameterTable& o) const;
-  bool operator!=(const ktbC_ParameterTable& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   const cow_String& GetLabel() const { return label; }
@@ -52,3 +47,5 @@ class ktbC_ParameterTable : public mem_Allocated {
   ktbC_ParameterColumnList parameters;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_ParameterTable, mem_Allocated>;

@@ -3,6 +3,7 @@
 // (by name, in the same collection) and its data by name.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "ktb/ktbC_PropertyTableDataCont.h"
 #include "platform/base/cow_List.h"
@@ -14,7 +15,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class ktbC_PropertyTable : public mem_Allocated {
+class ktbC_PropertyTable : public fw_PersistentClass<ktbC_PropertyTable, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "ktbC_PropertyTable";
   static constexpr const char* kScriptName = "PropertyTable";
@@ -35,14 +36,8 @@ class ktbC_PropertyTable : public mem_Allocated {
   ktbC_PropertyTable() = default;
   explicit ktbC_PropertyTable(const cls_ReadVisitor& reader);
   virtual ~ktbC_PropertyTable() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_PropertyTable* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_PropertyTable& o) const;
-  bool operator!=(const ktbC_PropertyTable& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   const cow_List<cow_String>& GetProperties() const { return properties; }
@@ -59,3 +54,5 @@ class ktbC_PropertyTable : public mem_Allocated {
   ktbC_PropertyTableDataCont propertyTableDataContainer;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_PropertyTable, mem_Allocated>;

@@ -3,6 +3,7 @@
 // temperature when "isTemp" is set, then "numOfFieldVar" field variables and the parameters.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "platform/base/cow_2DArray.h"
 #include "platform/base/cow_String.h"
@@ -14,7 +15,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class ktbC_PropertyTableData : public mem_Allocated {
+class ktbC_PropertyTableData : public fw_PersistentClass<ktbC_PropertyTableData, mem_Allocated> {
  public:
   // Beyond the data: the end values held (CONSTANT), the end slopes continued (LINEAR), or no
   // values at all (NONE).
@@ -48,14 +49,8 @@ class ktbC_PropertyTableData : public mem_Allocated {
   ktbC_PropertyTableData() = default;
   explicit ktbC_PropertyTableData(const cls_ReadVisitor& reader);
   virtual ~ktbC_PropertyTableData() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_PropertyTableData* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_PropertyTableData& o) const;
-  bool operator!=(const ktbC_PropertyTableData& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   const cow_String& GetLabel() const { return label; }
@@ -83,3 +78,5 @@ class ktbC_PropertyTableData : public mem_Allocated {
   cow_2DArray<double> table;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_PropertyTableData, mem_Allocated>;

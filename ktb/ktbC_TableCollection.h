@@ -2,6 +2,7 @@
 // A collection of tables: parameter tables, property tables and data tables, each by name.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "ktb/ktbC_CompositeColTableCont.h"
 #include "ktb/ktbC_ParameterTableCont.h"
@@ -13,7 +14,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class ktbC_TableCollection : public mem_Allocated {
+class ktbC_TableCollection : public fw_PersistentClass<ktbC_TableCollection, mem_Allocated> {
  public:
   static constexpr const char* kClassName = "ktbC_TableCollection";
   static constexpr const char* kScriptName = "TableCollection";
@@ -39,14 +40,8 @@ class ktbC_TableCollection : public mem_Allocated {
   ktbC_TableCollection() = default;
   explicit ktbC_TableCollection(const cls_ReadVisitor& reader);
   virtual ~ktbC_TableCollection() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_TableCollection* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_TableCollection& o) const;
-  bool operator!=(const ktbC_TableCollection& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   const ktbC_ParameterTableCont& GetParameterTableContainer() const { return parameterTableContainer; }
@@ -65,3 +60,5 @@ class ktbC_TableCollection : public mem_Allocated {
   ktbC_CompositeColTableCont dataTables;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_TableCollection, mem_Allocated>;

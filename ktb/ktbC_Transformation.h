@@ -2,6 +2,7 @@
 // One transformation of the positions of an event series.
 #include <cstdint>
 
+#include "framework/fw_PersistentClass.h"
 #include "framework/fw_Field.h"
 #include "ktb/ktbC_EventSeries.h"
 #include "platform/base/cow_List.h"
@@ -13,7 +14,7 @@ class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassRegistrar;
 
-class ktbC_Transformation : public mem_Allocated {
+class ktbC_Transformation : public fw_PersistentClass<ktbC_Transformation, mem_Allocated> {
  public:
   // The kind is the event series' own enumeration.
   using TransformEnm = ktbC_EventSeries::TransformEnm;
@@ -36,14 +37,8 @@ class ktbC_Transformation : public mem_Allocated {
   ktbC_Transformation() = default;
   explicit ktbC_Transformation(const cls_ReadVisitor& reader);
   virtual ~ktbC_Transformation() = default;
-  void DBWrite(const cls_WriteVisitor& w) const;
-  virtual ktbC_Transformation* Copy() const;
   virtual void AssertValid() const;
   unsigned DynTypeId() const { return TypeId(); }
-  static void InitializeMetadata(cls_ClassRegistrar& registrar);
-  static void CowDtor(void* p);
-  bool operator==(const ktbC_Transformation& o) const;
-  bool operator!=(const ktbC_Transformation& o) const { return !(*this == o); }
   const cls_Uid& GetUid() const { return uid; }
 
   TransformEnm GetTransformType() const { return transformType; }
@@ -62,3 +57,5 @@ class ktbC_Transformation : public mem_Allocated {
   double angle = 0.0;
   cls_Uid uid;
 };
+
+extern template class fw_PersistentClass<ktbC_Transformation, mem_Allocated>;

@@ -6,20 +6,10 @@
 #include <type_traits>
 
 #include "platform/persist/cls_ClassRegistrar.h"
+#include "platform/persist/cls_RootOf.h"
 #include "platform/persist/cls_Visitor.h"
 #include "platform/base/nex_Exception.h"
 
-template <class T>
-struct cls_RootOf {
-  using type = T;
-};
-template <class T>
-  requires requires { typename T::RootClass; }
-struct cls_RootOf<T> {
-  using type = typename T::RootClass;
-};
-template <class T>
-using cls_Root = typename cls_RootOf<T>::type;
 
 const cls_ClassMetadata& cls_MetadataOf(const char* className);
 const cls_ClassMetadata& cls_MetadataOf(unsigned typeId);

@@ -195,7 +195,7 @@ TEST_F(KcoValidation, TieRulesJudgedAgainstTheModelComeInTheOrderOfTheirCodes) {
 class UnknownKind : public kcoC_Constraint {
  public:
   void DBWrite(const cls_WriteVisitor&) const override {}
-  UnknownKind* Copy() const override { return new UnknownKind(*this); }
+  kcoC_Constraint* DoCopy() const override { return new UnknownKind(*this); }
   void AssertValid() const override {}
   unsigned ClassTypeId() const override { return fw_TypeId(720, 99); }
 

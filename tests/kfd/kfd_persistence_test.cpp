@@ -1,7 +1,9 @@
 // The field classes as stored: registration, records read back equal, retired
 // layouts carried forward by their converters, and the field repositories in a saved model.
 #include <filesystem>
+#include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -109,6 +111,37 @@ TEST_F(KfdPersistence, RecordsReadBackEqualAndFlagsAreStoredAsFlags) {
   EXPECT_TRUE(again == fields);
   EXPECT_NE(dynamic_cast<const kfdC_ExpressionField*>(again.Fields().ConstGet("AF-1")), nullptr);
   EXPECT_NE(dynamic_cast<const kfdC_MappedField*>(again.Fields().ConstGet("MF-1")), nullptr);
+}
+
+// A copy made through the root or through the abstract analytical level is of the object's own
+// class, equal to it, and separate from it; the class's own Copy is typed as that class.
+TEST_F(KfdPersistence, CopiesThroughEveryLevelAreOfTheMostDerivedClass) {
+  static_assert(std::is_same_v<decltype(std::declval<const kfdC_MappedField&>().Copy()), kfdC_MappedField*>);
+  static_assert(std::is_same_v<decltype(std::declval<const kfdC_AnalyticalField&>().Copy()), kfdC_AnalyticalField*>);
+  kfdC_MappedField mapped = FilledMapped();
+  kfdC_ExpressionField expression;
+  expression.SetExpression("X+Y");
+  kfdC_DiscreteField discrete;
+  const std::vector<std::pair<const kfdC_Field*, const kfdC_AnalyticalField*>> cases = {
+      {&mapped, &mapped}, {&expression, &expression}, {&discrete, nullptr}};
+  for (const auto& [field, analytical] : cases) {
+    SCOPED_TRACE(field->ClassTypeId());
+    const std::unique_ptr<kfdC_Field> viaRoot(field->Copy());
+    EXPECT_EQ(viaRoot->ClassTypeId(), field->ClassTypeId());
+    EXPECT_TRUE(*viaRoot == *field);
+    EXPECT_NE(viaRoot.get(), field);
+    if (analytical) {
+      const std::unique_ptr<kfdC_AnalyticalField> viaLevel(analytical->Copy());
+      EXPECT_EQ(viaLevel->ClassTypeId(), field->ClassTypeId());
+      EXPECT_TRUE(*viaLevel == *field);
+    }
+  }
+  // the copy is separate: changing it leaves the original as it was
+  const std::unique_ptr<kfdC_ExpressionField> copy(expression.Copy());
+  copy->SetExpression("X*Y");
+  EXPECT_EQ(expression.GetExpression(), "X+Y");
+  EXPECT_FALSE(*copy == expression);
+  EXPECT_EQ(copy->GetUid(), expression.GetUid());
 }
 
 // Removes the fields a layout did not have yet and marks the row as stored at that version.

@@ -68,7 +68,7 @@ template <kmaC_OptionClass Class>
 class kmaT_StandIn : public kmaC_MaterialOption {
  public:
   explicit kmaT_StandIn(int failWith = -1) : code_(failWith) {}
-  kmaT_StandIn* Copy() const override { return mem_New<kmaT_StandIn>(*this); }
+  kmaC_MaterialOption* DoCopy() const override { return mem_New<kmaT_StandIn>(*this); }
   void AssertValid() const override {
     if (code_ >= 0) kmaC_Assert(false, static_cast<kmaC_ErrorEnm>(code_));
   }

@@ -311,6 +311,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
         {"BM_UpgradeOpen", "open one version old / current open", "2"},
         {"BM_Validate", "validate every object / bare loop", "2"},
         {"BM_FirstChangeAfterCopy", "first change after a copy / next change", "-"},
+        {"BM_Advice", "advise every object / validate every object", "3"},
     };
     static const char* kSizes[] = {"10000", "100000", "1000000"};
     std::printf("\n%-42s %10s %10s %10s %8s\n", "median ratio", "10^4", "10^5", "10^6", "target");

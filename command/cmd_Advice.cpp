@@ -104,20 +104,55 @@ void cmd_AdviceContext::Reference(const cmd_Path& relative, std::string member, 
 
 // ---- the walk
 
+namespace {
+
+bool AdviceOwnedBy(const cls_ClassMetadata& md, const AdviceEntry& e) {
+  if (md.Name().view() == e.className) return true;
+  const cls_ClassMetadata* base = cls_ClassRegistrar::Instance().ByName(e.className);
+  return base && md.IsA(*base);
+}
+
+}  // namespace
+
+// Whether an object of the class can hold anything advised: its own advisors, a repository's
+// elements, or a member object of a family that can.
+bool cmd_Adviser::Below(const cls_ClassMetadata& md) {
+  Relevance& r = relevance_[&md];
+  if (r == Relevance::kPending) return true;  // a class that holds its own kind: walked, to be sure
+  if (r != Relevance::kUnknown) return r == Relevance::kYes;
+  r = Relevance::kPending;
+  bool below = md.IsRepositoryClass();
+  for (const AdviceEntry& e : AdviceRegistry())
+    if (!below && AdviceOwnedBy(md, e)) below = true;
+  for (const cls_ScriptField* f : md.ObjectFields())
+    if (!below && f->declared && FamilyBelow(*f->declared)) below = true;
+  relevance_[&md] = below ? Relevance::kYes : Relevance::kNo;
+  return below;
+}
+
+// Whether the declared class of a member, or any class derived from it, can.
+bool cmd_Adviser::FamilyBelow(const cls_ClassMetadata& declared) {
+  if (auto found = families_.find(&declared); found != families_.end()) return found->second;
+  bool below = false;
+  for (const cls_ClassMetadata* c : cls_ClassRegistrar::Instance().All())
+    if (!below && c->IsA(declared) && Below(*c)) below = true;
+  families_[&declared] = below;
+  return below;
+}
+
 const cmd_Adviser::Advisors& cmd_Adviser::AdvisorsOf(const cls_ClassMetadata& md) {
-  auto found = cache_.find(&md);
-  if (found != cache_.end()) return found->second;
-  Advisors a;
+  Advisors& a = cache_[&md];
+  if (a.found) return a;
   for (const AdviceEntry& e : AdviceRegistry()) {
-    bool match = md.Name().view() == e.className;
-    if (!match) {
-      const cls_ClassMetadata* base = cls_ClassRegistrar::Instance().ByName(e.className);
-      match = base && md.IsA(*base);
-    }
-    if (match && e.advisor) a.fns.push_back(e.advisor);
-    if (match && !e.advisor) a.refs.push_back(&e);
+    if (!AdviceOwnedBy(md, e)) continue;
+    if (e.advisor) a.fns.push_back(e.advisor);
+    else a.refs.push_back(&e);
   }
-  return cache_.emplace(&md, std::move(a)).first->second;
+  for (const cls_ScriptField* f : md.ObjectFields())
+    if (f->declared && FamilyBelow(*f->declared)) a.members.emplace_back(f, cow_String(f->scriptName));
+  a.below = Below(md);
+  a.found = true;
+  return a;
 }
 
 void cmd_Adviser::AdviseDatabase(const ddr_Database& db) {
@@ -204,9 +239,10 @@ void cmd_Adviser::Repository(const mdl_Repository& repo) {
 
 void cmd_Adviser::Object(const void* obj, const cls_ClassMetadata& md) {
   ++visited_;
+  const Advisors& a = AdvisorsOf(md);
+  if (!a.below) return;  // nothing at or below it is advised
   ctx_.scopes_.push_back({obj, &md, ctx_.path_.size()});
   ctx_.sink_ = &warnings_;
-  const Advisors& a = AdvisorsOf(md);
   // An advisor that fails is a fault of the advice, not of the model: said as a warning, and the
   // walk goes on.
   try {
@@ -226,15 +262,15 @@ void cmd_Adviser::Object(const void* obj, const cls_ClassMetadata& md) {
     ctx_.Warn("", "advice-failed", std::string("The advice on this object stopped: ") + e.what());
   }
   if (const mdl_Repository* repo = md.AsRepository(obj)) Repository(*repo);
-  else Members(obj, md);
+  else Members(obj, a);
   ctx_.scopes_.pop_back();
 }
 
-void cmd_Adviser::Members(const void* obj, const cls_ClassMetadata& md) {
-  for (const cls_ScriptField* f : md.ObjectFields()) {
+void cmd_Adviser::Members(const void* obj, const Advisors& a) {
+  for (const auto& [f, step] : a.members) {
     const void* child = f->child(obj);
-    if (!child || !f->declared) continue;
-    ctx_.path_.emplace_back(f->scriptName);
+    if (!child) continue;
+    ctx_.path_.push_back(step);
     const cls_ClassMetadata& cm = f->declared->ClassOf(child);
     if (const mdl_Repository* repo = cm.AsRepository(child)) Repository(*repo);
     else Object(child, cm);

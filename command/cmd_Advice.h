@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "command/cmd_Path.h"
@@ -92,19 +93,30 @@ class cmd_Adviser {
   const std::vector<cmd_Warning>& Warnings() const noexcept { return warnings_; }
 
  private:
+  // What the walk does at an object of one class, found once per class.
   struct Advisors {
     std::vector<cmd_Advisor> fns;
     std::vector<const void*> refs;  // registered references of the class
+    // The member objects whose declared class (or a class derived from it) has advice of its own
+    // or below it, with their path steps made once; the walk skips the others.
+    std::vector<std::pair<const cls_ScriptField*, cow_String>> members;
+    bool below = false;  // whether anything at or below an object of the class can be advised
+    bool found = false;
   };
+  enum class Relevance { kUnknown, kPending, kNo, kYes };
   void Node(const cmd_Node& node);
   void Model(const ddr_Model& model);
   void Repository(const mdl_Repository& repo);
   void Object(const void* obj, const cls_ClassMetadata& md);
-  void Members(const void* obj, const cls_ClassMetadata& md);
+  void Members(const void* obj, const Advisors& a);
   const Advisors& AdvisorsOf(const cls_ClassMetadata& md);
+  bool Below(const cls_ClassMetadata& md);
+  bool FamilyBelow(const cls_ClassMetadata& declared);
 
   cmd_AdviceContext ctx_;
   std::unordered_map<const cls_ClassMetadata*, Advisors> cache_;
+  std::unordered_map<const cls_ClassMetadata*, Relevance> relevance_;
+  std::unordered_map<const cls_ClassMetadata*, bool> families_;
   std::size_t visited_ = 0;
   std::vector<cmd_Warning> warnings_;
 };

@@ -126,7 +126,11 @@ std::size_t kmaAdvice_ElasticConstants(kmaC_Elastic::TypeEnm type) {
     case T::ENGINEERING_CONSTANTS: return 9;  // E1 E2 E3 nu12 nu13 nu23 G12 G13 G23
     case T::LAMINA: return 6;             // E1 E2 nu12 G12 G13 G23
     case T::TRACTION: return 3;           // Enn Ess Ett
+    case T::COUPLED_TRACTION: return 6;   // Enn Ess Ett Ens Ent Est
     case T::SHEAR: return 1;              // G
+    case T::TRANSVERSELY_ISOTROPIC: return 5;  // five independent constants, whatever their order
+    // A short-fiber or bilamina table's columns depend on the homogenization or the tension and
+    // compression split the analysis applies: no count to hold it to.
     default: return 0;
   }
 }
@@ -143,7 +147,8 @@ void kmaAdvice_Elastic(const kmaC_Elastic& e, cmd_AdviceContext& ctx) {
     case T::ANISOTROPIC: moduli = {{0, "D1111"}, {2, "D2222"}, {5, "D3333"}, {9, "D1212"}, {14, "D1313"}, {20, "D2323"}}; break;
     case T::ENGINEERING_CONSTANTS: moduli = {{0, "E1"}, {1, "E2"}, {2, "E3"}, {6, "G12"}, {7, "G13"}, {8, "G23"}}; break;
     case T::LAMINA: moduli = {{0, "E1"}, {1, "E2"}, {3, "G12"}, {4, "G13"}, {5, "G23"}}; break;
-    case T::TRACTION: moduli = {{0, "Enn"}, {1, "Ess"}, {2, "Ett"}}; break;
+    case T::TRACTION:
+    case T::COUPLED_TRACTION: moduli = {{0, "Enn"}, {1, "Ess"}, {2, "Ett"}}; break;
     case T::SHEAR: moduli = {{0, "shear modulus"}}; break;
     default: break;
   }

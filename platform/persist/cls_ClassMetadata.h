@@ -100,6 +100,8 @@ class cls_ClassMetadata {
   // class is not one; lets the command layer walk into containers nested in objects.
   virtual mdl_Repository* AsRepository(void* obj) const;
   virtual const mdl_Repository* AsRepository(const void* obj) const;
+  // Whether instances of the class are repositories (what AsRepository answers, without one).
+  virtual bool IsRepositoryClass() const { return false; }
   void Destroy(void* obj) const;
   // A step of a path that names no member of obj (an instance of this class): throws the
   // refusal of the class's own shortcuts when they have one ("Unknown material option"), and

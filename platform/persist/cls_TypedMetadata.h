@@ -74,6 +74,7 @@ class cls_TypedMetadata : public cls_ClassMetadata {
     if constexpr (requires(const C& c) { c.RepositoryFace(); }) return Obj(p).RepositoryFace();
     else return nullptr;
   }
+  bool IsRepositoryClass() const override { return requires(const C& c) { c.RepositoryFace(); }; }
   // A class (or the base of a family) that refuses unknown steps itself declares
   // static void RefuseUnknownStep(const Base&, std::string_view).
   void RefuseUnknownStep(const void* p, std::string_view step) const override {

@@ -16,6 +16,7 @@
 #include <set>
 
 #include "platform/persist/cls_ClassRegistrar.h"
+#include "dbfile/dbf_ReaderLiterals.h"
 #include "dbfile/dbf_RowReader.h"
 #include "dbfile/dbf_Utf8.h"
 #include "dbfile/dbf_TableBlob.h"
@@ -257,6 +258,7 @@ void dbf_Reader::ReadCatalog() {
     }
     for (std::size_t i = 0; i < t->fields.size(); ++i) {
       if (t->fields[i].type == cls_AttrEnum) {
+        if (t->cls && !t->upgrade) t->fields[i].allowed = dbf_LiteralsOf(*t->cls, t->fields[i].name);
         t->fields[i].literals.reserve(dbf_ReadField::kMaxLiterals);
         t->fields[i].views.reserve(dbf_ReadField::kMaxLiterals);
         t->fields[i].codes.reserve(dbf_ReadField::kMaxLiterals);

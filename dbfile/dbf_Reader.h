@@ -35,6 +35,10 @@ struct dbf_ReadField {
   std::vector<cow_String> literals;
   std::vector<std::string_view> views;  // the literals' texts side by side, searched row by row
   std::vector<cls_LiteralCode> codes;
+  // The literals today's class takes in the field, where the row is read as stored (not
+  // upgraded): a literal first met is checked against them, so that a bad one is refused naming
+  // the field, the row and the class. Null where the row is upgraded first or the field unknown.
+  const omu_EnumLiteral* allowed = nullptr;
   static constexpr std::size_t kMaxLiterals = 64;
 };
 

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <limits>
 
+#include "dbfile/dbf_ReaderLiterals.h"
 #include "dbfile/dbf_ReaderSupport.h"
 #include "dbfile/dbf_RowReader.h"
 #include "dbfile/dbf_TableBlob.h"
@@ -168,6 +169,7 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
             ++k;
           if (k == known) {
             CheckUtf8(t, row.oid, f, text);  // a literal met again was checked when first met
+            if (f.allowed) dbf_CheckLiteral(t, row.oid, f.name, f.allowed, text);
             if (k < dbf_ReadField::kMaxLiterals) {
               f.literals.emplace_back(text);
               f.views.push_back(f.literals.back().view());  // the body stays where it is

@@ -18,6 +18,15 @@ void HexUid(const cls_Uid& uid, char* out) {
 
 }  // namespace
 
+// What no command can name, change or delete is not written: a NUL in stored text would be
+// refused when the file is opened again.
+void dbf_RowWriter::RefuseNul(std::size_t field, std::string_view text) const {
+  const std::size_t at = text.find('\0');
+  if (at == std::string_view::npos) return;
+  nex_ThrowCmd("the field \"" + table_->fields[field].name + "\" of an object of class " + ClassName() +
+               " holds text with a NUL character (at offset " + std::to_string(at) + ")");
+}
+
 std::string dbf_RowWriter::ClassName() const { return table_ ? table_->cls->Name().str() : std::string("?"); }
 
 bool dbf_RowWriter::StartWrite(unsigned typeId, const cls_Uid& uid) const {
@@ -99,7 +108,9 @@ void dbf_RowWriter::WriteDoubleList(const char* name, const std::vector<double>&
   dbf_AppendDoubleList(c.bytes, v);
 }
 void dbf_RowWriter::WriteStringList(const char* name, const std::vector<cow_String>& v) const {
-  Cell& c = cells_[Slot(name, dbf_Kind::TextList)];
+  const std::size_t i = Slot(name, dbf_Kind::TextList);
+  for (const cow_String& e : v) RefuseNul(i, e.view());
+  Cell& c = cells_[i];
   c.bytes.clear();
   dbf_AppendTextList(c.bytes, v);
 }
@@ -159,7 +170,9 @@ dbf_Ref dbf_RowWriter::Finish() {
         if (std::isnan(v.number)) sqlite3_bind_null(s, p);  // SQLite would store NULL anyway
         else sqlite3_bind_double(s, p, v.number);
         break;
-      case dbf_Kind::Text: sqlite3_bind_text(s, p, v.text, static_cast<int>(v.size), SQLITE_STATIC); break;
+      case dbf_Kind::Text:
+        if (v.size && std::memchr(v.text, 0, v.size)) RefuseNul(i, std::string_view(v.text, v.size));
+        sqlite3_bind_text(s, p, v.text, static_cast<int>(v.size), SQLITE_STATIC); break;
       case dbf_Kind::Table: sqlite3_bind_blob(s, p, c.bytes.data(), static_cast<int>(c.bytes.size()), SQLITE_STATIC); break;
       case dbf_Kind::Object:
         if (c.ref.oid == 0) {

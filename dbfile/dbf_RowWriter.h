@@ -4,6 +4,7 @@
 // stored first, as rows of their own classes, and referenced by OID and class id.
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/persist/cls_Visitor.h"
@@ -41,6 +42,7 @@ class dbf_RowWriter final : public cls_WriteVisitor {
     dbf_Ref ref;
   };
   std::size_t Slot(const char* name, dbf_Kind kind) const;
+  void RefuseNul(std::size_t field, std::string_view text) const;
   std::string ClassName() const;
 
   dbf_Writer& writer_;

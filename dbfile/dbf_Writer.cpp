@@ -51,6 +51,10 @@ void dbf_Writer::RowStored() {
 }
 
 void dbf_Writer::WriteRoot(const cow_String& name, const cls_ClassMetadata& cls, const void* object) {
+  // The names a file may hold are the ones opening takes back.
+  if (name.empty()) nex_ThrowCmd("a model has an empty name");
+  if (const std::size_t at = name.view().find('\0'); at != std::string_view::npos)
+    nex_ThrowCmd("a model name holds a NUL character (at offset " + std::to_string(at) + ")");
   dbf_RowWriter& w = WriterAt(0);
   cls.Write(object, w);
   dbf_Ref ref = w.Finish();

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <pybind11/stl.h>
 
+#include "python/py_Text.h"
 #include "python/py_Types.h"
 
 namespace qmxpy {
@@ -18,11 +19,11 @@ void BindRepository(py::module_& m) {
            [](const Repository& r, py::handle key) {
              return py::isinstance<py::str>(key) && RepositoryHas(r, TextOf(key));
            })
-      .def("__getitem__", [](const Repository& r, const std::string& key) { return Element(r.session, Append(r.path, key)); })
-      .def("__setitem__", [](const Repository& r, const std::string& key, py::handle value) { PutElement(r, key, value); })
-      .def("__delitem__", [](const Repository& r, const std::string& key) { DeleteElement(*r.session, Append(r.path, key)); })
+      .def("__getitem__", [](const Repository& r, Utf8 key) { return Element(r.session, Append(r.path, key)); })
+      .def("__setitem__", [](const Repository& r, Utf8 key, py::handle value) { PutElement(r, key, value); })
+      .def("__delitem__", [](const Repository& r, Utf8 key) { DeleteElement(*r.session, Append(r.path, key)); })
       .def("get",
-           [](const Repository& r, const std::string& key, py::object fallback) -> py::object {
+           [](const Repository& r, Utf8 key, py::object fallback) -> py::object {
              if (!RepositoryHas(r, key)) return fallback;
              return Element(r.session, Append(r.path, key));
            },
@@ -58,11 +59,11 @@ void BindModel(py::module_& m) {
       .def("repositories", [](const Model& self) { return ModelRepositories(self); },
            "The scripting names of the model's repositories.")
       .def("__getattr__",
-           [](const Model& self, const std::string& name) -> py::object {
-             if (name.starts_with("__")) throw py::attribute_error(name);
+           [](const Model& self, Utf8 name) -> py::object {
+             if (name.text.starts_with("__")) throw py::attribute_error(name.text);
              return ModelRepository(self, name);
            })
-      .def("__getitem__", [](const Model& self, const std::string& name) { return ModelRepository(self, name); })
+      .def("__getitem__", [](const Model& self, Utf8 name) { return ModelRepository(self, name); })
       .def("__dir__", [](py::handle self) { return Dir(self, py::cast(ModelRepositories(self.cast<const Model&>()))); })
       .def("advise", [](const Model& self) { return Advise(*self.session, cmd_Path{self.name}); },
            "The warnings of the advice on every object of the model.")
@@ -77,20 +78,20 @@ void BindDatabase(py::module_& m) {
   py::class_<Database> database(m, "Database", "A database of models, saved to and opened from a model database file.");
   database.def(py::init<>())
       .def_static("open",
-                  [](const std::string& file) {
+                  [](Utf8 file) {
                     Database db;
                     cmd_Json c = cmd_Json::object();
                     c["op"] = "open";
-                    c["file"] = file;
+                    c["file"] = file.text;
                     Run(*db.session, std::move(c));
                     return db;
                   },
                   py::arg("path"), "Opens a model database file (upgrading rows of older versions in memory).")
       .def("save",
-           [](const Database& db, const std::string& file, bool overwrite) {
+           [](const Database& db, Utf8 file, bool overwrite) {
              cmd_Json c = cmd_Json::object();
              c["op"] = "save";
-             c["file"] = file;
+             c["file"] = file.text;
              if (overwrite) c["overwrite"] = true;
              Run(*db.session, std::move(c));
            },
@@ -98,9 +99,9 @@ void BindDatabase(py::module_& m) {
            "Saves every model into a model database file, atomically. A file that another process saved "
            "since this database opened or saved it is refused unless overwrite is true.")
       .def("create_model",
-           [](const Database& db, const std::string& name) {
-             Run(*db.session, Command("create", cmd_Path{cow_String(name)}));
-             return Model{db.session, cow_String(name)};
+           [](const Database& db, Utf8 name) {
+             Run(*db.session, Command("create", cmd_Path{cow_String(name.text)}));
+             return Model{db.session, cow_String(name.text)};
            },
            py::arg("name"))
       .def("keys", [](const Database& db) { return Keys(*db.session, cmd_Path{}); })
@@ -108,16 +109,16 @@ void BindDatabase(py::module_& m) {
       .def("__len__", [](const Database& db) { return Keys(*db.session, cmd_Path{}).size(); })
       .def("__contains__",
            [](const Database& db, py::handle key) {
-             return py::isinstance<py::str>(key) && Contains(Keys(*db.session, cmd_Path{}), key.cast<std::string>());
+             return py::isinstance<py::str>(key) && Contains(Keys(*db.session, cmd_Path{}), TextOf(key));
            })
       .def("__getitem__",
-           [](const Database& db, const std::string& name) {
-             Guarded([&] { cmd_WalkConst(db.session->Database(), cmd_Path{cow_String(name)}, [](const cmd_Node&) {}); },
+           [](const Database& db, Utf8 name) {
+             Guarded([&] { cmd_WalkConst(db.session->Database(), cmd_Path{cow_String(name.text)}, [](const cmd_Node&) {}); },
                      "NotFoundError");
-             return Model{db.session, cow_String(name)};
+             return Model{db.session, cow_String(name.text)};
            })
-      .def("__delitem__", [](const Database& db, const std::string& name) {
-        DeleteElement(*db.session, cmd_Path{cow_String(name)});
+      .def("__delitem__", [](const Database& db, Utf8 name) {
+        DeleteElement(*db.session, cmd_Path{cow_String(name.text)});
       })
       .def("advise", [](const Database& db) { return Advise(*db.session, cmd_Path{}); },
            "The warnings of the advice on every object of every model: dicts of path, member, code and message.")

@@ -6,6 +6,7 @@
 
 #include "command/cmd_Check.h"
 #include "platform/persist/cls_ClassRegistrar.h"
+#include "python/py_Text.h"
 #include "python/py_Types.h"
 
 namespace qmxpy {
@@ -27,17 +28,17 @@ void BindObject(py::module_& m) {
              self.session.reset();
            })
       .def("__getattr__",
-           [](const Object& self, const std::string& name) -> py::object {
-             if (name.starts_with("__")) throw py::attribute_error(name);
+           [](const Object& self, Utf8 name) -> py::object {
+             if (name.text.starts_with("__")) throw py::attribute_error(name.text);
              if (!self.root && !self.session) Raise("CmdException", kNoConstructor, "py_BindObject.cpp", __LINE__, nullptr, "MemberError");
              return GetMember(self, name);
            })
-      .def("__setattr__", [](const Object& self, const std::string& name,
+      .def("__setattr__", [](const Object& self, Utf8 name,
                              py::handle value) { SetMember(self, name, value); })
-      .def("__delattr__", [](const Object& self, const std::string& name) { SetMember(self, name, py::none()); })
-      .def("__getitem__", [](const Object& self, const std::string& name) { return GetMember(self, name); })
+      .def("__delattr__", [](const Object& self, Utf8 name) { SetMember(self, name, py::none()); })
+      .def("__getitem__", [](const Object& self, Utf8 name) { return GetMember(self, name); })
       .def("__setitem__",
-           [](const Object& self, const std::string& name, py::handle value) { SetMember(self, name, value); })
+           [](const Object& self, Utf8 name, py::handle value) { SetMember(self, name, value); })
       .def("__dir__", [](py::handle self) { return Dir(self, Members(ClassOf(self.cast<const Object&>()))); })
       .def("__repr__", [](const Object& self) { return self.root || self.session ? Repr(self) : std::string("Object()"); })
       .def("__eq__",

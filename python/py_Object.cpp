@@ -40,12 +40,18 @@ Found Resolve(const Object& o, bool modify) {
   return f;
 }
 
+// The class of a view's object, which must still be the object the view was made for.
 const cls_ClassMetadata& BoundClass(const Object& o) {
   const cls_ClassMetadata* md = nullptr;
+  cls_Uid uid = cls_Uid::Null();
   cmd_WalkConst(o.session->Database(), o.path, [&](const cmd_Node& n) {
     if (n.kind != cmd_Node::kObject) cmd_Refuse(cmd_PathText(o.path) + " names no object");
     md = n.md;
+    uid = n.md->UidOf(n.obj);
   });
+  if (o.md && (md != o.md || uid != o.uid))
+    cmd_Refuse("This view of " + cmd_ClassLabel(*o.md) + " at " + cmd_PathText(o.path) +
+               " is stale: the object there was replaced since; take it from its repository again");
   return *md;
 }
 
@@ -74,6 +80,16 @@ const char* ConstructorKey(const cls_ClassMetadata& md) { return md.FindScriptFi
 const cls_ClassMetadata& ClassOf(const Object& o) {
   Live(o);
   return Guarded([&]() -> const cls_ClassMetadata& { return o.root ? *Resolve(o, false).md : BoundClass(o); });
+}
+
+void Identify(Object& o) {
+  Guarded([&] {
+    cmd_WalkConst(o.session->Database(), o.path, [&](const cmd_Node& n) {
+      if (n.kind != cmd_Node::kObject) return;
+      o.md = n.md;
+      o.uid = n.md->UidOf(n.obj);
+    });
+  });
 }
 
 py::object Detached(const cls_ClassMetadata& md, void* obj) {
@@ -118,7 +134,7 @@ py::object GetMember(const Object& o, const std::string& name) {
     cmd_WalkConst(o.session->Database(), path, [&](const cmd_Node& n) {
       switch (n.kind) {
         case cmd_Node::kObject:
-          result = Wrap(*n.md, Object{o.session, nullptr, path});
+          result = Wrap(*n.md, Object{o.session, nullptr, path, n.md, n.md->UidOf(n.obj)});
           break;
         case cmd_Node::kRepository:
           result = py::cast(Repository{o.session, path});
@@ -191,6 +207,7 @@ py::object Validate(const Object& o) {
     });
     return py::none();
   }
+  ClassOf(o);  // a stale view refuses
   Run(*o.session, Command("validate", o.path));
   return py::none();
 }
@@ -202,6 +219,7 @@ cmd_Json ObjectToJson(const Object& o) {
       return cmd_ObjectToJson(at.obj, *at.md);
     });
   }
+  ClassOf(o);  // a stale view refuses
   return Run(*o.session, Command("get", o.path));
 }
 
@@ -256,7 +274,10 @@ py::object Advise(cmd_Session& s, const cmd_Path& path) {
 }
 
 py::object AdviseObject(const Object& o) {
-  if (!Live(o).root) return Advise(*o.session, o.path);
+  if (!Live(o).root) {
+    ClassOf(o);  // a stale view refuses
+    return Advise(*o.session, o.path);
+  }
   return Guarded([&] {
     Found at = Resolve(o, false);
     cmd_Adviser adviser;

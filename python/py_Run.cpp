@@ -48,6 +48,7 @@ py::object Wrap(const cls_ClassMetadata& md, Object o) {
   py::object cls = Classes().contains(name) ? py::object(Classes()[name]) : ObjectBase();
   py::object self = cls.attr("__new__")(cls);
   ObjectBase().attr("__init__")(self);
+  if (o.session && !o.root && !o.md) Identify(o);
   self.cast<Object&>() = std::move(o);
   return self;
 }

@@ -30,6 +30,10 @@ struct Object {
   Session session;
   std::shared_ptr<Root> root;
   cmd_Path path;
+  // A view's object as the view was made: its class and uid. A view whose path has come to hold
+  // another object (deleted and made again, or another class) refuses rather than show it.
+  const cls_ClassMetadata* md = nullptr;
+  cls_Uid uid = cls_Uid::Null();
 };
 
 struct Model {
@@ -69,6 +73,8 @@ py::list Dir(py::handle self, const py::list& extra);
 inline constexpr const char* kNoConstructor =
     "An object is made by the constructor of its class, such as CircularProfile(r=1.0)";
 const cls_ClassMetadata& ClassOf(const Object& o);
+// Records the identity of a view's object (its class and uid), found by its path.
+void Identify(Object& o);
 py::object Detached(const cls_ClassMetadata& md, void* obj);
 py::object GetMember(const Object& o, const std::string& name);
 void SetMember(const Object& o, const std::string& name, py::handle value);

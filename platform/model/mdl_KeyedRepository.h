@@ -11,6 +11,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "platform/persist/cls_Family.h"
@@ -86,6 +87,10 @@ class mdl_KeyedRepository : public mem_Allocated,
   mdl_KeyedRepository& operator=(mdl_KeyedRepository&&) = default;
   explicit mdl_KeyedRepository(const cls_ReadVisitor& r) : uid_(r.GetUid()) {
     std::vector<Key> keys = KeyPolicy::Read(r);
+    // No command can create or address an element without a name; a file may not bring one in.
+    if constexpr (std::is_same_v<Key, cow_String>)
+      for (const Key& k : keys)
+        if (k.empty()) nex_ThrowCmd(std::string("The stored container ") + kClassName + " holds an empty key");
     // Keys are stored in the map's order, so the tree is built in one pass. How far that order
     // holds is counted now, while the keys are fresh in the cache, not after the elements load.
     const typename KeyPolicy::Less less;

@@ -184,8 +184,12 @@ TEST_F(DbRefusal, RowsThatContradictTheFormat) {
   };
   const Case cases[] = {
       {"unknown literal", "UPDATE kadC_AdptMeshCtrl SET advection = 'SIDEWAYS' WHERE OID = 3",
-       "omu_PrimEnum(const cow_String&) - str not allowed: SIDEWAYS  Permissible: FIRST_ORDER_ADVECTION, "
-       "SECOND_ORDER_ADVECTION"},
+       "the file is damaged (the field \"advection\" of row 3 of class kadC_AdptMeshCtrl holds the literal "
+       "\"SIDEWAYS\", which is none of FIRST_ORDER_ADVECTION, SECOND_ORDER_ADVECTION)"},
+      // Rows before it hold good literals of the same field, already met and kept.
+      {"unknown literal after good ones", "UPDATE kadC_AdptMeshCtrl SET smoothingAlgorithm = 'GEOMETRY' WHERE OID = 300",
+       "the file is damaged (the field \"smoothingAlgorithm\" of row 300 of class kadC_AdptMeshCtrl holds the "
+       "literal \"GEOMETRY\", which is none of STANDARD, GEOMETRY_ENHANCED, ANALYSIS_PRODUCT_DEFAULT)"},
       {"text for a number", "UPDATE kadC_AdptMeshCtrl SET initialFeatureAngle = 'wide' WHERE OID = 3",
        "the file is damaged (the field \"initialFeatureAngle\" of row 3 of class kadC_AdptMeshCtrl holds no number)"},
       {"number too large for an int", "UPDATE dbtT_Sample SET count = 4294967296 WHERE OID = 1",
@@ -249,6 +253,8 @@ TEST_F(DbRefusal, RowsThatContradictTheFormat) {
        "the field \"note\" of row 1 of class dbtT_Detail holds text with a NUL character (at offset 1)"},
       {"a key with a NUL", "UPDATE kadC_AdptMeshCtrlCont SET keys = json_set(keys, '$[0]', 'C' || char(0) || '1')",
        "the field \"keys\" of row 1 of class kadC_AdptMeshCtrlCont holds text with a NUL character (at offset 1)"},
+      {"an empty key", "UPDATE kadC_AdptMeshCtrlCont SET keys = json_set(keys, '$[299]', '')",
+       "The stored container kadC_AdptMeshCtrlCont holds an empty key"},
       {"a root that is no model",
        "INSERT INTO dbf_Roots VALUES ('Stray', 1, " + std::to_string(dbtT_Detail::TypeId()) + ")",
        "the file holds a dbtT_Detail under the name \"Stray\", where a ddr_Model belongs"},

@@ -1,5 +1,6 @@
 #include "dbfile/dbf_Roots.h"
 
+#include <optional>
 #include <set>
 
 #include "platform/persist/dbc_Converter.h"
@@ -36,9 +37,18 @@ void Save(const std::vector<dbf_Root>& roots, const std::string& path, const dbf
   std::int64_t rows = 0;
   {
     // NOMUTEX: the connection never leaves this thread, so SQLite need not lock each call.
-    dbf_Connection conn(file.TempPath(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX,
-                        dbf_ChecksumVfs());
-    conn.Exec(std::string("PRAGMA page_size = ") + std::to_string(page));
+    std::optional<dbf_Connection> opened;
+    try {
+      opened.emplace(file.TempPath(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX,
+                     dbf_ChecksumVfs());
+      opened->Exec(std::string("PRAGMA page_size = ") + std::to_string(page));
+    } catch (const std::exception&) {
+      // SQLite says no more than "unable to open database file": a directory that takes no new
+      // file is named as such, with the system's reason.
+      dbf_CheckWritable(file.Target());
+      throw;
+    }
+    dbf_Connection& conn = *opened;
     int reserve = dbf_kChecksumBytes, reserved = -1;
     sqlite3_file_control(conn.Get(), "main", SQLITE_FCNTL_RESERVE_BYTES, &reserve);
     sqlite3_file_control(conn.Get(), "main", SQLITE_FCNTL_RESERVE_BYTES, &reserved);

@@ -103,4 +103,24 @@ TEST_F(DbTarget, StoredTextThatIsNotUtf8IsRefusedOnOpen) {
   EXPECT_NE(root.find("its list of roots holds a name that is not UTF-8"), std::string::npos) << root;
 }
 
+// A directory that takes no new file is named, with the system's reason, not SQLite's "unable to
+// open database file"; the file already there stays as it was.
+TEST_F(DbTarget, ADirectoryThatTakesNoNewFileIsNamed) {
+  EXPECT_EQ(Refusal("/proc/self/model.odb"),
+            "Cannot save the model database \"/proc/self/model.odb\": the directory \"/proc/self\" cannot be "
+            "written (No such file or directory)");
+  if (::geteuid() == 0) return;  // the superuser writes into a read-only directory all the same
+  const std::string locked = dir_ + "/locked";
+  fs::create_directory(locked);
+  dbf_Save(db_, locked + "/model.odb");
+  const auto bytes = dbtT_ReadBytes(locked + "/model.odb");
+  fs::permissions(locked, fs::perms::owner_read | fs::perms::owner_exec);
+  EXPECT_EQ(Refusal(locked + "/model.odb"), "Cannot save the model database \"" + locked +
+                                               "/model.odb\": the directory \"" + locked +
+                                               "\" cannot be written (Permission denied)");
+  fs::permissions(locked, fs::perms::owner_all);
+  EXPECT_EQ(dbtT_ReadBytes(locked + "/model.odb"), bytes);
+  EXPECT_EQ(dbtT_ListDir(locked), std::vector<std::string>{"model.odb"});
+}
+
 }  // namespace

@@ -4,6 +4,7 @@
 #include <string>
 #include <type_traits>
 
+#include "dbfile/dbf_ReaderLiterals.h"
 #include "platform/base/nex_Exception.h"
 
 unsigned dbf_RowReader::GetTypeId() const {
@@ -91,7 +92,15 @@ std::int32_t dbf_RowReader::ReadInt(const char* name) const { return Get<std::in
 double dbf_RowReader::ReadDouble(const char* name) const { return Get<double>(name, "double"); }
 bool dbf_RowReader::ReadBool(const char* name) const { return Get<bool>(name, "bool"); }
 // Stored text was checked to be UTF-8 as its row was loaded.
-cow_String dbf_RowReader::ReadString(const char* name) const { return Get<cow_String>(name, "string"); }
+cow_String dbf_RowReader::ReadString(const char* name) const {
+  cow_String text = Get<cow_String>(name, "string");
+  // A row read as stored had its literals checked as it loaded; an upgraded row holds today's
+  // literals only after its conversions, so its are checked as they are read.
+  if (row_.upgraded && row_.table->cls)
+    if (const omu_EnumLiteral* allowed = dbf_LiteralsOf(*row_.table->cls, name))
+      dbf_CheckLiteral(*row_.table, row_.oid, name, allowed, text.view());
+  return text;
+}
 std::vector<std::int32_t> dbf_RowReader::ReadIntList(const char* name) const {
   return Get<std::vector<std::int32_t>>(name, "list of ints");
 }

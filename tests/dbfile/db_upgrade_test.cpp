@@ -114,6 +114,22 @@ TEST_F(DbUpgrade, ControlsStoredAtOlderVersionsFollowTheirChain) {
   }
 }
 
+// A literal that is none of today's, in a row that is upgraded first, is named as one read as
+// stored is: by field, row and class.
+TEST_F(DbUpgrade, AnUnknownLiteralInAnUpgradedRowIsNamed) {
+  for (int version : {302, 829}) {
+    SCOPED_TRACE(version);
+    const std::string old = Path("literal-" + std::to_string(version) + ".odb");
+    dbf_Save(ControlsDatabase(), old);
+    MakeOldControls(old, version);
+    dbtT_Edit(old, "UPDATE kadC_AdptMeshCtrl SET advection = 'SIDEWAYS' WHERE OID = 2");
+    EXPECT_EQ(qmx_Catch<nex_CmdError>([&] { dbf_Open(old); }).Message(),
+              Prefix(old) +
+                  "the file is damaged (the field \"advection\" of row 2 of class kadC_AdptMeshCtrl holds the literal "
+                  "\"SIDEWAYS\", which is none of FIRST_ORDER_ADVECTION, SECOND_ORDER_ADVECTION)");
+  }
+}
+
 TEST_F(DbUpgrade, AVersionWithoutAChainOfStepsIsRefusedNotSkipped) {
   dbf_Save(ControlsDatabase(), Path("old.odb"));
   MakeOldControls(Path("old.odb"), 302);

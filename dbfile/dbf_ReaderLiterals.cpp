@@ -13,12 +13,12 @@ const omu_EnumLiteral* dbf_LiteralsOf(const cls_ClassMetadata& cls, const std::s
 
 void dbf_CheckLiteral(const dbf_ReadTable& t, std::int64_t oid, const std::string& field,
                       const omu_EnumLiteral* allowed, std::string_view text) {
-  std::string permissible;
-  for (const omu_EnumLiteral* l = allowed; l->text; ++l) {
+  for (const omu_EnumLiteral* l = allowed; l->text; ++l)
     if (text == l->text) return;
-    if (!permissible.empty()) permissible += ", ";
-    permissible += l->text;
-  }
+  // The enumeration's own refusal, after where the text was found.
+  const cow_String literal{std::string(text)};
   dbf_DamagedField(t, oid, field,
-                   ("the literal \"" + std::string(text) + "\", which is none of " + permissible).c_str());
+                   ("the literal \"" + std::string(text) + "\": " +
+                    omu_PrimEnumBase::StringRefusalText(allowed, literal).Text())
+                       .c_str());
 }

@@ -50,12 +50,16 @@ void omu_PrimEnumBase::RefuseValue(std::int64_t value) const {
   nex_CmdError(f.Result()).Throw(kSource, 76);
 }
 
-void omu_PrimEnumBase::RefuseString(const cow_String& s) const {
+atr_String omu_PrimEnumBase::StringRefusalText(const omu_EnumLiteral* table, const cow_String& s) {
   atr_SubstituteFormat f(atr_translate(
       "omu_PrimEnum(const cow_String&) - str not allowed: %s  Permissible: %s"));
   f.Substitute(1, s);
-  f.Substitute(2, PermissibleValuesAsString());
-  nex_CmdError(f.Result()).Throw(kSource, 103);
+  f.Substitute(2, omu_PrimEnumBase(table).PermissibleValuesAsString());
+  return f.Result();
+}
+
+void omu_PrimEnumBase::RefuseString(const cow_String& s) const {
+  nex_CmdError(StringRefusalText(table_, s)).Throw(kSource, 103);
 }
 
 void omu_PrimEnumBase::RefuseStored(const cow_String& s) const {

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include "platform/base/atr_String.h"
 #include "platform/base/bas_Alloc.h"
 #include "platform/base/cow_Map.h"
 #include "platform/base/cow_String.h"
@@ -41,6 +42,9 @@ class omu_PrimEnumBase : public omu_Primitive {
   cow_Map<cow_String, unsigned> PermissibleValues() const;
   // The literals in table order, separated by ", ".
   cow_String PermissibleValuesAsString() const;
+  // The text the string constructor refuses `s` with, for a reader that names where the text
+  // came from before it.
+  static atr_String StringRefusalText(const omu_EnumLiteral* table, const cow_String& s);
 
  protected:
   explicit omu_PrimEnumBase(const omu_EnumLiteral* table) : table_(table) {}

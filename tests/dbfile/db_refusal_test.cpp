@@ -185,11 +185,11 @@ TEST_F(DbRefusal, RowsThatContradictTheFormat) {
   const Case cases[] = {
       {"unknown literal", "UPDATE kadC_AdptMeshCtrl SET advection = 'SIDEWAYS' WHERE OID = 3",
        "the file is damaged (the field \"advection\" of row 3 of class kadC_AdptMeshCtrl holds the literal "
-       "\"SIDEWAYS\", which is none of FIRST_ORDER_ADVECTION, SECOND_ORDER_ADVECTION)"},
+       "\"SIDEWAYS\": omu_PrimEnum(const cow_String&) - str not allowed: SIDEWAYS  Permissible: FIRST_ORDER_ADVECTION, SECOND_ORDER_ADVECTION)"},
       // Rows before it hold good literals of the same field, already met and kept.
       {"unknown literal after good ones", "UPDATE kadC_AdptMeshCtrl SET smoothingAlgorithm = 'GEOMETRY' WHERE OID = 300",
        "the file is damaged (the field \"smoothingAlgorithm\" of row 300 of class kadC_AdptMeshCtrl holds the "
-       "literal \"GEOMETRY\", which is none of STANDARD, GEOMETRY_ENHANCED, ANALYSIS_PRODUCT_DEFAULT)"},
+       "literal \"GEOMETRY\": omu_PrimEnum(const cow_String&) - str not allowed: GEOMETRY  Permissible: STANDARD, GEOMETRY_ENHANCED, ANALYSIS_PRODUCT_DEFAULT)"},
       {"text for a number", "UPDATE kadC_AdptMeshCtrl SET initialFeatureAngle = 'wide' WHERE OID = 3",
        "the file is damaged (the field \"initialFeatureAngle\" of row 3 of class kadC_AdptMeshCtrl holds no number)"},
       {"number too large for an int", "UPDATE dbtT_Sample SET count = 4294967296 WHERE OID = 1",

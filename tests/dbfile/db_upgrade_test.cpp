@@ -126,7 +126,7 @@ TEST_F(DbUpgrade, AnUnknownLiteralInAnUpgradedRowIsNamed) {
     EXPECT_EQ(qmx_Catch<nex_CmdError>([&] { dbf_Open(old); }).Message(),
               Prefix(old) +
                   "the file is damaged (the field \"advection\" of row 2 of class kadC_AdptMeshCtrl holds the literal "
-                  "\"SIDEWAYS\", which is none of FIRST_ORDER_ADVECTION, SECOND_ORDER_ADVECTION)");
+                  "\"SIDEWAYS\": omu_PrimEnum(const cow_String&) - str not allowed: SIDEWAYS  Permissible: FIRST_ORDER_ADVECTION, SECOND_ORDER_ADVECTION)");
   }
 }
 

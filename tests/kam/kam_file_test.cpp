@@ -159,7 +159,7 @@ TEST_F(KamFile, AStoredLiteralThatIsNotOneIsRefused) {
   // without a file refuses with the enumeration's own message (the persistence tests).
   EXPECT_EQ(e.Message(), "Cannot open the model database \"" + file +
                              "\": the file is damaged (the field \"spectrumType\" of row 1 of class kamC_Spectrum "
-                             "holds the literal \"SPEED\", which is none of DISPLACEMENT, VELOCITY, ACCELERATION)");
+                             "holds the literal \"SPEED\": omu_PrimEnum(const cow_String&) - str not allowed: SPEED  Permissible: DISPLACEMENT, VELOCITY, ACCELERATION)");
 }
 
 // --- files of older versions ---------------------------------------------------------------------

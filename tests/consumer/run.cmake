@@ -8,6 +8,16 @@ function(step)
   endif()
 endfunction()
 step(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/stage)
+# The public headers only: the umbrella at the top, no internal header anywhere.
+set(inc ${WORK_DIR}/stage/include/QMXOdbAttr)
+if(NOT EXISTS ${inc}/QMXOdbAttr.h OR NOT EXISTS ${inc}/api/qmx_Repositories.h)
+  message(FATAL_ERROR "the umbrella header or the typed repositories were not installed under ${inc}")
+endif()
+file(GLOB_RECURSE internal RELATIVE ${inc} ${inc}/*_Versions.h ${inc}/*IMPLSC.h ${inc}/*Shortcut.h
+     ${inc}/QMXOdbK*C.h ${inc}/*Advice*.h ${inc}/*Wrapper.h ${inc}/cmd_SessionSupport.h ${inc}/*.cpp)
+if(internal)
+  message(FATAL_ERROR "internal headers were installed: ${internal}")
+endif()
 step(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/build -G ${GENERATOR} -DCMAKE_BUILD_TYPE=Debug
      -DCMAKE_PREFIX_PATH=${WORK_DIR}/stage -DCMAKE_CXX_COMPILER=${CXX} "-DCMAKE_CXX_FLAGS=${FLAGS}"
      "-DCMAKE_EXE_LINKER_FLAGS=${FLAGS}")

@@ -45,6 +45,19 @@ const std::vector<ApiRepositoryCase> kApiRepositoryCases = {
 };
 #undef API_REPOSITORY_CASE
 
+// An extension of another class that claims the name "materials", as a wrong registration would.
+class ApiImpostor : public mdl_Extension {
+ public:
+  static constexpr const char* kClassName = "ApiImpostor";
+  ApiImpostor* Copy() const override { return mem_New<ApiImpostor>(*this); }
+  void DBWrite(const cls_WriteVisitor&) const override {}
+  unsigned ClassTypeId() const override { return 0xFFFF0001u; }
+  mdl_Repository* Repository() override { return nullptr; }
+  const mdl_Repository* Repository() const override { return nullptr; }
+  const char* ExtensionName() const override { return "materials"; }
+  bool Equals(const mdl_Extension& o) const override { return o.ClassTypeId() == ClassTypeId(); }
+};
+
 class ApiRepositories : public ::testing::Test {
  protected:
   void SetUp() override { qmx_StartLibrary(); }
@@ -116,6 +129,23 @@ TEST_F(ApiRepositories, AMissingRepositoryIsRefusedByName) {
   // The others are still there, and nothing was added by asking.
   EXPECT_EQ(qmx::Profiles(view).Size(), 0u);
   EXPECT_EQ(view.FindExtension("materials"), nullptr);
+}
+
+TEST_F(ApiRepositories, ARepositoryOfAnotherClassIsRefusedByItsClass) {
+  ddr_Model before;
+  const ddr_Model::ExtensionHandle materials = *before.FindExtension("materials");
+  ddr_Model::RegisterExtension(ApiImpostor());  // replaces the material container's registration
+  ddr_Model impostor;
+  ddr_Model::RegisterExtension(materials.Get());
+
+  EXPECT_STREQ(qmx_Catch<nex_CmdError>([&] { qmx::Materials(impostor); }).what(),
+               "The model's \"materials\" is not a kmaC_MCWrapper");
+  EXPECT_STREQ(qmx_Catch<nex_CmdError>([&] { qmx::Materials(static_cast<const ddr_Model&>(impostor)); }).what(),
+               "The model's \"materials\" is not a kmaC_MCWrapper");
+  EXPECT_EQ(impostor.FindExtension("materials")->Get().ClassTypeId(), 0xFFFF0001u);
+  // A model made after the registration is put back has the material container again.
+  ddr_Model again;
+  EXPECT_EQ(qmx::Materials(static_cast<const ddr_Model&>(again)).Size(), 0u);
 }
 
 }  // namespace

@@ -48,7 +48,6 @@ const std::vector<ApiRepositoryCase> kApiRepositoryCases = {
 // An extension of another class that claims the name "materials", as a wrong registration would.
 class ApiImpostor : public mdl_Extension {
  public:
-  static constexpr const char* kClassName = "ApiImpostor";
   ApiImpostor* Copy() const override { return mem_New<ApiImpostor>(*this); }
   void DBWrite(const cls_WriteVisitor&) const override {}
   unsigned ClassTypeId() const override { return 0xFFFF0001u; }

@@ -2,9 +2,7 @@
 
 #include "framework/fw_PersistentClassImpl.h"
 
-#include "kma/kmaC_Elastic.h"
 #include "kma/kmaC_OptionSlotTraits.h"
-#include "kma/kmaC_Plastic.h"
 #include "platform/base/nex_Exception.h"
 
 namespace {
@@ -67,30 +65,6 @@ void kmaC_Material::SetOption(std::string_view slot, const kmaC_MaterialOption& 
 void kmaC_Material::ClearOption(std::string_view slot) {
   if (!VisitSlot(slot, [](auto& s, const char*) { s.Clear(); })) RefuseSlot();
 }
-
-const kmaC_Elastic& kmaC_Material::GetElastic() const {
-  if (elastic.IsNull()) nex_ThrowCmd("The material has no elastic option");
-  return static_cast<const kmaC_Elastic&>(*elastic.ConstGet());
-}
-
-kmaC_Elastic& kmaC_Material::ModifyElastic() {
-  if (elastic.IsNull()) nex_ThrowCmd("The material has no elastic option");
-  return static_cast<kmaC_Elastic&>(*elastic.Get());
-}
-
-void kmaC_Material::SetElastic(const kmaC_Elastic& v) { elastic.Set(v, "elastic"); }
-
-const kmaC_Plastic& kmaC_Material::GetPlastic() const {
-  if (plastic.IsNull()) nex_ThrowCmd("The material has no plastic option");
-  return static_cast<const kmaC_Plastic&>(*plastic.ConstGet());
-}
-
-kmaC_Plastic& kmaC_Material::ModifyPlastic() {
-  if (plastic.IsNull()) nex_ThrowCmd("The material has no plastic option");
-  return static_cast<kmaC_Plastic&>(*plastic.Get());
-}
-
-void kmaC_Material::SetPlastic(const kmaC_Plastic& v) { plastic.Set(v, "plastic"); }
 
 // The slots in persistent order; the first failing option decides the message. The material adds
 // no rule of its own (how a damage initiation fits its slot is advice, kmaC_DamageInitiationFit.h).

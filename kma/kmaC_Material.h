@@ -7,11 +7,11 @@
 
 #include "framework/fw_PersistentClass.h"
 #include "kma/kmaC_MaterialOption.h"
+#include "kma/kmaC_MaterialSlots.h"
 #include "kma/kmaC_OptionSlot.h"
 #include "platform/base/cow_String.h"
 
-class kmaC_Elastic;
-class kmaC_Plastic;
+KMAC_MATERIAL_SLOTS(KMAC_FORWARD_SLOT_CLASS)
 
 class kmaC_Material : public fw_PersistentClass<kmaC_Material, mem_Allocated> {
  public:
@@ -141,17 +141,10 @@ class kmaC_Material : public fw_PersistentClass<kmaC_Material, mem_Allocated> {
   void SetOption(std::string_view slot, const kmaC_MaterialOption& option);
   void ClearOption(std::string_view slot);
 
-  bool HasElastic() const { return !elastic.IsNull(); }
-  // Throws when absent.
-  const kmaC_Elastic& GetElastic() const;
-  kmaC_Elastic& ModifyElastic();
-  void SetElastic(const kmaC_Elastic& v);
-  void ClearElastic() { elastic.Clear(); }
-  bool HasPlastic() const { return !plastic.IsNull(); }
-  const kmaC_Plastic& GetPlastic() const;
-  kmaC_Plastic& ModifyPlastic();
-  void SetPlastic(const kmaC_Plastic& v);
-  void ClearPlastic() { plastic.Clear(); }
+  // Typed access to every slot: HasDensity(), GetDensity() (throws when empty), ModifyDensity(),
+  // SetDensity(const kmaC_Density&), ClearDensity() and so on for each row of
+  // kma/kmaC_MaterialSlots.h.
+  KMAC_MATERIAL_SLOTS(KMAC_DECLARE_SLOT_ACCESSORS)
 
   // Scripting names.
   static cow_String constructorCmd() { return kScriptName; }

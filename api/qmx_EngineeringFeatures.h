@@ -1,0 +1,31 @@
+#pragma once
+/// \file
+/// Engineering features: inertias, fasteners, cracks, springs and dashpots, imperfections.
+/// Every class of the module that a host builds, reads or changes; reach the module's
+/// repositories through qmx_Repositories.h.
+#include "kef/kefC_AssembledFastener.h"
+#include "kef/kefC_ContourIntegral.h"
+#include "kef/kefC_Crack.h"
+#include "kef/kefC_CrackContainer.h"
+#include "kef/kefC_DataImperfection.h"
+#include "kef/kefC_DebondVCCT.h"
+#include "kef/kefC_DiscreteFastener.h"
+#include "kef/kefC_EngineeringFeatures.h"
+#include "kef/kefC_Enums.h"
+#include "kef/kefC_Fastener.h"
+#include "kef/kefC_FastenerContainer.h"
+#include "kef/kefC_FileImperfection.h"
+#include "kef/kefC_HeatCapacitance.h"
+#include "kef/kefC_Imperfection.h"
+#include "kef/kefC_ImperfectionContainer.h"
+#include "kef/kefC_Inertia.h"
+#include "kef/kefC_InertiaContainer.h"
+#include "kef/kefC_InputImperfection.h"
+#include "kef/kefC_NonstructuralMass.h"
+#include "kef/kefC_PointFastener.h"
+#include "kef/kefC_PointMassInertia.h"
+#include "kef/kefC_Spring.h"
+#include "kef/kefC_SpringContainer.h"
+#include "kef/kefC_SpringToGround.h"
+#include "kef/kefC_TwoPointSpring.h"
+#include "kef/kefC_XFEMCrack.h"

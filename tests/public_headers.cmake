@@ -1,0 +1,28 @@
+# Fails when a class header of a module is reachable from no public header of api/: a class added
+# to a module joins its module's qmx_*.h. Internal headers (upgrade steps and old versions,
+# shortcuts, module entries, advice, extension wrappers, assertion helpers, traits) stay out.
+# Called by ctest with SOURCE_DIR.
+set(listed "")
+file(GLOB api_headers ${SOURCE_DIR}/api/*.h)
+foreach(h ${api_headers})
+  file(STRINGS ${h} includes REGEX "^#include \"")
+  foreach(inc ${includes})
+    string(REGEX REPLACE "^#include \"([^\"]+)\".*" "\\1" path "${inc}")
+    list(APPEND listed ${path})
+  endforeach()
+endforeach()
+set(internal "(_Versions|IMPLSC|IMPSC|Shortcut|/QMXOdbK|Advice|Wrapper|_[0-9]+\\.h$|_assert\\.h$|TypeLabelMap|Traits|OldClassStep|DamageInitiationFit|CheckExpressionVars|ModelContext)")
+set(missing "")
+file(GLOB module_headers RELATIVE ${SOURCE_DIR} ${SOURCE_DIR}/k[a-z][a-z]/*.h)
+foreach(h ${module_headers})
+  if(h MATCHES "${internal}")
+    continue()
+  endif()
+  list(FIND listed ${h} at)
+  if(at EQUAL -1)
+    string(APPEND missing "\n  ${h}")
+  endif()
+endforeach()
+if(missing)
+  message(FATAL_ERROR "class headers that no public header of api/ includes:${missing}")
+endif()

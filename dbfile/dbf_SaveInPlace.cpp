@@ -1,5 +1,6 @@
 #include "dbfile/dbf_SaveInPlace.h"
 
+#include <cstdio>
 #include <filesystem>
 
 #include "dbfile/dbf_Baseline.h"
@@ -66,13 +67,29 @@ bool dbf_SaveInPlace(const std::vector<dbf_Root>& roots, const std::string& targ
 }
 
 void dbf_RecoverJournal(const std::string& target) {
+  const std::string journal = target + "-journal";
   std::error_code ec;
-  if (std::filesystem::file_size(target + "-journal", ec) == 0 || ec) return;
+  if (!std::filesystem::exists(journal, ec)) return;
   try {
-    // A read through a writing connection plays the journal back (and removes it).
+    // Saves in place hold this lock for their whole transaction: a journal seen under it is not
+    // one a running save of this library is writing.
+    dbf_DirectoryLock lock(InPlaceDirectory(target));
+    // A read through a writing connection plays a hot journal back, and removes it.
     dbf_Connection conn(target, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, dbf_ChecksumVfs());
     conn.QueryInt("SELECT count(*) FROM sqlite_master");
     conn.Close();
+    // What stays is a journal whose magic number is cleared (a transaction ended, its process
+    // killed before the journal was removed): it restores nothing, and would only puzzle whoever
+    // lists the directory.
+    unsigned char head[8] = {};
+    std::FILE* f = std::fopen(journal.c_str(), "rb");
+    if (!f) return;
+    const std::size_t got = std::fread(head, 1, sizeof head, f);
+    std::fclose(f);
+    for (std::size_t i = 0; i < got; ++i)
+      if (head[i] != 0) return;
+    if (std::filesystem::remove(journal, ec))
+      std::fprintf(stderr, "Note: removed \"%s\", left by a save that did not finish\n", journal.c_str());
   } catch (const std::exception&) {
     // no right to write here: the open says what it finds
   }

@@ -3,6 +3,11 @@
 // targets written whole, a file changed behind the database's back refused as before.
 #include <gtest/gtest.h>
 
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
 #include <functional>
 #include <random>
 
@@ -293,6 +298,71 @@ TEST_F(DbIncremental, RandomChangesSavedEveryFewReadBackEqual) {
   EXPECT_TRUE(stats_.inPlace);
   EXPECT_EQ(stats_.written, 1);
   EXPECT_TRUE(dbf_Open(path_) == again);
+}
+
+}  // namespace
+
+namespace {
+
+// Two states a few hundred rows apart, each derived the same way in every process.
+ddr_Database IncKillState(const ddr_Database& base, int round) {
+  ddr_Database db = base;
+  auto& controls = IncControls(db);
+  for (int i = 1; i <= 2000; i += 7) controls.Get("C-" + std::to_string(i)).SetInitialFeatureAngle(round % 2 ? 1 + i % 90 : 0.5);
+  for (int i = 0; i < 40; ++i) {
+    if (round % 2) controls.Insert("K-" + std::to_string(i), kadC_AdptMeshCtrl());
+    else controls.Remove("K-" + std::to_string(i));
+  }
+  return db;
+}
+
+TEST_F(DbIncremental, ASaveInPlaceKilledAtAnyMomentLeavesTheOldOrTheNewDatabase) {
+  const ddr_Database even = IncKillState(db_, 0), odd = IncKillState(db_, 1);
+  std::mt19937 rng(4711);
+  int sawOdd = 0, sawEven = 0;
+  for (int kill = 0; kill < 50; ++kill) {
+    SCOPED_TRACE("kill " + std::to_string(kill));
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+      // Saves the two states in turn, in place, until killed.
+      try {
+        dbf_Baseline base;
+        ddr_Database current = dbf_Open(path_, base);
+        for (int round = 1;; ++round) {
+          current = round % 2 ? odd : even;
+          dbf_SaveOptions options;
+          options.baseline = &base;
+          dbf_SaveStats stats;
+          options.stats = &stats;
+          dbf_Save(current, path_, options);
+          if (!stats.inPlace) ::_exit(4);
+        }
+      } catch (...) {
+      }
+      ::_exit(3);
+    }
+    ::usleep(20000 + rng() % 150000);
+    ASSERT_EQ(::kill(child, SIGKILL), 0);
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    if (std::filesystem::exists(path_ + "-journal") && getenv("I34DBG")) {
+      std::filesystem::copy_file(path_, "/tmp/i34_inspect.odb", std::filesystem::copy_options::overwrite_existing);
+      std::filesystem::copy_file(path_ + "-journal", "/tmp/i34_inspect.odb-journal", std::filesystem::copy_options::overwrite_existing);
+      return;
+    }
+    ASSERT_TRUE(WIFSIGNALED(status)) << "the saving child stopped by itself: " << WEXITSTATUS(status);
+    const ddr_Database back = dbf_Open(path_);
+    const bool isOdd = back == odd, isEven = back == even || back == db_;
+    EXPECT_TRUE(isOdd || isEven);
+    sawOdd += isOdd;
+    sawEven += isEven;
+    EXPECT_FALSE(std::filesystem::exists(path_ + "-journal"));  // rolled back, or left by a finished commit and removed
+  }
+  // Killed in both directions, not always at the same place.
+  EXPECT_GT(sawOdd, 0);
+  EXPECT_GT(sawEven, 0);
+  ExpectCatalogTrue(path_);
 }
 
 }  // namespace

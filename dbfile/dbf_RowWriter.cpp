@@ -144,7 +144,16 @@ void dbf_RowWriter::WriteObjectList(const char* name, const std::vector<const vo
       continue;
     }
     dbf_Ref kept;
-    if (Kept(f, objs[i], kept)) {
+    if (over_ && old_.children[f].size() == objs.size()) {
+      // A list of the same length is compared place by place, without an index of the old list:
+      // an object that moved is written over the row of the place it took, which is as right.
+      dbf_Stored& at = old_.children[f][i];
+      if (at.ptr == objs[i] && !at.taken) {
+        at.taken = true;
+        dbf_AppendRef(c.bytes, at.ref);
+        continue;
+      }
+    } else if (Kept(f, objs[i], kept)) {
       dbf_AppendRef(c.bytes, kept);
       continue;
     }

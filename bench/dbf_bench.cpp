@@ -302,7 +302,7 @@ void RawUpdate(const std::string& path, std::int64_t n, std::int64_t k, int roun
   Check(sqlite3_open_v2(path.c_str(), &s, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr), s);
   Exec(s, "PRAGMA journal_mode = DELETE; PRAGMA synchronous = FULL; PRAGMA cache_size = -65536; BEGIN IMMEDIATE");
   sqlite3_stmt* u = nullptr;
-  Check(sqlite3_prepare_v2(s, "UPDATE kadC_AdptMeshCtrl SET initialFeatureAngle = ?1 WHERE OID = ?2", -1, &u, nullptr), s);
+  Check(sqlite3_prepare_v2(s, "UPDATE ctrl SET initialFeatureAngle = ?1 WHERE OID = ?2", -1, &u, nullptr), s);
   const std::int64_t step = Controls(n) / k;
   for (std::int64_t j = 0; j < k; ++j) {
     sqlite3_bind_double(u, 1, 1 + round % 170);

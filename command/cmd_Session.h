@@ -29,6 +29,7 @@
 #include <vector>
 
 #include "command/cmd_Json.h"
+#include "dbfile/dbf_Baseline.h"
 #include "dbfile/dbf_Seen.h"
 #include "platform/model/ddr_Database.h"
 
@@ -71,6 +72,7 @@ class cmd_Session {
 
   ddr_Database db_;
   dbf_Seen seen_;  // the files this database read or saved, as it left them
+  dbf_Baseline baseline_;  // the file last read or saved, so that saving it again writes what changed
   std::vector<ddr_Database> undo_;  // the database before each entry, the last entry last
   std::vector<ddr_Database> redo_;
   std::optional<ddr_Database> transaction_;  // the database when the open transaction began

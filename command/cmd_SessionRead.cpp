@@ -77,6 +77,7 @@ cmd_Json cmd_Session::Save(const cmd_Json& command) {
   const std::string file = cmd_FileOf(command);
   dbf_SaveOptions options;
   options.seen = &seen_;
+  options.baseline = &baseline_;
   if (command.contains("overwrite")) {
     if (!command["overwrite"].is_boolean()) cmd_Refuse("The \"overwrite\" of a save is true or false");
     options.overwrite = command["overwrite"].get<bool>();
@@ -94,8 +95,10 @@ cmd_Json cmd_Session::Open(const cmd_Json& command) {
   const std::string file = cmd_FileOf(command);
   dbf_Seen seen;  // the file as it was before it was read; the database read none other
   seen.Opened(file);
-  db_ = dbf_Open(file);
+  dbf_Baseline baseline;
+  db_ = dbf_Open(file, baseline);
   seen_ = std::move(seen);
+  baseline_ = std::move(baseline);
   cmd_Json r = cmd_Json::object();
   r["file"] = file;
   r["models"] = cmd_Json::array();

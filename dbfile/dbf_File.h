@@ -10,6 +10,7 @@
 #include "platform/model/ddr_Database.h"
 
 class dbc_UpgradeDriver;
+class dbf_Baseline;
 
 
 void dbf_Save(const ddr_Database& db, const std::string& path);
@@ -17,5 +18,8 @@ void dbf_Save(const ddr_Database& db, const std::string& path, const dbf_SaveOpt
 ddr_Database dbf_Open(const std::string& path);
 // Opens with the upgrade steps of the given driver instead of the registered ones.
 ddr_Database dbf_Open(const std::string& path, const dbc_UpgradeDriver& driver);
+// Opens, and makes `baseline` describe the file as read, so that saves into it write only what
+// changed (options.baseline).
+ddr_Database dbf_Open(const std::string& path, dbf_Baseline& baseline);
 // Opens `in` (upgrading it) and saves the result as `out`; `in` is not changed.
 void dbf_Upgrade(const std::string& in, const std::string& out);

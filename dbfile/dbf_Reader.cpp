@@ -284,6 +284,7 @@ void dbf_Reader::PrepareTable(dbf_ReadTable& t) {
     t.scan = dbf_Statement(conn_->Get(), "SELECT " + cols + from + " ORDER BY " + dbf_Quote(dbf_kOidColumn));
     // Prepared when a row is first wanted out of order, which most files never need.
     t.pointSql = "SELECT " + cols + from + " WHERE " + dbf_Quote(dbf_kOidColumn) + " = ?1";
+    t.lastSql = "SELECT max(" + dbf_Quote(dbf_kOidColumn) + ")" + from;
   } catch (const QMXBasException& e) {
     dbf_Damaged("the table of class " + t.className + " does not hold its stored columns: " + e.what());
   }
@@ -326,8 +327,7 @@ std::vector<dbf_LoadedRoot> dbf_Reader::LoadRoots(const cls_ClassMetadata* requi
     const cls_ClassMetadata* cls = row.table->cls;
     out.push_back(dbf_LoadedRoot{e.name, dbf_OwnedObject(cls, cls->NewFromRecord(reader))});
   }
-  // Rows are numbered 1..rows: every one was loaded once, and the rest of each scan holds no
-  // row beyond them. Checked here rather than by a query per table as the file opens.
+  // Every row was loaded once, and the rest of each scan holds no row beyond the catalog's count. Checked here rather than by a query per table as the file opens.
   for (const auto& t : tables_)
     while (!t->scanDone) {
       t->scanStarted = true;
@@ -336,7 +336,7 @@ std::vector<dbf_LoadedRoot> dbf_Reader::LoadRoots(const cls_ClassMetadata* requi
         break;
       }
       t->scanOid = sqlite3_column_int64(t->scan.Get(), 0);
-      if (t->scanOid < 1 || t->scanOid > t->rows) dbf_NotNumbered(*t);
+      if (t->scanOid < 1 || ++t->scanned > t->rows) dbf_NotNumbered(*t);
     }
   for (const auto& t : tables_)
     if (t->loaded != t->rows)

@@ -53,7 +53,13 @@ struct dbf_ReadTable {
   bool hasObjects = false;
   std::vector<dbf_ReadField> fields;
   std::unordered_map<std::string_view, std::size_t> byName;  // views into fields' names
+  // Rows are numbered from 1. A file saved in place may leave gaps (rows of objects that went
+  // away) and number new rows after the highest: the highest is looked up only when a reference
+  // goes beyond `rows`.
   std::int64_t rows = 0;
+  std::int64_t lastOid = -1;  // not yet looked up
+  std::int64_t scanned = 0;   // rows the scan has passed
+  std::string lastSql;
   dbf_Statement scan;   // every row in OID order
   dbf_Statement point;  // one row by OID, prepared from pointSql when first needed
   std::string pointSql;
@@ -152,6 +158,7 @@ class dbf_Reader {
   std::shared_ptr<const cls_Record> FetchRaw(dbf_ReadTable& t, std::int64_t oid);
   // False when the row was loaded before.
   static bool MarkLoaded(dbf_ReadTable& t, std::int64_t oid);
+  std::int64_t LastOid(dbf_ReadTable& t);
 
   const dbc_UpgradeDriver& driver_;
   struct File {

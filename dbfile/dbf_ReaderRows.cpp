@@ -83,6 +83,14 @@ unsigned dbf_Reader::CurrentTypeId(std::uint32_t storedClassId) const {
   return t.cls->TypeId();
 }
 
+std::int64_t dbf_Reader::LastOid(dbf_ReadTable& t) {
+  if (t.lastOid < 0) {
+    dbf_Statement last(conn_->Get(), t.lastSql);
+    t.lastOid = last.Step() ? sqlite3_column_int64(last.Get(), 0) : 0;
+  }
+  return t.lastOid;
+}
+
 sqlite3_stmt* dbf_Reader::Position(dbf_ReadTable& t, std::int64_t oid) {
   if (!t.scanDone && (!t.scanStarted || t.scanOid < oid)) {
     t.scanStarted = true;
@@ -92,7 +100,7 @@ sqlite3_stmt* dbf_Reader::Position(dbf_ReadTable& t, std::int64_t oid) {
         break;
       }
       t.scanOid = sqlite3_column_int64(t.scan.Get(), 0);
-      if (t.scanOid < 1 || t.scanOid > t.rows) dbf_NotNumbered(t);
+      if (t.scanOid < 1 || ++t.scanned > t.rows) dbf_NotNumbered(t);
       if (t.scanOid >= oid) break;
     }
   }
@@ -106,7 +114,7 @@ sqlite3_stmt* dbf_Reader::Position(dbf_ReadTable& t, std::int64_t oid) {
 void dbf_Reader::Load(const dbf_Ref& ref, dbf_LoadedRow& row) {
   dbf_ReadTable& t = TableOf(ref.classId);
   if (!t.cls) dbf_Damaged("an object refers to a row of class " + t.className + ", which is only ever part of other rows");
-  if (ref.oid < 1 || ref.oid > t.rows)
+  if (ref.oid < 1 || (ref.oid > t.rows && ref.oid > LastOid(t)))
     dbf_Damaged(std::string("it refers to row ") + std::to_string(ref.oid) + " of class " + t.className + ", which holds " +
             std::to_string(t.rows) + " rows");
   if (!MarkLoaded(t, ref.oid))

@@ -56,6 +56,6 @@ inline bool dbf_ParseUid(std::string_view t, cls_Uid& out) {
 }
 
 [[noreturn]] inline void dbf_NotNumbered(const dbf_ReadTable& t) {
-  dbf_Damaged("the rows of class " + t.className + " are not numbered 1 to " + std::to_string(t.rows));
+  dbf_Damaged("the rows of class " + t.className + " are not " + std::to_string(t.rows) + " rows numbered from 1 up");
 }
 

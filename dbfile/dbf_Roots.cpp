@@ -7,6 +7,7 @@
 #include "dbfile/dbf_AtomicFile.h"
 #include "dbfile/dbf_Seen.h"
 #include "dbfile/dbf_Reader.h"
+#include "dbfile/dbf_SaveInPlace.h"
 #include "dbfile/dbf_Vfs.h"
 #include "dbfile/dbf_Writer.h"
 #include "platform/base/nex_Exception.h"
@@ -32,6 +33,7 @@ void Save(const std::vector<dbf_Root>& roots, const std::string& path, const dbf
     if (!r.cls || !r.object) nex_ThrowCmd("the object \"" + r.name.str() + "\" to store is missing");
   }
   const auto* progress = options.progress ? &options.progress : nullptr;
+  if (options.baseline && dbf_SaveInPlace(roots, dbf_SaveTarget(path), options)) return;
 
   dbf_AtomicFile file(path);
   std::int64_t rows = 0;
@@ -80,6 +82,7 @@ void Save(const std::vector<dbf_Root>& roots, const std::string& path, const dbf
   dbf_RemoveLeftovers(file.Target());
   file.Commit();
   if (options.seen) options.seen->Saved(file.Target());
+  if (options.stats) *options.stats = dbf_SaveStats{false, rows, 0, rows};
 }
 
 // The path as a message shows it: a NUL (refused as a file name) would end the message there.
@@ -105,7 +108,9 @@ std::vector<dbf_LoadedRoot> dbf_OpenRoots(const std::string& path, const dbc_Upg
     std::shared_ptr<const dbc_UpgradeDriver> registered;
     if (!driver) driver = (registered = dbc_UpgradeDriver::Registered()).get();
     try {
-      dbf_RemoveLeftovers(dbf_SaveTarget(path));
+      const std::string target = dbf_SaveTarget(path);
+      dbf_RemoveLeftovers(target);
+      dbf_RecoverJournal(target);
     } catch (const std::exception&) {
       // not a name a save could have written; the reader says what is wrong with it
     }

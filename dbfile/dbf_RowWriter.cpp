@@ -7,16 +7,12 @@
 #include "dbfile/dbf_TableBlob.h"
 #include "platform/base/nex_Exception.h"
 
-namespace {
-
-void HexUid(const cls_Uid& uid, char* out) {
+void dbf_HexUid(const cls_Uid& uid, char* out) {
   static const char* kHex = "0123456789abcdef";
   std::uint64_t hi = uid.High(), lo = uid.Low();
   for (int i = 15; i >= 0; --i, hi >>= 4) out[i] = kHex[hi & 0xf];
   for (int i = 31; i >= 16; --i, lo >>= 4) out[i] = kHex[lo & 0xf];
 }
-
-}  // namespace
 
 // What no command can name, change or delete is not written: a NUL in stored text would be
 // refused when the file is opened again.
@@ -35,8 +31,18 @@ bool dbf_RowWriter::StartWrite(unsigned typeId, const cls_Uid& uid) const {
                  ") before its own was stored");
   dbf_WriteTable& t = writer_.TableFor(typeId);
   table_ = &t;
-  oid_ = t.nextOid++;
-  HexUid(uid, uid_);
+  over_ = false;
+  if (expected_.ptr && expected_.ref.classId == typeId) {
+    oid_ = expected_.ref.oid;
+    writer_.Patch()->LoadOld(t, expected_, old_);
+    over_ = true;
+  } else {
+    if (expected_.ptr) doomed_.push_back(expected_.ref);  // another class now: a row of another table
+    old_.Clear();
+    oid_ = t.nextOid++;
+  }
+  expected_ = dbf_Stored{};
+  dbf_HexUid(uid, uid_);
   if (cells_.size() < t.fields.size()) {
     cells_.resize(t.fields.size());
     plain_.resize(t.fields.size());
@@ -126,16 +132,19 @@ void dbf_RowWriter::WriteDoubleTable(const char* name, const cow_2DArray<double>
 void dbf_RowWriter::WriteNull(const char* name) const { cells_[Slot(name, dbf_Kind::Object)].ref = dbf_Ref{}; }
 
 void dbf_RowWriter::WriteObject(const char* name, const void* obj, cls_WriteFn fn) const {
-  Cell& c = cells_[Slot(name, dbf_Kind::Object)];
+  const std::size_t i = Slot(name, dbf_Kind::Object);
+  Cell& c = cells_[i];
   c.ref = dbf_Ref{};
-  if (!obj) return;
+  if (!obj || Kept(i, obj, c.ref)) return;
   dbf_RowWriter& child = writer_.WriterAt(depth_ + 1);
+  Pair(i, 0, 1);
   fn(obj, child);
   c.ref = child.Finish();
 }
 
 void dbf_RowWriter::WriteObjectList(const char* name, const std::vector<const void*>& objs, cls_WriteFn fn) const {
-  Cell& c = cells_[Slot(name, dbf_Kind::ObjectList)];
+  const std::size_t f = Slot(name, dbf_Kind::ObjectList);
+  Cell& c = cells_[f];
   c.bytes.clear();
   c.bytes += '[';
   dbf_RowWriter& child = writer_.WriterAt(depth_ + 1);
@@ -145,10 +154,79 @@ void dbf_RowWriter::WriteObjectList(const char* name, const std::vector<const vo
       c.bytes += "null";
       continue;
     }
+    dbf_Ref kept;
+    if (over_ && old_.children[f].size() == objs.size()) {
+      // A list of the same length is compared place by place, without an index of the old list:
+      // an object that moved is written over the row of the place it took, which is as right.
+      dbf_Stored& at = old_.children[f][i];
+      if (at.ptr == objs[i] && !at.taken) {
+        at.taken = true;
+        dbf_AppendRef(c.bytes, at.ref);
+        continue;
+      }
+    } else if (Kept(f, objs[i], kept)) {
+      dbf_AppendRef(c.bytes, kept);
+      continue;
+    }
+    Pair(f, i, objs.size());
     fn(objs[i], child);
     dbf_AppendRef(c.bytes, child.Finish());
   }
   c.bytes += ']';
+}
+
+bool dbf_RowWriter::Kept(std::size_t i, const void* obj, dbf_Ref& ref) const {
+  if (!over_) return false;
+  dbf_Stored* s = old_.Find(i, obj);
+  if (!s) return false;
+  s->taken = true;
+  ref = s->ref;
+  return true;
+}
+
+// A changed object in the place of a stored one (same field, same position in a list of the
+// same length) is written over that one's row: its parent's row then stays as stored.
+void dbf_RowWriter::Pair(std::size_t i, std::size_t position, std::size_t count) const {
+  if (!over_ || old_.children[i].size() != count) return;
+  dbf_Stored& s = old_.children[i][position];
+  if (!s.ptr || s.taken) return;
+  s.taken = true;
+  writer_.WriterAt(depth_ + 1).Expect(s);
+}
+
+void dbf_RowWriter::DropUnclaimed() const {
+  dbf_Patch* patch = writer_.Patch();
+  if (!patch) return;
+  std::vector<dbf_Ref> drop;
+  drop.swap(doomed_);
+  for (const auto& field : old_.children)
+    for (const dbf_Stored& s : field)
+      if (s.ptr && !s.taken) drop.push_back(s.ref);
+  old_.Clear();
+  for (const dbf_Ref& r : drop) patch->DeleteTree(writer_, r);
+}
+
+bool dbf_RowWriter::SameAsStored() const {
+  const auto& col = old_.columns;
+  if (!dbf_SameText(col[1], uid_, 32)) return false;
+  const auto& fields = table_->fields;
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    const Cell& c = cells_[i];
+    const cls_WriteCell& v = plain_[i];
+    sqlite3_value* stored = col[static_cast<std::size_t>(fields[i].param - 1)];
+    bool same;
+    switch (fields[i].kind) {
+      case dbf_Kind::Int:
+      case dbf_Kind::Bool: same = dbf_SameInt(stored, v.integer); break;
+      case dbf_Kind::Double: same = dbf_SameDouble(stored, v.number); break;
+      case dbf_Kind::Text: same = dbf_SameText(stored, v.text, v.size); break;
+      case dbf_Kind::Table: same = dbf_SameBlob(stored, c.bytes.data(), c.bytes.size()); break;
+      case dbf_Kind::Object: same = dbf_SameRef(stored, col[static_cast<std::size_t>(fields[i].param)], c.ref); break;
+      default: same = dbf_SameText(stored, c.bytes.data(), c.bytes.size()); break;
+    }
+    if (!same) return false;
+  }
+  return true;
 }
 
 dbf_Ref dbf_RowWriter::Finish() {
@@ -156,6 +234,13 @@ dbf_Ref dbf_RowWriter::Finish() {
   const auto& fields = table_->fields;
   for (std::size_t i = 0; i < fields.size(); ++i)
     if (!written_[i]) nex_ThrowCmd("class " + ClassName() + " did not write its field \"" + fields[i].name + "\"");
+  if (over_ && SameAsStored()) {
+    dbf_Ref ref{oid_, table_->cls->TypeId()};
+    table_ = nullptr;
+    over_ = false;
+    DropUnclaimed();
+    return ref;
+  }
   sqlite3_stmt* s = table_->insert.Get();
   sqlite3_bind_int64(s, 1, oid_);
   sqlite3_bind_text(s, 2, uid_, 32, SQLITE_STATIC);
@@ -187,9 +272,12 @@ dbf_Ref dbf_RowWriter::Finish() {
     }
   }
   table_->insert.Run();
-  ++table_->rows;
+  if (!over_) ++table_->rows;
+  table_->touched = true;
   dbf_Ref ref{oid_, table_->cls->TypeId()};
   table_ = nullptr;
+  over_ = false;
   writer_.RowStored();
+  DropUnclaimed();
   return ref;
 }

@@ -8,7 +8,11 @@
 #include <vector>
 
 #include "platform/persist/cls_Visitor.h"
+#include "dbfile/dbf_Patch.h"
 #include "dbfile/dbf_Writer.h"
+
+// The uid as the UID column holds it: 32 hexadecimal digits, no terminator.
+void dbf_HexUid(const cls_Uid& uid, char* out);
 
 class dbf_RowWriter final : public cls_WriteVisitor {
  public:
@@ -32,6 +36,9 @@ class dbf_RowWriter final : public cls_WriteVisitor {
   // Stores the row written since StartWrite and returns its reference. Refuses an object that
   // started no record or left a declared field unwritten.
   dbf_Ref Finish();
+  // In a patch: the next object this writer writes takes the place of the stored one, keeping
+  // its row when it is of the same class.
+  void Expect(const dbf_Stored& old) const { expected_ = old; }
 
  private:
   // By field: plain values in plain_ (texts as bytes that live until Finish: a string written by
@@ -43,6 +50,14 @@ class dbf_RowWriter final : public cls_WriteVisitor {
   };
   std::size_t Slot(const char* name, dbf_Kind kind) const;
   void RefuseNul(std::size_t field, std::string_view text) const;
+  // In a patch, for a member object at field i: its stored reference when the old state held
+  // this very object there; else the child writer is told which stored object it replaces.
+  bool Kept(std::size_t i, const void* obj, dbf_Ref& ref) const;
+  void Pair(std::size_t i, std::size_t position, std::size_t count) const;
+  // Whether the row as bound is the stored one, column for column.
+  bool SameAsStored() const;
+  // Deletes the stored rows of what the old object held and the new one does not.
+  void DropUnclaimed() const;
   std::string ClassName() const;
 
   dbf_Writer& writer_;
@@ -54,4 +69,9 @@ class dbf_RowWriter final : public cls_WriteVisitor {
   mutable std::vector<Cell> cells_;
   mutable std::vector<char> written_;
   mutable std::size_t cursor_ = 0;
+  // A patch's: the stored object this one replaces, and its row when it is written over.
+  mutable dbf_Stored expected_;
+  mutable bool over_ = false;
+  mutable dbf_OldRow old_;
+  mutable std::vector<dbf_Ref> doomed_;  // stored rows to delete once this row is stored
 };

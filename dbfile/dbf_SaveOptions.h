@@ -3,7 +3,16 @@
 #include <cstdint>
 #include <functional>
 
+class dbf_Baseline;
 class dbf_Seen;
+
+// What a save did, for callers that watch its cost.
+struct dbf_SaveStats {
+  bool inPlace = false;       // the file was patched rather than written anew
+  std::int64_t written = 0;   // rows inserted or written over
+  std::int64_t deleted = 0;   // rows deleted
+  std::int64_t changes = 0;   // every row SQLite changed, the file's own tables included
+};
 
 // How the new file is journaled while it is written. The file is new and put in place by a
 // rename, so the journal guards nothing the rename does not; it only costs time.
@@ -20,4 +29,9 @@ struct dbf_SaveOptions {
   // last saved it is refused unless `overwrite`; the target's new state is recorded.
   dbf_Seen* seen = nullptr;
   bool overwrite = false;
+  // What the target held when last saved or opened: when it still describes the file, the save
+  // writes only what changed, in place (journal and page size stay the file's). A save of a
+  // database (dbf_Save) then makes it describe the file as saved.
+  dbf_Baseline* baseline = nullptr;
+  dbf_SaveStats* stats = nullptr;
 };

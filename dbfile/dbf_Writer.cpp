@@ -3,6 +3,7 @@
 #include <cctype>
 
 #include "platform/persist/cls_ClassRegistrar.h"
+#include "dbfile/dbf_Patch.h"
 #include "dbfile/dbf_RowWriter.h"
 #include "platform/base/nex_Exception.h"
 
@@ -21,7 +22,13 @@ void BindText(sqlite3_stmt* s, int i, std::string_view t) {
 
 }  // namespace
 
-dbf_Writer::dbf_Writer(sqlite3* db, const Progress* progress) : db_(db), progress_(progress) {
+dbf_Writer::dbf_Writer(sqlite3* db, const Progress* progress, dbf_Patch* patch)
+    : db_(db), patch_(patch), progress_(progress) {
+  if (patch_) {
+    insertRoot_ =
+        dbf_Statement(db_, "INSERT OR REPLACE INTO " + dbf_Quote(dbf_kRootsTable) + " VALUES (?1, ?2, ?3)");
+    return;
+  }
   const std::string own[] = {
       "CREATE TABLE " + dbf_Quote(dbf_kMetaTable) + " (\"key\" TEXT PRIMARY KEY, \"value\" TEXT NOT NULL)",
       "CREATE TABLE " + dbf_Quote(dbf_kCatalogTable) +
@@ -56,8 +63,16 @@ void dbf_Writer::WriteRoot(const cow_String& name, const cls_ClassMetadata& cls,
   if (const std::size_t at = name.view().find('\0'); at != std::string_view::npos)
     nex_ThrowCmd("a model name holds a NUL character (at offset " + std::to_string(at) + ")");
   dbf_RowWriter& w = WriterAt(0);
+  const dbf_Stored* old = patch_ ? patch_->OldRoot(name) : nullptr;
+  if (old && old->ptr == object) return;  // stored as it is
+  if (old) w.Expect(*old);
   cls.Write(object, w);
   dbf_Ref ref = w.Finish();
+  if (old && old->ref.oid == ref.oid && old->ref.classId == ref.classId) return;
+  WriteRootRow(name, ref);
+}
+
+void dbf_Writer::WriteRootRow(const cow_String& name, const dbf_Ref& ref) {
   sqlite3_stmt* s = insertRoot_.Get();
   BindText(s, 1, name.view());
   sqlite3_bind_int64(s, 2, ref.oid);
@@ -113,16 +128,31 @@ dbf_WriteTable& dbf_Writer::CreateTable(const cls_ClassMetadata& cls) {
   for (std::size_t i = 0; i < table->fields.size(); ++i) table->byName.emplace(table->fields[i].name, i);
   std::string values;
   for (int i = 1; i < param; ++i) values += (i > 1 ? ", ?" : "?") + std::to_string(i);
-  dbf_Statement(db_, "CREATE TABLE " + dbf_Quote(className) + " (" + columns + ")").Run();
-  table->insert = dbf_Statement(db_, "INSERT INTO " + dbf_Quote(className) + " (" + names + ") VALUES (" + values + ")");
+  const dbf_Patch::CatalogRow* stored = patch_ ? patch_->Catalog(className) : nullptr;
+  if (stored) {
+    // Rows written over keep their OID; new rows come after every stored one.
+    table->created = false;
+    table->rows = stored->rows;
+    dbf_Statement last(db_, "SELECT max(" + dbf_Quote(dbf_kOidColumn) + ") FROM " + dbf_Quote(className));
+    last.Step();
+    table->nextOid = sqlite3_column_int64(last.Get(), 0) + 1;
+  } else {
+    dbf_Statement(db_, "CREATE TABLE " + dbf_Quote(className) + " (" + columns + ")").Run();
+  }
+  table->insert = dbf_Statement(db_, std::string(patch_ ? "INSERT OR REPLACE INTO " : "INSERT INTO ") +
+                                         dbf_Quote(className) + " (" + names + ") VALUES (" + values + ")");
   tables_.push_back(std::move(table));
   return *tables_.back();
 }
 
 void dbf_Writer::Finish(int databaseVersion, const char* libraryVersion) {
-  dbf_Statement catalog(db_, "INSERT INTO " + dbf_Quote(dbf_kCatalogTable) + " VALUES (?1, ?2, ?3, ?4, ?5)");
+  if (patch_) DropUnclaimedRoots();
+  // A patch rewrites the catalog rows of the tables it touched; the rest stay true as stored.
+  const std::string verb = patch_ ? "INSERT OR REPLACE INTO " : "INSERT INTO ";
+  dbf_Statement catalog(db_, verb + dbf_Quote(dbf_kCatalogTable) + " VALUES (?1, ?2, ?3, ?4, ?5)");
   dbf_Statement fields(db_, "INSERT INTO " + dbf_Quote(dbf_kFieldsTable) + " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8)");
   for (const auto& t : tables_) {
+    if (patch_ && !t->touched) continue;
     const cls_ClassMetadata& cls = *t->cls;
     sqlite3_stmt* c = catalog.Get();
     BindText(c, 1, cls.Name().view());
@@ -131,6 +161,7 @@ void dbf_Writer::Finish(int databaseVersion, const char* libraryVersion) {
     BindText(c, 4, dbf_FieldTableHash(cls.Attributes()));
     sqlite3_bind_int64(c, 5, t->rows);
     catalog.Run();
+    if (!t->created) continue;
     int position = 0;
     for (const cls_Attribute& a : cls.Attributes()) {
       sqlite3_stmt* f = fields.Get();
@@ -145,7 +176,8 @@ void dbf_Writer::Finish(int databaseVersion, const char* libraryVersion) {
       fields.Run();
     }
   }
-  dbf_Statement meta(db_, "INSERT INTO " + dbf_Quote(dbf_kMetaTable) + " VALUES (?1, ?2)");
+  if (patch_ && rows_ == 0 && patch_->Deleted() == 0) return;  // nothing changed: the file stays as it is
+  dbf_Statement meta(db_, verb + dbf_Quote(dbf_kMetaTable) + " VALUES (?1, ?2)");
   const std::pair<const char*, std::string> entries[] = {
       {"format", dbf_kFormatName},
       {"databaseVersion", std::to_string(databaseVersion)},
@@ -156,6 +188,16 @@ void dbf_Writer::Finish(int databaseVersion, const char* libraryVersion) {
     BindText(meta.Get(), 2, value);
     meta.Run();
   }
+  if (patch_) return;  // the file's identity and version are today's (dbf_Patch checked)
   dbf_Statement(db_, std::string("PRAGMA user_version = ") + std::to_string(databaseVersion)).Run();
   dbf_Statement(db_, std::string("PRAGMA application_id = ") + std::to_string(static_cast<std::int32_t>(dbf_kApplicationId))).Run();
+}
+
+void dbf_Writer::DropUnclaimedRoots() {
+  dbf_Statement drop(db_, "DELETE FROM " + dbf_Quote(dbf_kRootsTable) + " WHERE \"name\" = ?1");
+  for (const auto& [name, stored] : patch_->UnclaimedRoots()) {
+    patch_->DeleteTree(*this, stored->ref);
+    BindText(drop.Get(), 1, name);
+    drop.Run();
+  }
 }

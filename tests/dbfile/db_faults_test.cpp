@@ -6,9 +6,11 @@
 #include <filesystem>
 #include <map>
 
+#include "dbfile/dbf_Baseline.h"
 #include "dbfile/dbf_Faults.h"
 #include "dbfile/dbf_File.h"
 #include "platform/base/nex_Exception.h"
+#include "kad/kadC_AdptMeshCtrlCont.h"
 #include "tests/dbfile/dbtT_Files.h"
 #include "tests/dbfile/dbtT_Sample.h"
 #include "tests/support/qmx_test.h"
@@ -82,6 +84,69 @@ TEST(DbFaults, EveryFailingCallOfASaveLeavesThePreviousFile) {
   // With no fault the save goes through.
   dbf_Save(next, path);
   EXPECT_TRUE(dbf_Open(path) == next);
+}
+
+// The state a save in place writes: changed, new and removed elements of one repository.
+ddr_Database FaultNext(ddr_Database db) {
+  auto& c = *dynamic_cast<kadC_AdptMeshCtrlCont*>(db.ModifyModel("Model-1")->ModifyRepository("adaptiveMeshControls"));
+  for (int i = 1; i <= 300; i += 10) c.Get("C-" + std::to_string(i)).SetInitialFeatureAngle(0.25);
+  for (int i = 0; i < 5; ++i) c.Insert("New-" + std::to_string(i), kadC_AdptMeshCtrl());
+  for (int i = 2; i <= 300; i += 60) c.Remove("C-" + std::to_string(i));
+  return db;
+}
+
+TEST(DbFaults, EveryFailingCallOfASaveInPlaceLeavesThePreviousDatabase) {
+  dbtT_Start();
+  const std::string dir = qmx_TempDir("db-faults-in-place");
+  const std::string path = dir + "/model.odb";
+  const ddr_Database before = dbtT_MakeDatabase(300);
+  dbf_Save(before, path);
+
+  // Saves the next state into the file as it was opened; reports whether it went in place.
+  ddr_Database next;
+  auto saveNext = [&](dbf_FaultPlan* plan) {
+    dbf_Baseline base;
+    next = FaultNext(dbf_Open(path, base));
+    dbf_SaveOptions options;
+    options.baseline = &base;
+    dbf_SaveStats stats;
+    options.stats = &stats;
+    if (!plan) {
+      dbf_Save(next, path, options);
+      return stats.inPlace;
+    }
+    PlanScope scope(*plan);
+    const std::string message = qmx_Catch<nex_CmdError>([&] { dbf_Save(next, path, options); }).Message();
+    const std::string prefix = "Cannot save the model database \"" + path + "\": input/output error while ";
+    EXPECT_EQ(message.substr(0, prefix.size()), prefix) << message;
+    return stats.inPlace;
+  };
+  dbf_FaultPlan count;
+  {
+    PlanScope scope(count);
+    ASSERT_TRUE(saveNext(nullptr));
+  }
+  ASSERT_GT(count.passed, 5);
+  dbf_Save(before, path);  // back to the first state, written whole
+
+  std::map<std::string, int> failedKinds;
+  for (int at = 1; at <= count.passed; ++at) {
+    SCOPED_TRACE(at);
+    dbf_FaultPlan plan;
+    plan.failAt = at;
+    saveNext(&plan);
+    ASSERT_NE(plan.failed, nullptr);
+    ++failedKinds[plan.failed];
+    // Whatever the failed call left (a hot journal included), the file opens as it was.
+    EXPECT_TRUE(dbf_Open(path) == before);
+    EXPECT_EQ(dbtT_ListDir(dir), std::vector<std::string>{"model.odb"});
+  }
+  // SQLite writes the journal and the pages, and syncs both, through the failing calls.
+  for (const char* kind : {"write", "sync"}) EXPECT_GT(failedKinds[kind], 0) << kind;
+  // With no fault the save goes through, in place.
+  EXPECT_TRUE(saveNext(nullptr));
+  EXPECT_TRUE(dbf_Open(path) == next);
+  EXPECT_FALSE(next == before);
 }
 
 }  // namespace

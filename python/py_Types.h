@@ -25,11 +25,14 @@ struct Root {
 };
 
 // An object seen from Python: a path from the database (bound) or member steps from a detached
-// root; steps into lists of objects are positions.
+// root; steps into lists of objects are positions. An element of a list of objects inside a
+// detached object is a copy (the list holds records), so it is frozen: a change to it would be
+// lost, and is refused instead.
 struct Object {
   Session session;
   std::shared_ptr<Root> root;
   cmd_Path path;
+  bool frozen = false;
 };
 
 struct Model {
@@ -37,9 +40,12 @@ struct Model {
   cow_String name;
 };
 
+// A repository of a model or of an object in a model (a path from the database), or a container
+// inside a detached object (`root`, and the member steps from it to the container).
 struct Repository {
   Session session;
   cmd_Path path;
+  std::shared_ptr<Root> root{};
 };
 
 struct Database {
@@ -69,8 +75,34 @@ py::list Dir(py::handle self, const py::list& extra);
 inline constexpr const char* kNoConstructor =
     "An object is made by the constructor of its class, such as CircularProfile(r=1.0)";
 const cls_ClassMetadata& ClassOf(const Object& o);
+// An object of a detached root, followed from the root by member steps.
+struct Found {
+  void* obj;
+  const cls_ClassMetadata* md;
+};
+Found Resolve(const Object& o, bool modify);
+const cls_ClassMetadata& BoundClass(const Object& o);
+// Refuses an Object made without a constructor.
+const Object& Live(const Object& o);
+const cls_ScriptField& FieldOf(const cls_ClassMetadata& md, const std::string& name);
+inline const char* ConstructorKey(const cls_ClassMetadata& md) {
+  return md.FindScriptField("type") ? "$type" : "type";
+}
 py::object Detached(const cls_ClassMetadata& md, void* obj);
-py::object GetMember(const Object& o, const std::string& name);
+// A member by scripting name; `self` is the Python object of `o`. Lists and tables come back as
+// views that write every change through to the object (the class registered as the list view).
+py::object GetMember(py::handle self, const Object& o, const std::string& name);
+// A member's value as plain Python data (lists, dicts), as it is now.
+py::object MemberValue(const Object& o, const std::string& name);
+py::object& ListViewClass();
+// The property of a member on its constructor's class, read without Python's failed attribute
+// lookup first: detached objects of that class read single values through the class metadata
+// directly; everything else as GetMember.
+py::object MemberProperty(const cls_ClassMetadata& md, const cls_ScriptField& f);
+// obj.name = value: a single value of a detached object set directly, everything else as SetMember.
+void SetAttr(const Object& o, const std::string& name, py::handle value);
+// Makes self a new detached object of class md with the given members, in their order.
+void InitNew(Object& self, const cls_ClassMetadata& md, const py::dict& values);
 void SetMember(const Object& o, const std::string& name, py::handle value);
 py::object Validate(const Object& o);
 // The warnings of the advice under what the path names, or on the object (a detached one on its
@@ -81,7 +113,13 @@ cmd_Json ObjectToJson(const Object& o);
 py::list Members(const cls_ClassMetadata& md);
 // The description of a class for its docstring: its members with their types and literals.
 std::string ClassDoc(const cls_ClassMetadata& md);
+// The members of a class for tools (the stub generator): dicts of name, type, literals, optional,
+// constructors (of object members), table (read as rows), container and default.
+py::list ClassFields(const cls_ClassMetadata& md);
+// repr(): the constructor and the members that differ from their defaults, on one line; str():
+// the same, a member a line.
 std::string Repr(const Object& o);
+std::string Str(const Object& o);
 
 // --- repositories and models (py_Containers.cpp) -------------------------------------------------
 
@@ -91,7 +129,10 @@ bool Contains(const std::vector<std::string>& keys, const std::string& key);
 // not a listing of every key).
 std::size_t RepositorySize(const Repository& r);
 bool RepositoryHas(const Repository& r, const std::string& key);
+std::vector<std::string> RepositoryKeys(const Repository& r);
 py::object Element(const Session& s, const cmd_Path& path);
+py::object RepositoryElement(const Repository& r, const std::string& key);
+void DeleteRepositoryElement(const Repository& r, const std::string& key);
 void PutElement(const Repository& r, const std::string& key, py::handle value);
 void DeleteElement(cmd_Session& s, const cmd_Path& path);
 py::object ModelRepository(const Model& m, const std::string& name);

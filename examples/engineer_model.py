@@ -30,9 +30,9 @@ def build(db: qa.Database) -> qa.Model:
     m.amplitudes["Ramp"].data[1][1] = 0.9
     m.profiles["Pipe-50x5"] = qa.PipeProfile(r=50.0, t=5.0, integrationScheme="THICK_WALL")
 
-    m.connectorSections["Bushing"] = qa.ConnectorSection()
-    m.connectorSections["Bushing"].behaviorOptions["0"] = qa.ConnectorElasticity(
-        components=[1, 2, 3], table=[[25000.0, 25000.0, 80000.0]])
+    m.connectorSections["Bushing"] = qa.ConnectorSection(behaviorOptions=[
+        qa.ConnectorElasticity(components=[1, 2, 3], table=[[25000.0, 25000.0, 80000.0]])])
+    m.connectorSections["Bushing"].behaviorOptions[0].table[0][2] = 90000.0  # in place, in the model
 
     m.constraints["Bracket-Plate"] = qa.Tie(master="Plate-Top", slave="Bracket-Foot",
                                              positionToleranceMethod="SPECIFIED", positionTolerance=0.5)
@@ -41,7 +41,8 @@ def build(db: qa.Database) -> qa.Model:
     m.analyticalFields["Temperature"] = qa.ExpressionField(expression="20.0 + 0.5*X")
 
     task = qa.TopologyTask(region="DesignSpace", numDesignCycles=30)
-    task.designResponses["Volume"] = qa.SingleTermDesignResponse()
+    task.designResponses["Volume"] = qa.SingleTermDesignResponse(
+        request=qa.SingleTermRequest(identifier="VOLUME", operation="SUM", drivingRegion="DesignSpace"))
     m.optimizationTasks["Topology"] = task
     m.engineeringFeatures.inertias["Motor"] = qa.PointMassInertia(region="RP-Motor", mass=12.5)
     return m

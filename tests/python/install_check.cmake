@@ -26,7 +26,7 @@ print("imported", qa.__version__, "from", os.path.dirname(qa.__file__))
 ]=])
 execute_process(COMMAND env -i PATH=/usr/bin:/bin PYTHONPATH=${PREFIX}/${SITE} ${PYTHON} -c "${script}"
                         ${PREFIX} ${VERSION} ${PREFIX}/check.odb
-                RESULT_VARIABLE rc)
+                WORKING_DIRECTORY ${PREFIX} RESULT_VARIABLE rc)
 if(NOT rc EQUAL 0)
   message(FATAL_ERROR "importing the installed package failed (${rc})")
 endif()

@@ -1,5 +1,10 @@
 """Lists and tables seen in place: an edit inside one takes effect in its object (detached or in a
 model) or raises with the system's message; it is never lost. Material tables read as their rows."""
+import os
+import pathlib
+import subprocess
+import sys
+
 import pytest
 
 import qmxodbattr as qa
@@ -136,3 +141,20 @@ def test_elements_of_lists_of_objects_in_a_model_change_in_place():
     f = db["M"].optimizationTasks["T"].objectiveFunctions["F"]
     f.objectives[0].weight = 3.0
     assert stored(db, "M", "optimizationTasks", "T", "objectiveFunctions", "F", "objectives", "0", "weight") == 3.0
+
+
+def test_the_engineers_script_keeps_every_edit_in_place(workdir):
+    root = pathlib.Path(os.environ.get("QMX_EXAMPLES_DIR", pathlib.Path(__file__).parents[2] / "examples"))
+    out = workdir / "engineer.odb"
+    run = subprocess.run([sys.executable, str(root / "engineer_model.py"), str(out)], capture_output=True, text=True,
+                         env=dict(os.environ), timeout=120)
+    assert run.returncode == 0, run.stdout + run.stderr
+    assert run.stdout.splitlines()[1:3] == [
+        "Bracket/amplitudes/Short-1 The Time-Amplitude table should have at least two rows of data.",
+        "Bracket/amplitudes/Short-2 The Time-Amplitude table should have at least two rows of data."]
+    m = qa.Database.open(out)["Bracket"]
+    assert m.materials["Al-6061"].plastic.table == [[240.0, 0.0], [290.0, 0.08], [310.0, 0.12]]
+    assert m.materials["Steel-S355"].elastic.table == [[200000.0, 0.3]]
+    assert m.amplitudes["Ramp"].data == [[0.0, 0.0], [1.0, 0.9]]
+    assert m.connectorSections["Bushing"].behaviorOptions[0].table == [[25000.0, 25000.0, 90000.0]]
+    assert list(m.amplitudes) == ["Ramp"]

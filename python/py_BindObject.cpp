@@ -16,12 +16,6 @@ void BindObject(py::module_& m) {
                             "view of an object inside a model. Members are read and set by scripting name.");
   ObjectBase() = object;
   object.def(py::init<>())
-      .def("_init_new",
-           [](Object& self, const std::string& ctor, const py::dict& values) {
-             const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);
-             if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_BindObject.cpp", __LINE__);
-             InitNew(self, *md, values);
-           })
       .def("__getattr__",
            [](py::handle handle, const std::string& name) -> py::object {
              if (name.starts_with("__")) throw py::attribute_error(name);
@@ -29,7 +23,6 @@ void BindObject(py::module_& m) {
              if (!self.root && !self.session) Raise("CmdException", kNoConstructor, "py_BindObject.cpp", __LINE__, nullptr, "MemberError");
              return GetMember(handle, self, name);
            })
-      .def("__setattr__", [](const Object& self, const std::string& name, py::handle value) { SetAttr(self, name, value); })
       .def("__delattr__", [](const Object& self, const std::string& name) { SetMember(self, name, py::none()); })
       .def("__getitem__",
            [](py::handle handle, const std::string& name) { return GetMember(handle, handle.cast<const Object&>(), name); })
@@ -78,6 +71,7 @@ void BindObject(py::module_& m) {
                              },
                              "The path of scripting names of an object inside a database; None when detached.");
   object.attr("__hash__") = py::none();
+  InstallFastSetAttr(object);
   // Members are reached by name; without this, __getitem__ would make objects iterable by position.
   object.attr("__iter__") = py::none();
   ConstructOnNew(object);

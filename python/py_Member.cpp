@@ -39,6 +39,8 @@ bool HoldsList(int type) {
 
 py::object ListView(py::handle owner, const char* member) { return ListViewClass()(owner, member); }
 
+}  // namespace
+
 // A single value as Python holds it.
 py::object Scalar(const cls_Value& v) {
   return std::visit(
@@ -81,6 +83,8 @@ bool Direct(const cls_ScriptField& f, py::handle value, cls_Value& out) {
     default: return false;
   }
 }
+
+namespace {
 
 // The elements of a list of objects: views of the model's elements, or for a detached object
 // frozen copies (the list holds records, so a change to a copy could not reach it).
@@ -209,8 +213,6 @@ void SetMember(const Object& o, const std::string& name, py::handle value) {
   Run(*o.session, std::move(c));
 }
 
-namespace {
-
 bool Single(int type) {
   switch (type) {
     case cls_AttrInt:
@@ -227,21 +229,6 @@ bool Single(int type) {
 // the case the typed accessors serve without walking anything.
 void* OwnRoot(const Object& o, const cls_ClassMetadata* md) {
   return o.root && o.path.empty() && o.root->md == md && &md->ClassOf(o.root->obj) == md ? o.root->obj : nullptr;
-}
-
-}  // namespace
-
-py::object MemberProperty(const cls_ClassMetadata& md, const cls_ScriptField& f) {
-  const cls_ClassMetadata* cls = &md;
-  const cls_ScriptField* field = &f;
-  py::cpp_function get([cls, field](py::handle self) -> py::object {
-    const Object& o = self.cast<const Object&>();
-    if (Single(field->type))
-      if (void* obj = OwnRoot(o, cls)) return Scalar(field->get(obj));
-    if (!o.root && !o.session) Raise("CmdException", kNoConstructor, "py_Member.cpp", __LINE__, nullptr, "MemberError");
-    return GetMember(self, o, field->scriptName);
-  });
-  return py::module_::import("builtins").attr("property")(get);
 }
 
 void SetAttr(const Object& o, const std::string& name, py::handle value) {

@@ -24,7 +24,12 @@ PYBIND11_MODULE(_core, m) {
   BindModel(m);
   BindDatabase(m);
 
-  m.def("_register_class", [](const std::string& ctor, py::object cls) { Classes()[py::str(ctor)] = cls; });
+  m.def("_register_class", [](const std::string& ctor, py::object cls) {
+    const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);
+    if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_Module.cpp", __LINE__);
+    Classes()[py::str(ctor)] = cls;
+    py::setattr(cls, "__init__", FastInitFor(cls, *md));
+  });
   m.def("_register_list_view", [](py::object cls) { ListViewClass() = std::move(cls); });
   m.def("_from_dict",
         [](const py::dict& value) {

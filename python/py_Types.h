@@ -101,6 +101,20 @@ py::object& ListViewClass();
 py::object MemberProperty(const cls_ClassMetadata& md, const cls_ScriptField& f);
 // obj.name = value: a single value of a detached object set directly, everything else as SetMember.
 void SetAttr(const Object& o, const std::string& name, py::handle value);
+// Installs obj.name = value on Object as a plain CPython method (py_Fast.cpp): the pybind11 call
+// machinery costs more than the assignment itself.
+void InstallFastSetAttr(py::handle objectType);
+// The __init__ of the class made for md's constructor: members by keyword, set in their order.
+py::object FastInitFor(py::handle cls, const cls_ClassMetadata& md);
+
+// The typed path (py_Member.cpp): members holding one value, read and set without JSON.
+bool Single(int type);
+py::object Scalar(const cls_Value& v);
+// The value of a plain Python float, bool or str for a member of that kind; false for anything else
+// (which goes through the command layer's checks).
+bool Direct(const cls_ScriptField& f, py::handle value, cls_Value& out);
+// The object itself when `o` is a detached object of class `md` (not a part of one).
+void* OwnRoot(const Object& o, const cls_ClassMetadata* md);
 // Makes self a new detached object of class md with the given members, in their order.
 void InitNew(Object& self, const cls_ClassMetadata& md, const py::dict& values);
 void SetMember(const Object& o, const std::string& name, py::handle value);

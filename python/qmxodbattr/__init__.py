@@ -30,12 +30,8 @@ _surface.install()
 def _make_class(ctor):
     members = tuple(_core.class_members(ctor))
 
-    def __init__(self, **values):
-        Object.__init__(self)
-        self._init_new(ctor, values)
-
-    __init__.__doc__ = _core.class_doc(ctor)
-    namespace = {"__init__": __init__, "__doc__": _core.class_doc(ctor), "__module__": __name__,
+    # __init__ (members by keyword, in their order) is set by _register_class below.
+    namespace = {"__doc__": _core.class_doc(ctor), "__module__": __name__,
                  "__slots__": (), "scripting_members": members}
     # Members as properties, so that reading and setting one skips Python's failed attribute
     # lookup; a member named like a method of Object stays reached by obj["name"].

@@ -78,7 +78,7 @@ PyObject* FastSetAttr(PyObject* self, PyObject* const* args, Py_ssize_t nargs) {
       void* obj = o->root->obj;
       const cls_ScriptField* f = o->root->md->ClassOf(obj).FindScriptField(std::string_view(text, size));
       cls_Value direct;
-      if (f && Direct(*f, value, direct)) {
+      if (f && !f->readOnly && Direct(*f, value, direct)) {
         try {
           f->set(obj, direct);
           Py_RETURN_NONE;

@@ -91,7 +91,7 @@ constexpr cls_MemberDescription kKamDescUserAmplitude[] = {
 constexpr cls_ClassDescription kKamDescriptions[] = {
     {"kamC_ActuatorAmplitude",
      "An amplitude whose values a co-simulated actuator supplies; it has no members of its own.",
-     {}},
+     {}, "kamC_Amplitude"},
     {"kamC_Amplitude",
      "An amplitude: a named function of time (or frequency) that scales loads and boundary "
      "conditions.",

@@ -15,12 +15,12 @@ constexpr cls_MemberDescription kKbeDescCDCTerm[] = {
     {"table",
      "The data table: one row per data point, the data columns first, then the temperature and "
      "field-variable columns its dependencies add"},
-    {"options", "Options"},
+    {"options", "Options of the data table (optional)"},
 };
 constexpr int kKbeCodesCDCTerm[] = {51, 52, 53, 54};
 constexpr cls_MemberDescription kKbeDescConnectorDamage[] = {
-    {"components", "Components"},
-    {"coupling", "Coupling"},
+    {"components", "Connector components it acts on (list of component numbers, 1 to 6)"},
+    {"coupling", "Whether the components act uncoupled or coupled"},
     {"criterion", "Criterion"},
     {"initiationTemperature", "Initiation temperature"},
     {"initiationPotentialOperator", "Initiation potential operator"},
@@ -47,9 +47,9 @@ constexpr cls_MemberDescription kKbeDescConnectorDamage[] = {
 };
 constexpr int kKbeCodesConnectorDamage[] = {4, 46, 16, 41, 48, 49};
 constexpr cls_MemberDescription kKbeDescConnectorDamping[] = {
-    {"components", "Components"},
+    {"components", "Connector components it acts on (list of component numbers, 1 to 6)"},
     {"behavior", "Behavior"},
-    {"coupling", "Coupling"},
+    {"coupling", "Whether the components act uncoupled or coupled"},
     {"dependencies",
      "Number of field-variable dependencies (that many field-variable columns close each row of "
      "the table)"},
@@ -59,18 +59,18 @@ constexpr cls_MemberDescription kKbeDescConnectorDamping[] = {
     {"frequencyDependency",
      "Whether the data depend on frequency (a frequency column follows the data columns of the "
      "table)"},
-    {"independentComponents", "Independent components"},
+    {"independentComponents", "Components that coupled data depend on (list of component numbers)"},
     {"table",
      "The data table: one row per data point, the data columns first, then the temperature and "
      "field-variable columns its dependencies add"},
-    {"options", "Options"},
+    {"options", "Options of the data table (optional)"},
     {"connDampType", "Conn damp type"},
 };
 constexpr int kKbeCodesConnectorDamping[] = {60, 61, 62};
 constexpr cls_MemberDescription kKbeDescConnectorElasticity[] = {
-    {"components", "Components"},
+    {"components", "Connector components it acts on (list of component numbers, 1 to 6)"},
     {"behavior", "Behavior"},
-    {"coupling", "Coupling"},
+    {"coupling", "Whether the components act uncoupled or coupled"},
     {"dependencies",
      "Number of field-variable dependencies (that many field-variable columns close each row of "
      "the table)"},
@@ -80,17 +80,17 @@ constexpr cls_MemberDescription kKbeDescConnectorElasticity[] = {
     {"frequencyDependency",
      "Whether the data depend on frequency (a frequency column follows the data columns of the "
      "table)"},
-    {"independentComponents", "Independent components"},
+    {"independentComponents", "Components that coupled data depend on (list of component numbers)"},
     {"table",
      "The data table: one row per data point, the data columns first, then the temperature and "
      "field-variable columns its dependencies add"},
-    {"options", "Options"},
+    {"options", "Options of the data table (optional)"},
 };
 constexpr cls_MemberDescription kKbeDescConnectorFailure[] = {
-    {"components", "Components"},
+    {"components", "Connector components it acts on (list of component numbers, 1 to 6)"},
     {"releaseComponent", "Release component"},
-    {"minMotion", "Min motion"},
-    {"maxMotion", "Max motion"},
+    {"minMotion", "Smallest relative motion of the components (null: unspecified)"},
+    {"maxMotion", "Largest relative motion of the components (null: unspecified)"},
     {"minForce", "Min force"},
     {"maxForce", "Max force"},
 };
@@ -114,21 +114,21 @@ constexpr cls_MemberDescription kKbeDescConnectorFriction[] = {
     {"forcePotentialExponent", "Force potential exponent"},
     {"connectorPotentials", "Connector potentials"},
     {"lastId", "Last id"},
-    {"independentComponents", "Independent components"},
+    {"independentComponents", "Components that coupled data depend on (list of component numbers)"},
     {"tangentialBehavior", "Tangential behavior"},
-    {"derivedComponent", "Derived component"},
+    {"derivedComponent", "The derived component the behavior acts on (optional)"},
     {"contactForces", "Contact forces"},
     {"table",
      "The data table: one row per data point, the data columns first, then the temperature and "
      "field-variable columns its dependencies add"},
-    {"options", "Options"},
+    {"options", "Options of the data table (optional)"},
 };
 constexpr int kKbeCodesConnectorFriction[] = {6, 18, 17, 19, 34, 35, 38, 39, 41, 42};
 constexpr cls_MemberDescription kKbeDescConnectorLock[] = {
-    {"components", "Components"},
+    {"components", "Connector components it acts on (list of component numbers, 1 to 6)"},
     {"lockingComponent", "Locking component"},
-    {"minMotion", "Min motion"},
-    {"maxMotion", "Max motion"},
+    {"minMotion", "Smallest relative motion of the components (null: unspecified)"},
+    {"maxMotion", "Largest relative motion of the components (null: unspecified)"},
     {"minForce", "Min force"},
     {"maxForce", "Max force"},
 };
@@ -146,8 +146,8 @@ constexpr cls_MemberDescription kKbeDescConnectorOptions[] = {
 };
 constexpr int kKbeCodesConnectorOptions[] = {56, 57, 58, 59};
 constexpr cls_MemberDescription kKbeDescConnectorPlasticity[] = {
-    {"components", "Components"},
-    {"coupling", "Coupling"},
+    {"components", "Connector components it acts on (list of component numbers, 1 to 6)"},
+    {"coupling", "Whether the components act uncoupled or coupled"},
     {"isotropic", "Isotropic"},
     {"isotropicType", "Isotropic type"},
     {"isotropicTemperature", "Isotropic temperature"},
@@ -175,23 +175,23 @@ constexpr cls_MemberDescription kKbeDescConnectorPotential[] = {
     {"positiveExponent", "Positive exponent"},
     {"shiftFactor", "Shift factor"},
     {"hFunction", "H function"},
-    {"derivedComponent", "Derived component"},
+    {"derivedComponent", "The derived component the behavior acts on (optional)"},
 };
 constexpr int kKbeCodesConnectorPotential[] = {37, 36, 40};
 constexpr cls_MemberDescription kKbeDescConnectorSection[] = {
     {"behaviorOptions", "Behavior options"},
 };
 constexpr cls_MemberDescription kKbeDescConnectorStop[] = {
-    {"components", "Components"},
-    {"minMotion", "Min motion"},
-    {"maxMotion", "Max motion"},
+    {"components", "Connector components it acts on (list of component numbers, 1 to 6)"},
+    {"minMotion", "Smallest relative motion of the components (null: unspecified)"},
+    {"maxMotion", "Largest relative motion of the components (null: unspecified)"},
 };
 constexpr int kKbeCodesConnectorStop[] = {1, 14};
 constexpr cls_MemberDescription kKbeDescContactForce[] = {
     {"independentComponent", "Independent component"},
     {"contactForceStyle", "Contact force style"},
     {"contactForceComponent", "Contact force component"},
-    {"derivedComponent", "Derived component"},
+    {"derivedComponent", "The derived component the behavior acts on (optional)"},
     {"table",
      "The data table: one row per data point, the data columns first, then the temperature and "
      "field-variable columns its dependencies add"},

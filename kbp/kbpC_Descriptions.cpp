@@ -4,101 +4,101 @@
 // What the classes of the module and their members mean, by scripting name.
 namespace {
 constexpr cls_MemberDescription kKbpDescArbitraryProfile[] = {
-    {"table", "Table"},
+    {"table", "The points (table: x, y, thickness of the segment that ends at the point)"},
 };
 constexpr int kKbpCodesArbitraryProfile[] = {11, 12, 38};
 constexpr cls_MemberDescription kKbpDescBoxProfile[] = {
-    {"a", "A"},
-    {"b", "B"},
-    {"uniformThickness", "Uniform thickness"},
-    {"t1", "T1"},
-    {"t2", "T2"},
-    {"t3", "T3"},
-    {"t4", "T4"},
+    {"a", "Width (above 0)"},
+    {"b", "Height (above 0)"},
+    {"uniformThickness", "Whether one wall thickness t1 holds for all four walls"},
+    {"t1", "Thickness of the first wall (the only one when uniform)"},
+    {"t2", "Thickness of the second wall"},
+    {"t3", "Thickness of the third wall"},
+    {"t4", "Thickness of the fourth wall"},
 };
 constexpr int kKbpCodesBoxProfile[] = {7, 8, 10, 15, 16, 11, 13, 14};
 constexpr cls_MemberDescription kKbpDescCbeamProfile[] = {
-    {"l", "L"},
-    {"h", "H"},
-    {"b1", "B1"},
-    {"b2", "B2"},
-    {"t1", "T1"},
-    {"t2", "T2"},
-    {"t3", "T3"},
-    {"o", "O"},
+    {"l", "Distance of the reference point from the bottom flange"},
+    {"h", "Height (above 0)"},
+    {"b1", "Width of the bottom flange"},
+    {"b2", "Width of the top flange"},
+    {"t1", "Thickness of the bottom flange"},
+    {"t2", "Thickness of the top flange"},
+    {"t3", "Thickness of the web (above 0)"},
+    {"o", "Offset o of the profile"},
 };
 constexpr int kKbpCodesCbeamProfile[] = {7, 18, 21, 19, 11, 40, 16, 39, 20};
 constexpr cls_MemberDescription kKbpDescCircularProfile[] = {
-    {"r", "R"},
+    {"r", "Radius (above 0)"},
 };
 constexpr int kKbpCodesCircularProfile[] = {9};
 constexpr cls_MemberDescription kKbpDescGeneralizedProfile[] = {
-    {"area", "Area"},
-    {"i11", "I11"},
-    {"i12", "I12"},
-    {"i22", "I22"},
-    {"j", "J"},
-    {"gammaO", "Gamma o"},
-    {"gammaW", "Gamma w"},
+    {"area", "Cross-section area (above 0)"},
+    {"i11", "Moment of inertia about the first axis (above 0)"},
+    {"i12", "Product of inertia"},
+    {"i22", "Moment of inertia about the second axis (at least 0)"},
+    {"j", "Torsional constant (at least 0)"},
+    {"gammaO", "Sectorial moment about the shear center"},
+    {"gammaW", "Warping constant"},
 };
 constexpr int kKbpCodesGeneralizedProfile[] = {0, 1, 6, 2, 3, 5};
 constexpr cls_MemberDescription kKbpDescHatProfile[] = {
-    {"l", "L"},
-    {"h", "H"},
-    {"b", "B"},
-    {"b1", "B1"},
-    {"b2", "B2"},
-    {"t1", "T1"},
-    {"t2", "T2"},
-    {"t3", "T3"},
+    {"l", "Distance of the reference point from the bottom"},
+    {"h", "Height (above 0)"},
+    {"b", "Width of the top"},
+    {"b1", "Bottom flange width b1"},
+    {"b2", "Bottom flange width b2 (at least one flange width above 0)"},
+    {"t1", "Thickness of the top"},
+    {"t2", "Thickness of the bottom flanges"},
+    {"t3", "Thickness of the webs (above 0)"},
 };
 constexpr int kKbpCodesHatProfile[] = {7, 18, 11, 40, 16, 41, 20, 21, 19};
 constexpr cls_MemberDescription kKbpDescHexagonalProfile[] = {
-    {"r", "R"},
-    {"t", "T"},
+    {"r", "Outer radius (above 0)"},
+    {"t", "Wall thickness (above 0, below sqrt(3)/2 times r)"},
 };
 constexpr int kKbpCodesHexagonalProfile[] = {9, 27, 22};
 constexpr cls_MemberDescription kKbpDescIbeamProfile[] = {
-    {"l", "L"},
-    {"h", "H"},
-    {"b1", "B1"},
-    {"b2", "B2"},
-    {"t1", "T1"},
-    {"t2", "T2"},
-    {"t3", "T3"},
+    {"l", "Distance of the reference point from the bottom flange"},
+    {"h", "Height (above 0)"},
+    {"b1", "Width of the bottom flange"},
+    {"b2", "Width of the top flange"},
+    {"t1", "Thickness of the bottom flange"},
+    {"t2", "Thickness of the top flange"},
+    {"t3", "Thickness of the web (above 0)"},
 };
 constexpr int kKbpCodesIbeamProfile[] = {7, 18, 19, 21, 20, 11};
 constexpr cls_MemberDescription kKbpDescLbeamProfile[] = {
-    {"a", "A"},
-    {"b", "B"},
-    {"t1", "T1"},
-    {"t2", "T2"},
+    {"a", "Width of the horizontal leg (above 0)"},
+    {"b", "Height of the vertical leg (above 0)"},
+    {"t1", "Thickness of the horizontal leg (below b)"},
+    {"t2", "Thickness of the vertical leg (below a)"},
 };
 constexpr int kKbpCodesLbeamProfile[] = {23, 24, 28, 29, 32, 34};
 constexpr cls_MemberDescription kKbpDescPipeProfile[] = {
-    {"r", "R"},
-    {"t", "T"},
-    {"integrationScheme", "\"THIN_WALL\", \"THICK_WALL\""},
+    {"r", "Outer radius (above 0)"},
+    {"t", "Wall thickness (above 0, below r)"},
+    {"integrationScheme", "Whether the wall is integrated as thin or as thick"},
 };
 constexpr int kKbpCodesPipeProfile[] = {9, 10, 17};
 constexpr cls_MemberDescription kKbpDescRectangularProfile[] = {
-    {"a", "A (width)"},
-    {"b", "B (height)"},
+    {"a", "Width (above 0)"},
+    {"b", "Height (above 0)"},
 };
 constexpr int kKbpCodesRectangularProfile[] = {23, 24};
 constexpr cls_MemberDescription kKbpDescTbeamProfile[] = {
-    {"b", "B"},
-    {"h", "H"},
-    {"l", "L"},
-    {"tf", "Tf"},
-    {"tw", "Tw"},
+    {"b", "Width of the flange (above 0)"},
+    {"h", "Height (above 0)"},
+    {"l", "Distance of the reference point from the flange"},
+    {"tf", "Thickness of the flange (above 0, below h)"},
+    {"tw", "Thickness of the web (above 0, below b)"},
 };
 constexpr int kKbpCodesTbeamProfile[] = {24, 26, 31, 30, 36, 37};
 constexpr cls_MemberDescription kKbpDescTrapezoidalProfile[] = {
-    {"a", "A"},
-    {"b", "B"},
-    {"c", "C"},
-    {"d", "D"},
+    {"a", "Width of the bottom (above 0)"},
+    {"b", "Height (above 0)"},
+    {"c", "Width of the top (above 0)"},
+    {"d", "Offset of the top from the bottom"},
 };
 constexpr int kKbpCodesTrapezoidalProfile[] = {23, 24, 25};
 constexpr cls_ClassDescription kKbpDescriptions[] = {

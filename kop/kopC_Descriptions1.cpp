@@ -7,14 +7,14 @@ constexpr cls_MemberDescription kKopDescBeadCyclicSymmetry[] = {
     {"region", "The region it applies to"},
     {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"repetitiveSectors", "Repetitive sectors"},
-    {"angle", "Angle"},
+    {"angle", "Angle (degrees)"},
 };
 constexpr int kKopCodesBeadCyclicSymmetry[] = {35};
 constexpr cls_MemberDescription kKopDescBeadFixedRegion[] = {
     {"region", "The region it applies to"},
-    {"u1", "U1"},
-    {"u2", "U2"},
-    {"u3", "U3"},
+    {"u1", "Whether displacement along direction 1 is constrained"},
+    {"u2", "Whether displacement along direction 2 is constrained"},
+    {"u3", "Whether displacement along direction 3 is constrained"},
 };
 constexpr int kKopCodesBeadFixedRegion[] = {126};
 constexpr cls_MemberDescription kKopDescBeadFrozenArea[] = {
@@ -42,7 +42,7 @@ constexpr cls_MemberDescription kKopDescBeadPointSymmetry[] = {
 constexpr cls_MemberDescription kKopDescBeadRotationalSymmetry[] = {
     {"region", "The region it applies to"},
     {"csys", "The datum coordinate system of its directions (empty: the global system)"},
-    {"angle", "Angle"},
+    {"angle", "Angle (degrees)"},
 };
 constexpr int kKopCodesBeadRotationalSymmetry[] = {16};
 constexpr cls_MemberDescription kKopDescBeadTask[] = {
@@ -53,13 +53,13 @@ constexpr cls_MemberDescription kKopDescBeadTask[] = {
     {"modeTrackingRegion", "Mode tracking region"},
     {"updateNodalNormals", "Update nodal normals"},
     {"flipNormalDir", "Flip normal dir"},
-    {"beadWidth", "Greater than 0, 117"},
-    {"minStress", "Not negative, 118"},
-    {"maxMembraneStress", "Not negative, 119"},
-    {"curveSmooth", "Greater than 0, 120"},
-    {"nodeSmooth", "Greater than 0, 121"},
-    {"beadIter", "At least 1, 122"},
-    {"beadPerturbation", "Greater than 0, 123"},
+    {"beadWidth", "Bead width (greater than 0)"},
+    {"minStress", "Min stress (not negative)"},
+    {"maxMembraneStress", "Max membrane stress (not negative)"},
+    {"curveSmooth", "Curve smooth (greater than 0)"},
+    {"nodeSmooth", "Node smooth (greater than 0)"},
+    {"beadIter", "Bead iter (at least 1)"},
+    {"beadPerturbation", "Bead perturbation (greater than 0)"},
     {"filterRadius", "Filter radius"},
     {"isSensCalcOnlyOnDesignNodes", "Is sens calc only on design nodes"},
     {"areBCRegionsFrozen", "Are BC regions frozen"},
@@ -96,7 +96,7 @@ constexpr cls_MemberDescription kKopDescCyclicSymmetry[] = {
     {"region", "The region it applies to"},
     {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"repetitiveSectors", "Repetitive sectors"},
-    {"angle", "Angle"},
+    {"angle", "Angle (degrees)"},
 };
 constexpr int kKopCodesCyclicSymmetry[] = {35};
 constexpr cls_MemberDescription kKopDescDemoldControl[] = {
@@ -120,9 +120,9 @@ constexpr cls_MemberDescription kKopDescDrillControl[] = {
 constexpr int kKopCodesDrillControl[] = {9};
 constexpr cls_MemberDescription kKopDescFixedRegion[] = {
     {"region", "The region it applies to"},
-    {"u1", "U1"},
-    {"u2", "U2"},
-    {"u3", "U3"},
+    {"u1", "Whether displacement along direction 1 is constrained"},
+    {"u2", "Whether displacement along direction 2 is constrained"},
+    {"u3", "Whether displacement along direction 3 is constrained"},
 };
 constexpr int kKopCodesFixedRegion[] = {126};
 constexpr cls_MemberDescription kKopDescFrozenArea[] = {
@@ -185,7 +185,7 @@ constexpr cls_MemberDescription kKopDescOrimStopCondition[] = {
 };
 constexpr int kKopCodesOrimStopCondition[] = {5};
 constexpr cls_MemberDescription kKopDescOrimTask[] = {
-    {"algorithm", "Algorithm"},
+    {"algorithm", "The optimization algorithm"},
     {"tessarSensitivities", "Tessar sensitivities"},
     {"groupOperator", "Group operator"},
 };
@@ -216,14 +216,14 @@ constexpr cls_MemberDescription kKopDescRibControl[] = {
 constexpr int kKopCodesRibControl[] = {135, 136};
 constexpr cls_MemberDescription kKopDescRotationalSymmetry[] = {
     {"region", "The region it applies to"},
-    {"angle", "Angle"},
+    {"angle", "Angle (degrees)"},
 };
 constexpr int kKopCodesRotationalSymmetry[] = {16};
 constexpr cls_MemberDescription kKopDescShapeCyclicSymmetry[] = {
     {"region", "The region it applies to"},
     {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"repetitiveSectors", "Repetitive sectors"},
-    {"angle", "Angle"},
+    {"angle", "Angle (degrees)"},
 };
 constexpr int kKopCodesShapeCyclicSymmetry[] = {35};
 constexpr cls_MemberDescription kKopDescShapeDemoldControl[] = {
@@ -273,7 +273,7 @@ constexpr cls_ClassDescription kKopDescriptions1[] = {
      kKopDescBeadRotationalSymmetry, nullptr, kKopCodesBeadRotationalSymmetry},
     {"kopC_BeadTask",
      "A bead optimization task: shell nodes move along their normals to form stiffening beads.",
-     kKopDescBeadTask, nullptr, kKopCodesBeadTask},
+     kKopDescBeadTask, "kopC_OrimTask", kKopCodesBeadTask},
     {"kopC_BeadTranslationalSymmetry",
      "Keeps a bead design repeating itself along a direction.",
      kKopDescBeadTranslationalSymmetry, nullptr, kKopCodesBeadTranslationalSymmetry},
@@ -331,7 +331,7 @@ constexpr cls_ClassDescription kKopDescriptions1[] = {
      kKopDescOrimStopCondition, nullptr, kKopCodesOrimStopCondition},
     {"kopC_OrimTask",
      "The task of the optimization module: the algorithm and the settings every kind shares.",
-     kKopDescOrimTask},
+     kKopDescOrimTask, "kopC_Task"},
     {"kopC_OverhangControl",
      "Limits the overhang a topology design may build, for additive manufacturing.",
      kKopDescOverhangControl, nullptr, kKopCodesOverhangControl},

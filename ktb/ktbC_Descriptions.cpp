@@ -38,15 +38,17 @@ constexpr cls_MemberDescription kKtbDescEventSeriesType[] = {
 };
 constexpr cls_MemberDescription kKtbDescParameterColumn[] = {
     {"name", "Its name"},
-    {"paramDescription", "Param description"},
-    {"paramUnit", "Param unit"},
-    {"parameterType", "Parameter type"},
-    {"paramDefaultVal_float", "Param default val float"},
-    {"paramDefaultVal_int", "Param default val int"},
-    {"paramDefaultVal_str", "Param default val str"},
-    {"paramAllowedVal_float", "Param allowed val float"},
-    {"paramAllowedVal_int", "Param allowed val int"},
-    {"paramAllowedVal_str", "Param allowed val str"},
+    {"paramDescription", "What the parameter means"},
+    {"paramUnit", "The parameter's unit"},
+    {"parameterType", "Whether the parameter's values are numbers, integers or strings"},
+    {"paramDefaultVal_float", "The default as stored for a number parameter"},
+    {"paramDefaultVal_int", "The default as stored for an integer parameter"},
+    {"paramDefaultVal_str", "The default as stored for a string parameter"},
+    {"paramAllowedVal_float", "The allowed values as stored for a number parameter"},
+    {"paramAllowedVal_int", "The allowed values as stored for an integer parameter"},
+    {"paramAllowedVal_str", "The allowed values as stored for a string parameter"},
+    {"default", "The default value, of the parameter's type"},
+    {"allowedValues", "The values the parameter may take (list, of the parameter's type)"},
 };
 constexpr cls_MemberDescription kKtbDescParameterTable[] = {
     {"label", "Its label"},
@@ -75,7 +77,7 @@ constexpr cls_MemberDescription kKtbDescTransformation[] = {
     {"transformType", "Transform type"},
     {"vector", "Vector"},
     {"point", "Point"},
-    {"angle", "Angle"},
+    {"angle", "Angle (degrees)"},
 };
 constexpr cls_ClassDescription kKtbDescriptions[] = {
     {"ktbC_ActivateElem",

@@ -63,8 +63,8 @@ TEST(Descriptions, MembersByScriptingNameWithUnitsAndLayouts) {
       {"AdaptiveMeshControl", "initialFeatureAngle", "Feature angle of the initial geometry (degrees, 0 to 180)"},
       {"TabularAmplitude", "data", "Data (table: time, amplitude)"},
       // inherited from the amplitude base, described there once
-      {"TabularAmplitude", "timeSpan", "Time span"},
-      {"DecayAmplitude", "timeSpan", "Time span"},
+      {"TabularAmplitude", "timeSpan", "Whether times count from the step's start or from the analysis' start"},
+      {"DecayAmplitude", "timeSpan", "Whether times count from the step's start or from the analysis' start"},
       {"Elastic", "moduli", "Time scale of the moduli"},
   };
   for (const auto& c : cases) {

@@ -76,7 +76,7 @@ bool RepositoryHas(const Repository& r, const std::string& key) {
 
 py::object RepositoryElement(const Repository& r, const std::string& key) {
   if (!r.root) return Element(r.session, Append(r.path, key));
-  Object e{nullptr, r.root, Append(r.path, key)};
+  Object e{nullptr, r.root, Append(r.path, key), r.frozen};
   const cls_ClassMetadata* md = nullptr;
   Guarded([&] { md = Resolve(e, false).md; }, "NotFoundError");
   return Wrap(*md, std::move(e));
@@ -103,6 +103,7 @@ void PutElement(const Repository& r, const std::string& key, py::handle value) {
   const std::string type = v[k];
   v.erase(k);
   if (r.root) {
+    if (r.frozen) RefuseFrozen(key);
     // Made whole before the container is touched, so that a refusal leaves it as it was.
     mdl_Repository* repo = DetachedRepository(r, true);
     Guarded([&] {
@@ -126,6 +127,7 @@ void DeleteElement(cmd_Session& s, const cmd_Path& path) {
 
 void DeleteRepositoryElement(const Repository& r, const std::string& key) {
   if (!r.root) return DeleteElement(*r.session, Append(r.path, key));
+  if (r.frozen) RefuseFrozen(key);
   mdl_Repository* repo = DetachedRepository(r, true);
   Guarded([&] {
     if (!repo->RemoveKey(cow_String(key))) repo->RefuseMissingKey(cow_String(key));

@@ -110,7 +110,7 @@ py::tuple ObjectList(const Object& o, const std::string& name, const std::vector
 
 // An object inside an object: a table shorthand reads as its rows, a container as a repository.
 py::object Inner(const cls_ClassMetadata& cm, Object child, bool container) {
-  if (container) return py::cast(Repository{child.session, std::move(child.path), child.root});
+  if (container) return py::cast(Repository{child.session, std::move(child.path), child.root, child.frozen});
   if (const cls_ScriptField* t = cmd_TableShorthand(cm)) return ListView(Wrap(cm, std::move(child)), t->scriptName);
   return Wrap(cm, std::move(child));
 }
@@ -170,13 +170,16 @@ py::object MemberValue(const Object& o, const std::string& name) {
   return result;
 }
 
+void RefuseFrozen(const std::string& name) {
+  Raise("CmdException", "An element of a list of objects inside a detached object is a copy; set the whole list "
+        "(or put the object into a model first) to change \"" + name + "\"", "py_Member.cpp", __LINE__,
+        nullptr, nullptr, cmd_Json(name));
+}
+
 void SetMember(const Object& o, const std::string& name, py::handle value) {
   const cls_ClassMetadata& md = ClassOf(o);
   const cls_ScriptField& f = FieldOf(md, name);
-  if (o.frozen)
-    Raise("CmdException", "An element of a list of objects inside a detached object is a copy; set the whole list "
-          "(or put the object into a model first) to change \"" + name + "\"", "py_Member.cpp", __LINE__,
-          nullptr, nullptr, cmd_Json(name));
+  if (o.frozen) RefuseFrozen(name);
   if (o.root) {
     cls_Value direct;
     const bool fast = Direct(f, value, direct);

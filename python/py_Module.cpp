@@ -66,6 +66,11 @@ PYBIND11_MODULE(_core, m) {
           if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_Module.cpp", __LINE__);
           return ClassDoc(*md);
         });
+  m.def("_class_summary", [](const std::string& ctor) {
+    const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);
+    if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_Module.cpp", __LINE__);
+    return std::string(md->Summary());
+  });
   m.def("_class_fields", [](const std::string& ctor) {
     const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);
     if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_Module.cpp", __LINE__);

@@ -120,8 +120,9 @@ std::string PythonType(const cls_ScriptField& f) {
 }  // namespace
 
 std::string ClassDoc(const cls_ClassMetadata& md) {
-  std::string doc = std::string(md.ScriptName()) + "(**members): keywords by member name, each as an assignment sets it.\n";
-  doc += "\nMembers, by Python name: type = default";
+  std::string doc = std::string(md.ScriptName()) + "(**members)\n\n";
+  if (*md.Summary()) doc += std::string(md.Summary()) + "\n\n";
+  doc += "Keywords of the constructor and members, by Python name: type = default";
   doc += md.ScriptFields().empty() ? ": none\n" : "\n";
   const cmd_Json& defaults = DefaultsOf(md);
   for (const auto& f : md.ScriptFields()) {
@@ -134,6 +135,8 @@ std::string ClassDoc(const cls_ClassMetadata& md) {
       for (int i = 0; i < omu_LiteralCount(f.literals); ++i) doc += std::string(i ? ", " : " ") + '"' + f.literals[i].text + '"';
     }
     doc += "\n";
+    if (const char* meaning = md.MemberDescription(f.scriptName); meaning && *meaning)
+      doc += "        " + std::string(meaning) + "\n";
   }
   return doc;
 }
@@ -171,6 +174,7 @@ py::list ClassFields(const cls_ClassMetadata& md) {
     d["container"] = container;
     auto def = defaults.find(f.scriptName);
     d["default"] = def != defaults.end() ? FromJson(*def) : py::none();
+    d["meaning"] = std::string(md.MemberDescription(f.scriptName) ? md.MemberDescription(f.scriptName) : "");
     out.append(std::move(d));
   }
   return out;

@@ -46,6 +46,7 @@ struct Repository {
   Session session;
   cmd_Path path;
   std::shared_ptr<Root> root{};
+  bool frozen = false;  // inside a copy of an element of a list of objects, as Object::frozen
 };
 
 struct Database {
@@ -94,6 +95,8 @@ py::object Detached(const cls_ClassMetadata& md, void* obj);
 py::object GetMember(py::handle self, const Object& o, const std::string& name);
 // A member's value as plain Python data (lists, dicts), as it is now.
 py::object MemberValue(const Object& o, const std::string& name);
+// Refuses a change to a frozen object (a copy of an element of a list of objects).
+[[noreturn]] void RefuseFrozen(const std::string& name);
 py::object& ListViewClass();
 // The property of a member on its constructor's class, read without Python's failed attribute
 // lookup first: detached objects of that class read single values through the class metadata

@@ -153,6 +153,11 @@ def type_of(field, known):
     return "Any"
 
 
+def docstring(text):
+    """A docstring literal of the text (an attribute's docstring, as editors show it)."""
+    return repr(text)
+
+
 def main(out):
     known = set(_core.constructors())
     lines = [HEAD]
@@ -160,15 +165,17 @@ def main(out):
         if ctor in {"Database", "Model", "Repository", "Object"}:
             continue
         fields = _core._class_fields(ctor)
-        summary = _core.class_doc(ctor).splitlines()[0]
+        summary = _core._class_summary(ctor) or ctor
         lines.append(f"class {ctor}(Object):")
-        lines.append(f"    \"\"\"{summary}\"\"\"")
+        lines.append(f"    {docstring(summary)}")
         params = []
         for f in fields:
             t = type_of(f, known)
             usable = f["name"].isidentifier() and not keyword.iskeyword(f["name"])
             if usable and f["name"] not in TAKEN:
                 lines.append(f"    {f['name']}: {t}")
+                if f["meaning"]:
+                    lines.append(f"    {docstring(f['meaning'])}")
             if usable:
                 params.append(f"{f['name']}: {t} = ...")
         sig = ", ".join(["self", "*"] + params) if params else "self"

@@ -255,21 +255,21 @@ void InitNew(Object& self, const cls_ClassMetadata& md, const py::dict& values) 
   cmd_OwnedObject obj = Guarded([&] {
     try {
       if (!md.CanConstruct()) return cmd_NewObject(md, nullptr);  // refused with the library's message
-      cmd_OwnedObject made(md.NewDefault(), cmd_ObjectDeleter{&md});
-      // In the order given, each member as an assignment sets it: plain values directly, the rest
-      // through the command layer's conversions.
+      // Plain values of single members are set directly, in the order given; any other value
+      // makes the whole object through the command layer's conversions (which also admit the
+      // read-only members a constructor takes).
+      std::vector<std::pair<const cls_ScriptField*, cls_Value>> direct;
       for (auto item : values) {
-        const std::string name = TextOf(item.first);
-        const cls_ScriptField* f = md.FindScriptField(name);
-        cls_Value direct;
-        if (f && Direct(*f, item.second, direct)) {
-          cmd_WithinMember(name, [&] { f->set(made.get(), direct); });
-          continue;
+        const cls_ScriptField* f = md.FindScriptField(TextOf(item.first));
+        cls_Value v;
+        if (!f || !Direct(*f, item.second, v)) {
+          const cmd_Json all = ToJson(values);
+          return cmd_NewObject(md, &all);
         }
-        cmd_Json one = cmd_Json::object();
-        one[name] = ToJson(item.second);
-        cmd_SetValues(made.get(), md, one);
+        direct.emplace_back(f, std::move(v));
       }
+      cmd_OwnedObject made(md.NewDefault(), cmd_ObjectDeleter{&md});
+      for (auto& [f, v] : direct) cmd_WithinMember(f->scriptName, [&] { f->set(made.get(), v); });
       return made;
     } catch (const cmd_MemberError& e) {
       // A keyword the constructor does not take, as Python reports one: also a TypeError.

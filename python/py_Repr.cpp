@@ -134,6 +134,7 @@ std::string ClassDoc(const cls_ClassMetadata& md) {
       doc += f.type == cls_AttrEnum || f.type == cls_AttrEnumList ? "; one of" : "; or one of";
       for (int i = 0; i < omu_LiteralCount(f.literals); ++i) doc += std::string(i ? ", " : " ") + '"' + f.literals[i].text + '"';
     }
+    if (f.readOnly) doc += " (read-only: given only to the constructor)";
     doc += "\n";
     if (const char* meaning = md.MemberDescription(f.scriptName); meaning && *meaning)
       doc += "        " + std::string(meaning) + "\n";

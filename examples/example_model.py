@@ -13,7 +13,7 @@ import tempfile
 import qmxodbattr as qa
 
 
-def build(db):
+def build(db: qa.Database) -> qa.Model:
     m = db.create_model("Model-1")
 
     # Adaptive mesh controls: the defaults, and a refined setup changed member by member.
@@ -46,7 +46,7 @@ def build(db):
     return m
 
 
-def main(argv):
+def main(argv: list[str]) -> int:
     path = argv[1] if len(argv) > 1 else os.path.join(tempfile.gettempdir(), "example_model.odb")
     db = qa.Database()
     model = build(db)
@@ -78,7 +78,8 @@ def main(argv):
     for name in reopened:
         m = reopened[name]
         for repo in m.repositories():
-            keys = list(m[repo])
+            held = m[repo]  # a repository, or an object holding repositories (engineeringFeatures)
+            keys = list(held) if isinstance(held, qa.Repository) else []
             if keys:
                 print(f"{name}/{repo}: {', '.join(keys)}")
     print(f"saved and reopened {path}")

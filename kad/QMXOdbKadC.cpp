@@ -8,6 +8,7 @@
 #include "kad/kadC_AdptMeshCtrl_829.h"
 #include "kad/kadC_AdptMeshDomCont.h"
 #include "kad/kadC_AdptMeshDomain.h"
+#include "kad/kadC_Descriptions.h"
 #include "platform/base/bas_StartCount.h"
 #include "platform/base/bas_StartJournal.h"
 #include "platform/persist/cls_ClassRegistrar.h"
@@ -50,6 +51,7 @@ int QMXOdbKadC_count() { return count; }
 
 void QMXOdbKadC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kadC_RegisterDescriptions();
   kadC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKadC");
   typ_ArchCompTable::InsertEntry(kArchKey, kadC_ArchEntry());
@@ -80,6 +82,7 @@ void QMXOdbKadC_initialize(int& tally) {
 
 void QMXOdbKadC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kadC_UnregisterDescriptions();
   kadC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKadC");
   ddr_Model::UnRegisterAdaptiveMeshControlContainer();

@@ -11,6 +11,7 @@
 #include "kam/kamC_BaselineCorrection.h"
 #include "kam/kamC_CorrelationComponent.h"
 #include "kam/kamC_Decay.h"
+#include "kam/kamC_Descriptions.h"
 #include "kam/kamC_EquallySpaced.h"
 #include "kam/kamC_EquallySpaced_203.h"
 #include "kam/kamC_Modulated.h"
@@ -81,6 +82,7 @@ int QMXOdbKamC_count() { return count; }
 
 void QMXOdbKamC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kamC_RegisterDescriptions();
   kamC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKamC");
   typ_ArchCompTable::InsertEntry(kArchKey, kamC_ArchEntry());
@@ -118,6 +120,7 @@ void QMXOdbKamC_initialize(int& tally) {
 
 void QMXOdbKamC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kamC_UnregisterDescriptions();
   kamC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKamC");
   ddr_Model::UnRegisterExtension(kamC_AmplitudeContainer::Names::kRepositoryName);

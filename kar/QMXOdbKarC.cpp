@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "kar/karC_Descriptions.h"
 #include "kar/karC_RRWrapper.h"
 #include "kar/karC_RemeshingRule.h"
 #include "kar/karC_RemeshingRuleCont.h"
@@ -41,6 +42,7 @@ int QMXOdbKarC_count() { return count; }
 
 void QMXOdbKarC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  karC_RegisterDescriptions();
   bas_StartJournal::Start("QMXOdbKarC");
   typ_ArchCompTable::InsertEntry(kArchKey, karC_ArchEntry());
   {
@@ -58,6 +60,7 @@ void QMXOdbKarC_initialize(int& tally) {
 
 void QMXOdbKarC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  karC_UnregisterDescriptions();
   bas_StartJournal::Stop("QMXOdbKarC");
   ddr_Model::UnRegisterExtension(karC_RemeshingRuleCont::Names::kRepositoryName);
 }

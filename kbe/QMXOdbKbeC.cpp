@@ -20,6 +20,7 @@
 #include "kbe/kbeC_ConnectorStop.h"
 #include "kbe/kbeC_ContactForce.h"
 #include "kbe/kbeC_DerivedComponent.h"
+#include "kbe/kbeC_Descriptions.h"
 #include "kbe/kbeC_Legacy.h"
 #include "kbe/kbeC_TangentialBehavior.h"
 #include "platform/base/bas_StartCount.h"
@@ -123,6 +124,7 @@ int QMXOdbKbeC_count() { return count; }
 
 void QMXOdbKbeC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kbeC_RegisterDescriptions();
   bas_StartJournal::Start("QMXOdbKbeC");
   typ_ArchCompTable::InsertEntry(kArchKey, kbeC_ArchEntry());
   {
@@ -159,6 +161,7 @@ void QMXOdbKbeC_initialize(int& tally) {
 
 void QMXOdbKbeC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kbeC_UnregisterDescriptions();
   bas_StartJournal::Stop("QMXOdbKbeC");
   ddr_Model::UnRegisterExtension(kbeC_ConnectorSectionContainer::Names::kRepositoryName);
 }

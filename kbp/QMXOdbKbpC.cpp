@@ -9,6 +9,7 @@
 #include "kbp/kbpC_BoxProfile.h"
 #include "kbp/kbpC_CbeamProfile.h"
 #include "kbp/kbpC_CircularProfile.h"
+#include "kbp/kbpC_Descriptions.h"
 #include "kbp/kbpC_GeneralizedProfile.h"
 #include "kbp/kbpC_HatProfile.h"
 #include "kbp/kbpC_HexagonalProfile.h"
@@ -68,6 +69,7 @@ int QMXOdbKbpC_count() { return count; }
 
 void QMXOdbKbpC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kbpC_RegisterDescriptions();
   bas_StartJournal::Start("QMXOdbKbpC");
   typ_ArchCompTable::InsertEntry(kArchKey, kbpC_ArchEntry());
   {
@@ -97,6 +99,7 @@ void QMXOdbKbpC_initialize(int& tally) {
 
 void QMXOdbKbpC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kbpC_UnregisterDescriptions();
   bas_StartJournal::Stop("QMXOdbKbpC");
   ddr_Model::UnRegisterExtension(kbpC_BeamProfileContainer::Names::kRepositoryName);
   kbpC_ReleaseDisplayLabels();

@@ -9,6 +9,7 @@
 #include "kco/kcoC_ConstraintTypeLabelMap.h"
 #include "kco/kcoC_Coupling.h"
 #include "kco/kcoC_DdbDisplayBody.h"
+#include "kco/kcoC_Descriptions.h"
 #include "kco/kcoC_DisplayBody.h"
 #include "kco/kcoC_EmbeddedRegion.h"
 #include "kco/kcoC_Equation.h"
@@ -67,6 +68,7 @@ int QMXOdbKcoC_count() { return count; }
 
 void QMXOdbKcoC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kcoC_RegisterDescriptions();
   bas_StartJournal::Start("QMXOdbKcoC");
   typ_ArchCompTable::InsertEntry(kArchKey, kcoC_ArchEntry());
   {
@@ -97,6 +99,7 @@ void QMXOdbKcoC_initialize(int& tally) {
 
 void QMXOdbKcoC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kcoC_UnregisterDescriptions();
   bas_StartJournal::Stop("QMXOdbKcoC");
   ddr_Model::UnRegisterExtension(kcoC_ConstraintContainer::Names::kRepositoryName);
   kcoC_ConstraintTypeLabelMap::Release();

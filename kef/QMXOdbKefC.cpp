@@ -9,6 +9,7 @@
 #include "kef/kefC_CrackContainer.h"
 #include "kef/kefC_DataImperfection.h"
 #include "kef/kefC_DebondVCCT.h"
+#include "kef/kefC_Descriptions.h"
 #include "kef/kefC_DiscreteFastener.h"
 #include "kef/kefC_EngineeringFeatures.h"
 #include "kef/kefC_Fastener.h"
@@ -82,6 +83,7 @@ int QMXOdbKefC_count() { return count; }
 
 void QMXOdbKefC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kefC_RegisterDescriptions();
   kefC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKefC");
   typ_ArchCompTable::InsertEntry(kArchKey, kefC_ArchEntry());
@@ -117,6 +119,7 @@ void QMXOdbKefC_initialize(int& tally) {
 
 void QMXOdbKefC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kefC_UnregisterDescriptions();
   kefC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKefC");
   ddr_Model::UnRegisterExtension(kefC_EngineeringFeatures::kExtensionName);

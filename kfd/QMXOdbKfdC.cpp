@@ -7,6 +7,7 @@
 #include "kfd/kfdC_AnalyticalField.h"
 #include "kfd/kfdC_AnalyticalFieldContainer.h"
 #include "kfd/kfdC_DataTable.h"
+#include "kfd/kfdC_Descriptions.h"
 #include "kfd/kfdC_DiscreteField.h"
 #include "kfd/kfdC_DiscreteFieldContainer.h"
 #include "kfd/kfdC_ExpressionField.h"
@@ -55,6 +56,7 @@ int QMXOdbKfdC_count() { return count; }
 
 void QMXOdbKfdC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kfdC_RegisterDescriptions();
   kfdC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKfdC");
   typ_ArchCompTable::InsertEntry(kArchKey, kfdC_ArchEntry());
@@ -92,6 +94,7 @@ void QMXOdbKfdC_initialize(int& tally) {
 
 void QMXOdbKfdC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kfdC_UnregisterDescriptions();
   kfdC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKfdC");
   ddr_Model::UnRegisterExtension(kfdC_AnalyticalFieldContainer::Names::kRepositoryName);

@@ -5,6 +5,7 @@
 #include "kfl/kflC_ButterworthFilter.h"
 #include "kfl/kflC_Chebyshev1Filter.h"
 #include "kfl/kflC_Chebyshev2Filter.h"
+#include "kfl/kflC_Descriptions.h"
 #include "kfl/kflC_FCWrapper.h"
 #include "kfl/kflC_Filter.h"
 #include "kfl/kflC_FilterContainer.h"
@@ -49,6 +50,7 @@ int QMXOdbKflC_count() { return count; }
 
 void QMXOdbKflC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kflC_RegisterDescriptions();
   bas_StartJournal::Start("QMXOdbKflC");
   typ_ArchCompTable::InsertEntry(kArchKey, kflC_ArchEntry());
   {
@@ -68,6 +70,7 @@ void QMXOdbKflC_initialize(int& tally) {
 
 void QMXOdbKflC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kflC_UnregisterDescriptions();
   bas_StartJournal::Stop("QMXOdbKflC");
   ddr_Model::UnRegisterExtension(kflC_FilterContainer::Names::kRepositoryName);
 }

@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "klc/klcC_Descriptions.h"
 #include "klc/klcC_LCCWrapper.h"
 #include "klc/klcC_LoadCase.h"
 #include "klc/klcC_LoadCaseContainer.h"
@@ -42,6 +43,7 @@ int QMXOdbKlcC_count() { return count; }
 
 void QMXOdbKlcC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  klcC_RegisterDescriptions();
   bas_StartJournal::Start("QMXOdbKlcC");
   typ_ArchCompTable::InsertEntry(kArchKey, klcC_ArchEntry());
   {
@@ -58,6 +60,7 @@ void QMXOdbKlcC_initialize(int& tally) {
 
 void QMXOdbKlcC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  klcC_UnregisterDescriptions();
   bas_StartJournal::Stop("QMXOdbKlcC");
   ddr_Model::UnRegisterExtension(klcC_LoadCaseContainer::Names::kRepositoryName);
 }

@@ -3,6 +3,7 @@
 #include <iterator>
 #include "kma/kmaC_Advice.h"
 
+#include "kma/kmaC_Descriptions.h"
 #include "kma/kmaC_RateDependent.h"
 #include "kma/kmaC_Potential.h"
 #include "kma/kmaC_CyclicHardening.h"
@@ -162,6 +163,7 @@ int QMXOdbKmaC_count() { return count; }
 
 void QMXOdbKmaC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kmaC_RegisterDescriptions();
   kmaC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKmaC");
   typ_ArchCompTable::InsertEntry(kmaC_kArchKey, kmaC_ArchEntry());
@@ -382,6 +384,7 @@ void QMXOdbKmaC_initialize(int& tally) {
 
 void QMXOdbKmaC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kmaC_UnregisterDescriptions();
   kmaC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKmaC");
   ddr_Model::UnRegisterExtension(kmaC_FieldConstituentContainer::Names::kRepositoryName);

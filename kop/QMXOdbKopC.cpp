@@ -21,6 +21,7 @@
 #include "kop/kopC_ConstraintContainer.h"
 #include "kop/kopC_CyclicSymmetry.h"
 #include "kop/kopC_DemoldControl.h"
+#include "kop/kopC_Descriptions.h"
 #include "kop/kopC_DesignResponse.h"
 #include "kop/kopC_DesignResponseContainer.h"
 #include "kop/kopC_DistanceControl.h"
@@ -240,6 +241,7 @@ int QMXOdbKopC_count() { return count; }
 
 void QMXOdbKopC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  kopC_RegisterDescriptions();
   kopC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKopC");
   typ_ArchCompTable::InsertEntry(kArchKey, kopC_ArchEntry());
@@ -337,6 +339,7 @@ void QMXOdbKopC_initialize(int& tally) {
 
 void QMXOdbKopC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  kopC_UnregisterDescriptions();
   kopC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKopC");
   ddr_Model::UnRegisterExtension(kopC_TaskContainer::Names::kRepositoryName);

@@ -8,6 +8,7 @@
 #include "ktb/ktbC_CompositeColTableCont.h"
 #include "ktb/ktbC_DataColumn.h"
 #include "ktb/ktbC_DataColumnList.h"
+#include "ktb/ktbC_Descriptions.h"
 #include "ktb/ktbC_EPAWrapper.h"
 #include "ktb/ktbC_ESTWrapper.h"
 #include "ktb/ktbC_ESWrapper.h"
@@ -137,6 +138,7 @@ int QMXOdbKtbC_count() { return count; }
 
 void QMXOdbKtbC_initialize(int& tally) {
   if (!bas_FirstStart(count, tally)) return;
+  ktbC_RegisterDescriptions();
   ktbC_RegisterAdvice();
   bas_StartJournal::Start("QMXOdbKtbC");
   typ_ArchCompTable::InsertEntry(kArchKey, ktbC_ArchEntry());
@@ -176,6 +178,7 @@ void QMXOdbKtbC_initialize(int& tally) {
 
 void QMXOdbKtbC_finalize(int& tally) {
   if (!bas_LastStop(count, tally)) return;
+  ktbC_UnregisterDescriptions();
   ktbC_UnregisterAdvice();
   bas_StartJournal::Stop("QMXOdbKtbC");
   ddr_Model::UnRegisterExtension(ktbC_TableCollContainer::Names::kRepositoryName);

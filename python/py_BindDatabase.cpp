@@ -10,45 +10,80 @@
 
 namespace qmxpy {
 
+namespace {
+
+// A file name given as a str or any path-like object (pathlib.Path).
+std::string FileName(py::handle file) {
+  PyObject* p = PyOS_FSPath(file.ptr());
+  if (!p) throw py::error_already_set();
+  py::object text = py::reinterpret_steal<py::object>(p);
+  if (!py::isinstance<py::str>(text)) throw py::type_error("A file name is a str or a path-like object giving one");
+  return TextOf(text);
+}
+
+// The container of a detached object that a repository names, as an object.
+Object ContainerOf(const Repository& r) { return Object{nullptr, r.root, r.path}; }
+
+}  // namespace
+
 void BindRepository(py::module_& m) {
-  py::class_<Repository> repository(m, "Repository", "A repository of a model (or of an object): its elements by key.");
-  repository.def("keys", [](const Repository& r) { return Keys(*r.session, r.path); })
-      .def("__iter__", [](const Repository& r) { return py::iter(py::cast(Keys(*r.session, r.path))); })
+  py::class_<Repository> repository(m, "Repository",
+                                    "A repository of a model or of an object: its elements by key, as a mutable "
+                                    "mapping (keys, items, get, pop, update, setdefault, ...).");
+  repository.def("keys", [](const Repository& r) { return RepositoryKeys(r); })
+      .def("__iter__", [](const Repository& r) { return py::iter(py::cast(RepositoryKeys(r))); })
       .def("__len__", [](const Repository& r) { return RepositorySize(r); })
       .def("__contains__",
            [](const Repository& r, py::handle key) {
              return py::isinstance<py::str>(key) && RepositoryHas(r, TextOf(key));
            })
-      .def("__getitem__", [](const Repository& r, Utf8 key) { return Element(r.session, Append(r.path, key)); })
+      .def("__getitem__", [](const Repository& r, Utf8 key) { return RepositoryElement(r, key); })
       .def("__setitem__", [](const Repository& r, Utf8 key, py::handle value) { PutElement(r, key, value); })
-      .def("__delitem__", [](const Repository& r, Utf8 key) { DeleteElement(*r.session, Append(r.path, key)); })
+      .def("__delitem__", [](const Repository& r, Utf8 key) { DeleteRepositoryElement(r, key); })
       .def("get",
-           [](const Repository& r, Utf8 key, py::object fallback) -> py::object {
-             if (!RepositoryHas(r, key)) return fallback;
-             return Element(r.session, Append(r.path, key));
+           [](const Repository& r, py::handle key, py::object fallback) -> py::object {
+             if (!py::isinstance<py::str>(key) || !RepositoryHas(r, TextOf(key))) return fallback;
+             return RepositoryElement(r, TextOf(key));
            },
            py::arg("key"), py::arg("default") = py::none())
       .def("items",
            [](const Repository& r) {
              py::list out;
-             for (const auto& k : Keys(*r.session, r.path)) out.append(py::make_tuple(k, Element(r.session, Append(r.path, k))));
+             for (const auto& k : RepositoryKeys(r)) out.append(py::make_tuple(k, RepositoryElement(r, k)));
              return out;
            })
       .def("values",
            [](const Repository& r) {
              py::list out;
-             for (const auto& k : Keys(*r.session, r.path)) out.append(Element(r.session, Append(r.path, k)));
+             for (const auto& k : RepositoryKeys(r)) out.append(RepositoryElement(r, k));
              return out;
            })
-      .def("advise", [](const Repository& r) { return Advise(*r.session, r.path); },
+      .def("advise", [](const Repository& r) { return r.root ? AdviseObject(ContainerOf(r)) : Advise(*r.session, r.path); },
            "The warnings of the advice on every element.")
-      .def("validate", [](const Repository& r) { return FromJson(Run(*r.session, Command("validate", r.path))); },
-           "Validates every element; the first failure raises ValidationError with the failing path.")
-      .def("to_dict", [](const Repository& r) { return FromJson(Run(*r.session, Command("get", r.path))); })
-      .def_property_readonly("path", [](const Repository& r) { return FromJson(PathJson(r.path)); })
+      .def("validate",
+           [](const Repository& r) -> py::object {
+             if (r.root) return Validate(ContainerOf(r));
+             return FromJson(Run(*r.session, Command("validate", r.path)));
+           },
+           "Validates every element; failures raise ValidationError carrying every failure (e.failures), "
+           "first failure first.")
+      .def("to_dict",
+           [](const Repository& r) {
+             if (!r.root) return FromJson(Run(*r.session, Command("get", r.path)));
+             cmd_Json j = ObjectToJson(ContainerOf(r));
+             if (j.is_object()) {
+               j.erase("type");
+               j.erase("$type");
+             }
+             return FromJson(j);
+           })
+      .def_property_readonly("path", [](const Repository& r) -> py::object {
+        if (r.root) return py::none();
+        return FromJson(PathJson(r.path));
+      })
       .def("__repr__", [](const Repository& r) {
-        return "Repository at " + cmd_PathText(r.path) + " with " + std::to_string(Keys(*r.session, r.path).size()) +
-               " elements";
+        const std::string where = r.root ? std::string("inside a detached object") : "at " + cmd_PathText(r.path);
+        return "Repository " + where + " with " + std::to_string(RepositorySize(r)) + " elements";
       });
   RefuseNew(repository, "through its model, such as db[\"Model-1\"].profiles");
 }
@@ -78,20 +113,20 @@ void BindDatabase(py::module_& m) {
   py::class_<Database> database(m, "Database", "A database of models, saved to and opened from a model database file.");
   database.def(py::init<>())
       .def_static("open",
-                  [](Utf8 file) {
+                  [](py::handle file) {
                     Database db;
                     cmd_Json c = cmd_Json::object();
                     c["op"] = "open";
-                    c["file"] = file.text;
+                    c["file"] = FileName(file);
                     Run(*db.session, std::move(c));
                     return db;
                   },
                   py::arg("path"), "Opens a model database file (upgrading rows of older versions in memory).")
       .def("save",
-           [](const Database& db, Utf8 file, bool overwrite) {
+           [](const Database& db, py::handle file, bool overwrite) {
              cmd_Json c = cmd_Json::object();
              c["op"] = "save";
-             c["file"] = file.text;
+             c["file"] = FileName(file);
              if (overwrite) c["overwrite"] = true;
              Run(*db.session, std::move(c));
            },

@@ -17,30 +17,25 @@ void BindObject(py::module_& m) {
                             "view of an object inside a model. Members are read and set by scripting name.");
   ObjectBase() = object;
   object.def(py::init<>())
-      .def("_init_new",
-           [](Object& self, const std::string& ctor, const py::dict& values) {
-             const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);
-             if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_BindObject.cpp", __LINE__);
-             const cmd_Json v = ToJson(values);
-             cmd_OwnedObject obj = Guarded([&] { return cmd_NewObject(*md, v.empty() ? nullptr : &v); });
-             self.root = std::make_shared<Root>(md, obj.release());
-             self.path.clear();
-             self.session.reset();
-           })
       .def("__getattr__",
-           [](const Object& self, Utf8 name) -> py::object {
+           [](py::handle handle, Utf8 name) -> py::object {
              if (name.text.starts_with("__")) throw py::attribute_error(name.text);
+             const Object& self = handle.cast<const Object&>();
              if (!self.root && !self.session) Raise("CmdException", kNoConstructor, "py_BindObject.cpp", __LINE__, nullptr, "MemberError");
-             return GetMember(self, name);
+             return GetMember(handle, self, name);
            })
-      .def("__setattr__", [](const Object& self, Utf8 name,
-                             py::handle value) { SetMember(self, name, value); })
       .def("__delattr__", [](const Object& self, Utf8 name) { SetMember(self, name, py::none()); })
-      .def("__getitem__", [](const Object& self, Utf8 name) { return GetMember(self, name); })
+      .def("__getitem__",
+           [](py::handle handle, Utf8 name) { return GetMember(handle, handle.cast<const Object&>(), name); })
+      .def("_value", [](const Object& self, Utf8 name) { return MemberValue(self, name); },
+           "A member's value as plain data, as it is now.")
       .def("__setitem__",
            [](const Object& self, Utf8 name, py::handle value) { SetMember(self, name, value); })
       .def("__dir__", [](py::handle self) { return Dir(self, Members(ClassOf(self.cast<const Object&>()))); })
       .def("__repr__", [](const Object& self) { return self.root || self.session ? Repr(self) : std::string("Object()"); })
+      .def("__str__", [](const Object& self) { return self.root || self.session ? Str(self) : std::string("Object()"); })
+      .def_property_readonly("detached", [](const Object& self) { return Live(self).root != nullptr; },
+                             "True for an object that is not inside a database (made by a constructor or copied).")
       .def("__eq__",
            [](const Object& self, py::handle other) -> py::object {
              if (!IsObject(other)) return py::reinterpret_borrow<py::object>(Py_NotImplemented);
@@ -77,6 +72,9 @@ void BindObject(py::module_& m) {
                              },
                              "The path of scripting names of an object inside a database; None when detached.");
   object.attr("__hash__") = py::none();
+  InstallFastSetAttr(object);
+  // Members are reached by name; without this, __getitem__ would make objects iterable by position.
+  object.attr("__iter__") = py::none();
   ConstructOnNew(object);
 }
 

@@ -7,7 +7,7 @@
 #include <pybind11/eval.h>
 
 #include "command/cmd_Line.h"
-#include "python/py_Core.h"
+#include "python/py_Types.h"
 
 namespace qmxpy {
 
@@ -31,11 +31,14 @@ void CreateErrors(py::module_& m) {
   py::exec(R"(
 class Error(Exception):
     """An error of the attribute library: the system's exact message, its kind ("PrimException",
-    "CmdException", ...), the source file and line that reported it, and for a failed validation
-    of a repository or model the path of the first failing object; for a path or member that
-    named nothing, the path that resolved, the member (or key) that did not and the candidates,
-    the names that would have been valid there."""
-    def __init__(self, message, kind="", file="", line=0, path=None, member=None, candidates=None):
+    "CmdException", ...), the source file and line that reported it, and the member it concerns
+    where there is one. A failed validation of a repository, model or database carries the path of
+    the first failing object and under `failures` every failure, first failure first, each a dict
+    of path, member, message, kind, file and line. For a path or member that named nothing: the
+    path that resolved, the member (or key) that did not and the candidates, the names that
+    would have been valid there."""
+    def __init__(self, message, kind="", file="", line=0, path=None, member=None, candidates=None,
+                 failures=None):
         super().__init__(message)
         self.message = message
         self.kind = kind
@@ -44,6 +47,7 @@ class Error(Exception):
         self.path = path
         self.member = member
         self.candidates = candidates
+        self.failures = failures
     def __str__(self):
         return self.message
 
@@ -58,8 +62,11 @@ class MemberError(CommandError, AttributeError):
 
 class NotFoundError(CommandError, KeyError):
     """A repository or database holds nothing under that key."""
+
+class KeywordError(MemberError, TypeError):
+    """A constructor was given a keyword that names none of its members."""
 )", scope);
-  for (const char* name : {"Error", "ValidationError", "CommandError", "MemberError", "NotFoundError"}) {
+  for (const char* name : {"Error", "ValidationError", "CommandError", "MemberError", "NotFoundError", "KeywordError"}) {
     scope[name].attr("__module__") = m.attr("__name__");
     m.attr(name) = scope[name];
     Errors()[name] = scope[name];
@@ -79,9 +86,28 @@ void Raise(const std::string& kind, const std::string& message, const std::strin
 
 void RaiseError(const cmd_Json& error, const char* flavour) {
   const cmd_Json path = error.contains("path") ? error["path"] : cmd_Json();
-  Raise(error.value("kind", std::string()), error.value("message", std::string()), error.value("file", std::string()),
-        error.value("line", 0), path, flavour, error.contains("member") ? error["member"] : cmd_Json(),
-        error.contains("candidates") ? error["candidates"] : cmd_Json());
+  try {
+    Raise(error.value("kind", std::string()), error.value("message", std::string()), error.value("file", std::string()),
+          error.value("line", 0), path, flavour, error.contains("member") ? error["member"] : cmd_Json(),
+          error.contains("candidates") ? error["candidates"] : cmd_Json());
+  } catch (py::error_already_set& e) {
+    if (error.contains("failures")) {
+      // Every failure of a validation, each with the same keys, a member only where one is named.
+      py::list failures;
+      for (const auto& f : error["failures"]) {
+        py::dict one;
+        one["path"] = FromJson(f.value("path", cmd_Json::array()));
+        one["member"] = FromJson(f.contains("member") ? f["member"] : cmd_Json());
+        one["message"] = f.value("message", std::string());
+        one["kind"] = f.value("kind", std::string());
+        one["file"] = f.value("file", std::string());
+        one["line"] = f.value("line", 0);
+        failures.append(std::move(one));
+      }
+      e.value().attr("failures") = failures;
+    }
+    throw;
+  }
 }
 
 namespace {
@@ -134,6 +160,8 @@ cmd_Json Convert(py::handle value, ConvertStack& stack) {
   if (py::isinstance<py::float_>(value)) return value.cast<double>();
   if (py::isinstance<py::str>(value)) return Utf8Of(value);
   if (IsObject(value)) return ObjectJson(value);
+  // A list view converts from its value read once, not element by element through the view.
+  if (ListViewClass() && py::isinstance(value, ListViewClass())) return Convert(value.attr("_snapshot")(), stack);
   if (py::isinstance<py::dict>(value)) {
     return Nested(value, stack, [&] {
       cmd_Json out = cmd_Json::object();

@@ -8,6 +8,7 @@
 #include <pybind11/stl.h>
 
 #include "frame/QMXOdbAttrEO2.h"
+#include "command/cmd_Json.h"
 #include "platform/persist/cls_ClassRegistrar.h"
 #include "python/py_Types.h"
 
@@ -23,7 +24,25 @@ PYBIND11_MODULE(_core, m) {
   BindModel(m);
   BindDatabase(m);
 
-  m.def("_register_class", [](const std::string& ctor, py::object cls) { Classes()[py::str(ctor)] = cls; });
+  m.def("_register_class", [](const std::string& ctor, py::object cls) {
+    const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);
+    if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_Module.cpp", __LINE__);
+    Classes()[py::str(ctor)] = cls;
+    py::setattr(cls, "__init__", FastInitFor(cls, *md));
+  });
+  m.def("_register_list_view", [](py::object cls) { ListViewClass() = std::move(cls); });
+  m.def("_from_dict",
+        [](const py::dict& value) {
+          // An object from its plain data, constructor name included (what to_dict() gives).
+          const cmd_Json j = ToJson(value);
+          const char* key = j.contains("$type") ? "$type" : "type";
+          const cls_ClassMetadata* md =
+              j.contains(key) && j[key].is_string() ? cls_ClassRegistrar::Instance().ByScriptName(j[key].get<std::string>()) : nullptr;
+          if (!md) Raise("CmdException", "The data of an object names no constructor under \"type\"", "py_Module.cpp", __LINE__);
+          cmd_OwnedObject obj = Guarded([&] { return cmd_NewObject(*md, &j); });
+          return Detached(*md, obj.release());
+        },
+        "A detached object made from the plain data of to_dict().");
   m.def("constructors",
         [] {
           std::vector<std::string> out;
@@ -47,6 +66,23 @@ PYBIND11_MODULE(_core, m) {
           if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_Module.cpp", __LINE__);
           return ClassDoc(*md);
         });
+  m.def("_class_summary", [](const std::string& ctor) {
+    const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);
+    if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_Module.cpp", __LINE__);
+    return std::string(md->Summary());
+  });
+  m.def("_class_fields", [](const std::string& ctor) {
+    const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);
+    if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_Module.cpp", __LINE__);
+    return ClassFields(*md);
+  });
+  m.def("_member_properties", [](const std::string& ctor) {
+    const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);
+    if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_Module.cpp", __LINE__);
+    py::dict out;
+    for (const auto& f : md->ScriptFields()) out[py::str(f.scriptName)] = MemberProperty(*md, f);
+    return out;
+  });
   m.def("class_members", [](const std::string& ctor) {
     const cls_ClassMetadata* md = cls_ClassRegistrar::Instance().ByScriptName(ctor);
     if (!md) Raise("CmdException", "There is no constructor \"" + ctor + "\"", "py_Module.cpp", __LINE__);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/persist/cls_ClassRegistrar.h"
+#include "platform/persist/cls_Description.h"
 #include "platform/persist/cls_Family.h"
 #include "platform/base/nex_Exception.h"
 #include "platform/base/omi_Singleton.h"
@@ -31,6 +32,17 @@ const cls_ScriptField* cls_ClassMetadata::FindScriptField(std::string_view scrip
   for (const auto& f : ScriptFields())
     if (scriptName == f.scriptName) return &f;
   return nullptr;
+}
+
+const cls_ClassDescription* cls_ClassMetadata::Description() const { return cls_FindDescription(name_.view()); }
+
+const char* cls_ClassMetadata::Summary() const {
+  const cls_ClassDescription* d = cls_FindDescription(name_.view());
+  return d && d->summary ? d->summary : "";
+}
+
+const char* cls_ClassMetadata::MemberDescription(std::string_view scriptName) const {
+  return cls_FindMemberDescription(name_.view(), scriptName);
 }
 
 const std::vector<const cls_ScriptField*>& cls_ClassMetadata::ObjectFields() const {

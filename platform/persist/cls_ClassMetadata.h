@@ -13,6 +13,7 @@
 class cls_ReadVisitor;
 class cls_WriteVisitor;
 class cls_ClassMetadata;
+struct cls_ClassDescription;
 class mdl_Repository;
 struct omu_EnumLiteral;
 
@@ -77,6 +78,13 @@ class cls_ClassMetadata {
   virtual std::vector<const char*> ScriptVariants() const { return {}; }
   virtual const std::vector<cls_ScriptField>& ScriptFields() const;
   const cls_ScriptField* FindScriptField(std::string_view scriptName) const noexcept;
+  // The class in one line and a member's meaning by scripting name, from the descriptions the
+  // class's module registered; empty when none describes them.
+  const char* Summary() const;
+  // Everything the module says of the class (null when nothing): summary, members, the codes
+  // its validation raises.
+  const cls_ClassDescription* Description() const;
+  const char* MemberDescription(std::string_view scriptName) const;
   // The script fields that hold member objects, found once: walks over many instances skip
   // classes without any.
   const std::vector<const cls_ScriptField*>& ObjectFields() const;

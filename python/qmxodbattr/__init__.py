@@ -13,49 +13,32 @@ list its members with their types and literals.
 """
 from . import _core
 from ._core import (Database, Model, Repository, Object, Error, ValidationError, CommandError,
-                    MemberError, NotFoundError, constructors)
+                    MemberError, NotFoundError, KeywordError, constructors)
 
 __all__ = ["Database", "Model", "Repository", "Object", "Error", "ValidationError", "CommandError",
-           "MemberError", "NotFoundError", "constructors"]
+           "MemberError", "NotFoundError", "KeywordError", "ListView", "constructors", "__version__"]
 
 
-class _Transaction:
-    """All of the changes made inside it or none: committed when the block ends, rolled back when
-    an exception leaves it (a failed command of the library has already rolled it back)."""
+from ._version import __version__
+from ._views import ListView
+from . import _surface
 
-    def __init__(self, db):
-        self._db = db
-
-    def __enter__(self):
-        self._db._bracket("begin")
-        return self._db
-
-    def __exit__(self, exc_type, exc, tb):
-        if exc_type is None:
-            self._db._bracket("commit")
-        elif self._db.in_transaction:
-            self._db._bracket("rollback")
-        return False
-
-
-def _transaction(self):
-    """with db.transaction(): ... applies every change of the block, or none of them."""
-    return _Transaction(self)
-
-
-Database.transaction = _transaction
+_core._register_list_view(ListView)
+_surface.install()
 
 
 def _make_class(ctor):
     members = tuple(_core.class_members(ctor))
 
-    def __init__(self, **values):
-        Object.__init__(self)
-        self._init_new(ctor, values)
-
-    __init__.__doc__ = _core.class_doc(ctor)
-    cls = type(ctor, (Object,), {"__init__": __init__, "__doc__": _core.class_doc(ctor),
-                                 "__module__": __name__, "__slots__": (), "scripting_members": members})
+    # __init__ (members by keyword, in their order) is set by _register_class below.
+    namespace = {"__doc__": _core.class_doc(ctor), "__module__": __name__,
+                 "__slots__": (), "scripting_members": members}
+    # Members as properties, so that reading and setting one skips Python's failed attribute
+    # lookup; a member named like a method of Object stays reached by obj["name"].
+    for name, prop in _core._member_properties(ctor).items():
+        if not hasattr(Object, name) and name.isidentifier():
+            namespace[name] = prop
+    cls = type(ctor, (Object,), namespace)
     _core._register_class(ctor, cls)
     return cls
 

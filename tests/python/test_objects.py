@@ -209,14 +209,18 @@ def test_dir_and_docstrings_list_members_types_and_literals():
         assert member in names
     doc = qa.AdaptiveMeshControl.__doc__
     assert doc.startswith("AdaptiveMeshControl(")
-    assert ('    remapping: enumeration = "SECOND_ORDER_ADVECTION", one of "FIRST_ORDER_ADVECTION", '
+    assert ("    remapping: str = 'SECOND_ORDER_ADVECTION'; one of \"FIRST_ORDER_ADVECTION\", "
             '"SECOND_ORDER_ADVECTION"\n') in doc
     assert '"STANDARD", "GEOMETRY_ENHANCED", "ANALYSIS_PRODUCT_DEFAULT"' in doc
-    assert "    initialFeatureAngle: double = 30.0\n" in doc
-    assert "    meshConstraintAngle: double = 60.0\n" in doc
+    assert "    initialFeatureAngle: float = 30.0\n" in doc
+    assert "    meshConstraintAngle: float = 60.0\n" in doc
+    assert "kadC_" not in doc  # the Python name, never the C++ class
     doc = qa.TabularAmplitude.__doc__
     assert '"STEP", "TOTAL"' in doc
-    assert "baselineCorrection: " in doc and "BaselineCorrection" in doc
+    assert "    baselineCorrection: BaselineCorrection or None\n" in doc
+    assert ("    data: table (a list of rows of floats) = [[0.0, 0.0], [1.0, 1.0]]\n"
+            "        Data (table: time, amplitude)\n") in doc
+    assert qa.CircularProfile.__doc__.startswith("CircularProfile(**members)\n\nA solid circle of radius r.\n\n")
     assert '"THIN_WALL", "THICK_WALL"' in qa.PipeProfile.__doc__
 
 

@@ -1,0 +1,9 @@
+#pragma once
+// The descriptions of the module's classes and members, registered when the module starts.
+#include <span>
+
+#include "platform/persist/cls_Description.h"
+
+std::span<const cls_ClassDescription> karC_DescriptionsTable();
+void karC_RegisterDescriptions();
+void karC_UnregisterDescriptions();

@@ -1,0 +1,9 @@
+#pragma once
+// The descriptions of the module's classes and members, registered when the module starts.
+#include <span>
+
+#include "platform/persist/cls_Description.h"
+
+std::span<const cls_ClassDescription> kefC_DescriptionsTable();
+void kefC_RegisterDescriptions();
+void kefC_UnregisterDescriptions();

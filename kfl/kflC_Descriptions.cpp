@@ -1,0 +1,57 @@
+#include "kfl/kflC_Descriptions.h"
+
+// What the classes of the module and their members mean, by scripting name.
+namespace {
+constexpr cls_MemberDescription kKflDescButterworthFilter[] = {
+    {"cutoffFrequency", "Cutoff frequency"},
+    {"order", "Order"},
+    {"operation", "Operation"},
+    {"limit", "Limit"},
+    {"halt", "Halt"},
+};
+constexpr cls_MemberDescription kKflDescChebyshev1Filter[] = {
+    {"cutoffFrequency", "Cutoff frequency"},
+    {"order", "Order"},
+    {"rippleFactor", "Ripple factor"},
+    {"operation", "Operation"},
+    {"limit", "Limit"},
+    {"halt", "Halt"},
+};
+constexpr cls_MemberDescription kKflDescChebyshev2Filter[] = {
+    {"cutoffFrequency", "Cutoff frequency"},
+    {"order", "Order"},
+    {"rippleFactor", "Ripple factor"},
+    {"operation", "Operation"},
+    {"limit", "Limit"},
+    {"halt", "Halt"},
+};
+constexpr cls_MemberDescription kKflDescOperatorFilter[] = {
+    {"operation", "Operation"},
+    {"limit", "Limit"},
+    {"halt", "Halt"},
+};
+constexpr cls_ClassDescription kKflDescriptions[] = {
+    {"kflC_ButterworthFilter",
+     "A Butterworth filter: maximally flat in the pass band, of order 1 to 20.",
+     kKflDescButterworthFilter},
+    {"kflC_Chebyshev1Filter",
+     "A Chebyshev type I filter: a steeper roll-off than a Butterworth filter of the same order, "
+     "bought with a ripple in the pass band whose size the ripple factor sets.",
+     kKflDescChebyshev1Filter},
+    {"kflC_Chebyshev2Filter",
+     "A Chebyshev type II filter: a flat pass band and a ripple in the stop band whose size the "
+     "ripple factor sets.",
+     kKflDescChebyshev2Filter},
+    {"kflC_OperatorFilter",
+     "An operator filter: no smoothing, only an operation on the output (its minimum, maximum or "
+     "absolute value), compared with the limit when one is given.",
+     kKflDescOperatorFilter},
+};
+}  // namespace
+
+std::span<const cls_ClassDescription> kflC_DescriptionsTable() { return kKflDescriptions; }
+
+void kflC_RegisterDescriptions() {
+  cls_RegisterDescriptions("kfl", kflC_DescriptionsTable());
+}
+void kflC_UnregisterDescriptions() { cls_UnregisterDescriptions("kfl"); }

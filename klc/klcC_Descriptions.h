@@ -1,0 +1,9 @@
+#pragma once
+// The descriptions of the module's classes and members, registered when the module starts.
+#include <span>
+
+#include "platform/persist/cls_Description.h"
+
+std::span<const cls_ClassDescription> klcC_DescriptionsTable();
+void klcC_RegisterDescriptions();
+void klcC_UnregisterDescriptions();

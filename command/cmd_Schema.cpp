@@ -131,8 +131,8 @@ void cmd_SchemaBuilder::DefineVariant(const cls_ClassMetadata& md, const std::st
   if (defs_.contains(variant)) return;
   cmd_Json d = defs_[md.ScriptName()];
   cmd_Json& props = d["properties"];
-  if (!md.FindScriptField("type")) props["type"] = cmd_Json{{"const", variant}};
-  props["$type"] = cmd_Json{{"const", variant}};
+  if (!md.FindScriptField("type")) props["type"] = cmd_Json{{"description", "The constructor"}, {"const", variant}};
+  props["$type"] = cmd_Json{{"description", "The constructor, as get reports it"}, {"const", variant}};
   d["x-variantOf"] = md.ScriptName();
   defs_[variant] = std::move(d);
 }

@@ -94,7 +94,7 @@ def test_a_constructor_variant_is_listed_and_defined_with_its_class_members(sche
     variant = schema["$defs"]["DiscreteFieldFromAnalytic"]
     plain = schema["$defs"]["DiscreteField"]
     assert variant["x-variantOf"] == "DiscreteField" and variant["x-class"] == "kfdC_DiscreteField"
-    assert variant["properties"]["type"] == {"const": "DiscreteFieldFromAnalytic"}
+    assert variant["properties"]["type"] == {"description": "The constructor", "const": "DiscreteFieldFromAnalytic"}
     assert {k: v for k, v in variant["properties"].items() if k not in ("type", "$type")} == \
         {k: v for k, v in plain["properties"].items() if k not in ("type", "$type")}
     validator = jsonschema.Draft202012Validator(schema)

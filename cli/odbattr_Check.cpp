@@ -27,7 +27,7 @@ int Check(const std::string& file, bool strict) {
   cmd_Checker checker;
   {
     Progress progress("checking " + file);
-    checker = cmd_Checker([&](std::size_t n) { progress.Update(n); });
+    checker = cmd_Checker([&](std::size_t n) { progress.Update(n, "objects"); });
     checker.CheckDatabase(db);
   }
   cmd_Adviser adviser;

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 #include <string>
@@ -28,9 +29,32 @@ cmd_Json PathSteps(const std::string& text) {
   return steps;
 }
 
+std::string DumpText(const cmd_Json& v) { return v.dump(-1, ' ', false, cmd_Json::error_handler_t::replace); }
+
+// One line per object: an object whose members are all objects (the database, a model, a
+// repository) opens onto lines of its own, one member each; anything else is written compact on
+// its member's line. The whole stays one JSON document.
+void WriteByObject(std::ostream& out, const cmd_Json& v, int indent) {
+  const bool ofObjects = v.is_object() && !v.empty() &&
+                         std::all_of(v.begin(), v.end(), [](const cmd_Json& m) { return m.is_object(); });
+  if (!ofObjects) {
+    out << DumpText(v);
+    return;
+  }
+  const std::string pad(static_cast<std::size_t>(indent) + 1, ' ');
+  out << '{';
+  bool first = true;
+  for (const auto& [key, member] : v.items()) {
+    out << (first ? "\n" : ",\n") << pad << DumpText(cmd_Json(key)) << ':';
+    WriteByObject(out, member, indent + 1);
+    first = false;
+  }
+  out << '\n' << std::string(static_cast<std::size_t>(indent), ' ') << '}';
+}
+
 }  // namespace
 
-int Dump(const std::string& file, const std::string& path) {
+int Dump(const std::string& file, const std::string& path, bool pretty) {
   ddr_Database db;
   try {
     db = dbf_Open(file);
@@ -52,7 +76,11 @@ int Dump(const std::string& file, const std::string& path) {
     Complain(r["error"]["message"].get<std::string>());
     return kFailed;
   }
-  std::cout << r["result"].dump(2, ' ', false, cmd_Json::error_handler_t::replace) << std::endl;
+  if (pretty)
+    std::cout << r["result"].dump(2, ' ', false, cmd_Json::error_handler_t::replace);
+  else
+    WriteByObject(std::cout, r["result"], 0);
+  std::cout << std::endl;
   return kOk;
 }
 

@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/odbattr_Commands.h"
+#include "cli/odbattr_Progress.h"
 #include "cli/odbattr_Script.h"
 #include "command/cmd_Check.h"
 #include "command/cmd_Session.h"
@@ -51,8 +52,9 @@ int Example(const std::string& dir, const std::string& db) {
   for (const auto& script : scripts) {
     std::ifstream in(script);
     std::size_t commands = 0, failed = 0;
+    Progress progress("running " + script.filename().string());
     const bool complete = ForEachCommand(in, [&](const std::string& line, std::size_t number) {
-      ++commands;
+      progress.Update(++commands, "commands");
       const cmd_Json r = session.ExecuteLine(line, number);
       if (r["ok"].get<bool>()) return;
       ++failed;
@@ -69,7 +71,9 @@ int Example(const std::string& dir, const std::string& db) {
   // Through the file and back: what was built must read back equal, and valid.
   ddr_Database back;
   try {
+    Progress progress("saving " + out);
     dbf_Save(session.Database(), out);
+    progress.Stage("reading it back");
     back = dbf_Open(out);
   } catch (const std::exception& e) {
     Complain(e.what());
@@ -99,7 +103,11 @@ int Example(const std::string& dir, const std::string& db) {
   }
 
   cmd_Checker checker;
-  checker.CheckDatabase(back);
+  {
+    Progress progress("checking " + out);
+    checker = cmd_Checker([&](std::size_t n) { progress.Update(n, "objects"); });
+    checker.CheckDatabase(back);
+  }
   for (const auto& f : checker.Failures()) std::cout << cmd_PathText(f.path) << ": " << f.message << '\n';
   std::cout << Plural(checker.Checked(), "object") << " checked, " << checker.Failures().size() << " invalid"
             << std::endl;

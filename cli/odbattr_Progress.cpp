@@ -3,35 +3,72 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace odbattr {
 
 namespace {
-constexpr auto kDelay = std::chrono::milliseconds(500);     // short work shows nothing
-constexpr auto kInterval = std::chrono::milliseconds(100);  // redraws per second, at most ten
+constexpr auto kProgressInterval = std::chrono::milliseconds(200);  // redraws, five a second
+
+std::chrono::milliseconds ProgressDelay() {
+  // Short work shows nothing; a test sets the delay to show progress of short work.
+  if (const char* ms = std::getenv("ODBATTR_PROGRESS_DELAY_MS"); ms && *ms) {
+    char* end = nullptr;
+    const long v = std::strtol(ms, &end, 10);
+    if (*end == '\0' && v >= 0) return std::chrono::milliseconds(v);
+  }
+  return std::chrono::milliseconds(1000);
+}
 }  // namespace
 
-Progress::Progress(std::string what)
-    : what_(std::move(what)), terminal_(::isatty(STDERR_FILENO) == 1), start_(std::chrono::steady_clock::now()) {}
+bool StandardErrorIsTerminal() { return ::isatty(STDERR_FILENO) == 1; }
 
-Progress::~Progress() { Clear(); }
+Progress::Progress(std::string what) : what_(std::move(what)) {
+  if (StandardErrorIsTerminal()) watcher_ = std::thread([this] { Watch(); });
+}
 
-void Progress::Update(std::size_t done) {
-  if (!terminal_) return;
-  const auto now = std::chrono::steady_clock::now();
-  if (now - start_ < kDelay || (shown_ && now - last_ < kInterval)) return;
-  last_ = now;
-  Draw(what_ + ": " + std::to_string(done));
+Progress::~Progress() {
+  if (!watcher_.joinable()) return;
+  {
+    std::lock_guard lock(mutex_);
+    stop_ = true;
+  }
+  wake_.notify_one();
+  watcher_.join();
+  Clear();
+}
+
+void Progress::Update(std::size_t done, const char* unit) {
+  if (!watcher_.joinable()) return;
+  if (!counted_.load(std::memory_order_relaxed)) {
+    std::lock_guard lock(mutex_);
+    unit_ = unit;
+    counted_ = true;
+  }
+  done_.store(done, std::memory_order_relaxed);
 }
 
 void Progress::Stage(const std::string& text) {
-  if (terminal_) Draw(what_ + ": " + text);
+  if (!watcher_.joinable()) return;
+  std::lock_guard lock(mutex_);
+  stage_ = text;
 }
 
-void Progress::Draw(const std::string& text) {
-  std::fprintf(stderr, "\r\033[K%s", text.c_str());
-  std::fflush(stderr);
-  shown_ = true;
+std::string Progress::Text() {
+  std::string text = what_;
+  if (!stage_.empty()) text += ": " + stage_;
+  if (counted_) text += ": " + std::to_string(done_.load(std::memory_order_relaxed)) + " " + unit_;
+  return text;
+}
+
+void Progress::Watch() {
+  std::unique_lock lock(mutex_);
+  if (wake_.wait_for(lock, ProgressDelay(), [this] { return stop_; })) return;
+  do {
+    std::fprintf(stderr, "\r\033[K%s", Text().c_str());
+    std::fflush(stderr);
+    shown_ = true;
+  } while (!wake_.wait_for(lock, kProgressInterval, [this] { return stop_; }));
 }
 
 void Progress::Clear() {

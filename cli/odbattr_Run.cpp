@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/odbattr_Commands.h"
+#include "cli/odbattr_Progress.h"
 #include "cli/odbattr_Script.h"
 #include "command/cmd_Session.h"
 #include "dbfile/dbf_AtomicFile.h"
@@ -53,29 +54,44 @@ int Run(const std::string& script, const std::string& db) {
   };
   if (!db.empty() && std::filesystem::exists(target)) {
     try {
+      Progress progress("opening " + db);
       fileCommand("open");
     } catch (const std::exception& e) {
       Complain(e.what());
       return kUnusable;
     }
   }
-  const bool complete = ForEachCommand(*in, [&](const std::string& line, std::size_t number) {
-    // Invalid UTF-8 never reaches a result (the line is refused), but the output must not depend on it.
-    std::cout << session.ExecuteLine(line, number).dump(-1, ' ', false, cmd_Json::error_handler_t::replace) << '\n'
-              << std::flush;
-  });
+  std::size_t commands = 0, failures = 0;
+  bool complete = false;
+  {
+    Progress progress("running " + (script == "-" ? std::string("standard input") : script));
+    complete = ForEachCommand(*in, [&](const std::string& line, std::size_t number) {
+      const cmd_Json r = session.ExecuteLine(line, number);
+      if (!r.value("ok", false)) ++failures;
+      progress.Update(++commands, "commands");
+      // Invalid UTF-8 never reaches a result (the line is refused), but the output must not depend on it.
+      std::cout << r.dump(-1, ' ', false, cmd_Json::error_handler_t::replace) << '\n' << std::flush;
+    });
+  }
   if (!complete) {
     Complain("reading the script " + script + " failed");
     return kUnusable;
   }
   if (!db.empty()) {
     try {
+      Progress progress("saving " + db);
       fileCommand("save");
       if (target != db) Complain(db + " is a symbolic link; saved " + target + ", which it leads to");
     } catch (const std::exception& e) {
       Complain(e.what());
       return kUnusable;
     }
+  }
+  // For a person at a terminal; a script reading the results has them on standard output.
+  if (StandardErrorIsTerminal()) {
+    std::cerr << "odbattr: " << commands << (commands == 1 ? " command, " : " commands, ") << failures
+              << (failures == 1 ? " failure" : " failures") << (db.empty() ? ", nothing saved" : ", saved " + db)
+              << std::endl;
   }
   return session.Failed() ? kFailed : kOk;
 }

@@ -30,10 +30,13 @@ int main(int argc, char** argv) {
   bool strict = false;
   check->add_flag("--strict", strict, "exit 1 also when the advice has warnings");
 
-  CLI::App* dump = app.add_subcommand("dump", "Print a database file, or what a path names in it, as JSON");
+  CLI::App* dump = app.add_subcommand("dump", "Print a database file, or what a path names in it, as JSON: one line "
+                                              "per object, compact");
   dump->add_option("FILE", file, "the database file")->required();
   dump->add_option("PATH", path,
                    "steps separated by / (Model-1/adaptiveMeshControls/C-1), or a JSON array of steps");
+  bool pretty = false;
+  dump->add_flag("--pretty", pretty, "indent every member on a line of its own");
 
   CLI::App* upgrade = app.add_subcommand("upgrade", "Write a database file upgraded to the current class versions");
   upgrade->add_option("IN", in, "the database file to read; it is not changed")->required();
@@ -43,6 +46,11 @@ int main(int argc, char** argv) {
   CLI::App* schema = app.add_subcommand(
       "schema", "Print the JSON Schema of one command of a script, made from the registered classes: the ops, the "
                 "constructors of each repository, the members with their types, literals and defaults");
+
+  CLI::App* reference = app.add_subcommand(
+      "reference", "Print the class reference for scripting (Markdown): the constructors of each repository, "
+                   "their members with type, default, literals and meaning, and the codes their validation raises");
+  reference->add_option("--out", out, "write it to this file instead (replaced whole)");
 
   CLI::App* example = app.add_subcommand(
       "example", "Build the example models (the scripts of examples/) into a database file and check it");
@@ -64,10 +72,11 @@ int main(int argc, char** argv) {
   try {
     if (*run) code = odbattr::Run(script, db);
     else if (*check) code = odbattr::Check(file, strict);
-    else if (*dump) code = odbattr::Dump(file, path);
+    else if (*dump) code = odbattr::Dump(file, path, pretty);
     else if (*upgrade) code = odbattr::Upgrade(in, out);
     else if (*example) code = odbattr::Example(dir, db);
     else if (*schema) code = odbattr::Schema();
+    else if (*reference) code = odbattr::Reference(out);
     else code = odbattr::Classes();
   } catch (const std::exception& e) {
     odbattr::Complain(e.what());

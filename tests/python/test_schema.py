@@ -26,7 +26,8 @@ def test_the_schema_states_the_classes_terms(schema):
     ctrl = schema["$defs"]["AdaptiveMeshControl"]["properties"]
     assert ctrl["remapping"]["default"] == "SECOND_ORDER_ADVECTION"
     assert ctrl["remapping"]["anyOf"][0]["enum"] == ["FIRST_ORDER_ADVECTION", "SECOND_ORDER_ADVECTION"]
-    assert ctrl["initialFeatureAngle"] == {"type": "number", "default": 30.0}
+    assert ctrl["initialFeatureAngle"] == {"type": "number", "default": 30.0,
+                                           "description": "Feature angle of the initial geometry (degrees, 0 to 180)"}
     assert schema["x-repositories"]["adaptiveMeshDomains"] == ["AdaptiveMeshDomain"]
     assert schema["x-repositories"]["adaptiveMeshControls"] == ["AdaptiveMeshControl"]
 
@@ -93,7 +94,7 @@ def test_a_constructor_variant_is_listed_and_defined_with_its_class_members(sche
     variant = schema["$defs"]["DiscreteFieldFromAnalytic"]
     plain = schema["$defs"]["DiscreteField"]
     assert variant["x-variantOf"] == "DiscreteField" and variant["x-class"] == "kfdC_DiscreteField"
-    assert variant["properties"]["type"] == {"const": "DiscreteFieldFromAnalytic"}
+    assert variant["properties"]["type"] == {"description": "The constructor", "const": "DiscreteFieldFromAnalytic"}
     assert {k: v for k, v in variant["properties"].items() if k not in ("type", "$type")} == \
         {k: v for k, v in plain["properties"].items() if k not in ("type", "$type")}
     validator = jsonschema.Draft202012Validator(schema)
@@ -111,3 +112,70 @@ def test_read_only_members_are_marked(schema):
     damage = schema["$defs"]["ConnectorDamage"]["properties"]
     assert damage["lastIniId"]["readOnly"] is True and damage["lastEvoId"]["readOnly"] is True
     assert "readOnly" not in damage["initiationPotentials"]
+
+
+# Typos the schema catches wherever they stand: in a repository nested in a model object, in an
+# element of a list of objects, in a single member that a set gives a "value", and in a step of
+# the path itself. Each typo has its correct twin, which fits.
+INERTIA = '"path":["M","engineeringFeatures","inertias","PM-1"]'
+SECTION = '"path":["M","connectorSections","S-1","behaviorOptions",%s]'
+CTRL = '"path":["M","adaptiveMeshControls","C-1",%s]'
+STEEL = '"path":["M","materials","Steel",%s]'
+
+
+@pytest.mark.parametrize("typo, twin", [
+    # nested repositories
+    ('{"op":"create",' + INERTIA + ',"type":"PointMassInertia","values":{"mass":1,"i11x":2}}',
+     '{"op":"create",' + INERTIA + ',"type":"PointMassInertia","values":{"mass":1,"i11":2}}'),
+    ('{"op":"create",' + INERTIA + ',"type":"PointMassInertai"}',
+     '{"op":"create",' + INERTIA + ',"type":"PointMassInertia"}'),
+    ('{"op":"create","path":["M","engineeringFeatures","inertia","PM-1"],"type":"PointMassInertia"}',
+     '{"op":"create","path":["M","engineeringFeatures","inertias","PM-1"],"type":"PointMassInertia"}'),
+    ('{"op":"get","path":["M","engineeringFeature","inertias"]}',
+     '{"op":"get","path":["M","engineeringFeatures","inertias"]}'),
+    ('{"op":"set","path":["M","engineeringFeatures","inertias","PM-1","mas"],"value":2}',
+     '{"op":"set","path":["M","engineeringFeatures","inertias","PM-1","mass"],"value":2}'),
+    # elements of lists of objects, and objects within them
+    ('{"op":"set",' + SECTION % '0' + ',"values":{"componets":[1]}}',
+     '{"op":"set",' + SECTION % '0' + ',"values":{"components":[1]}}'),
+    ('{"op":"set",' + SECTION % '2,"isotropicOptions"' + ',"type":"ConnectorOptions","values":{"regularisation":0.01}}',
+     '{"op":"set",' + SECTION % '2,"isotropicOptions"' + ',"type":"ConnectorOptions","values":{"regularization":0.01}}'),
+    ('{"op":"set",' + SECTION % '2,"isotropicOption"' + ',"type":"ConnectorOptions"}',
+     '{"op":"set",' + SECTION % '2,"isotropicOptions"' + ',"type":"ConnectorOptions"}'),
+    ('{"op":"set",' + SECTION % '1,"isotropicOptions","regularization"' + ',"value":"small"}',
+     '{"op":"set",' + SECTION % '1,"isotropicOptions","regularization"' + ',"value":0.02}'),
+    # single members given a "value"
+    ('{"op":"set",' + CTRL % '"meshConstraintAngel"' + ',"value":45}',
+     '{"op":"set",' + CTRL % '"meshConstraintAngle"' + ',"value":45}'),
+    ('{"op":"set",' + CTRL % '"remapping"' + ',"value":"THIRD_ORDER_ADVECTION"}',
+     '{"op":"set",' + CTRL % '"remapping"' + ',"value":"FIRST_ORDER_ADVECTION"}'),
+    ('{"op":"set",' + CTRL % '"meshConstraintAngle"' + ',"value":"45"}',
+     '{"op":"set",' + CTRL % '"meshConstraintAngle"' + ',"value":45.5}'),
+    ('{"op":"set",' + STEEL % '"elastic","tabel"' + ',"value":[[210000,0.3]]}',
+     '{"op":"set",' + STEEL % '"elastic","table"' + ',"value":[[210000,0.3]]}'),
+    ('{"op":"set",' + STEEL % '"elastic","moduli"' + ',"value":"LONG"}',
+     '{"op":"set",' + STEEL % '"elastic","moduli"' + ',"value":"INSTANTANEOUS"}'),
+    ('{"op":"set",' + STEEL % '"elastic"' + ',"type":"Elastic","values":{"tabel":[[1,0.3]]}}',
+     '{"op":"set",' + STEEL % '"elastic"' + ',"type":"Elastic","values":{"table":[[1,0.3]]}}'),
+    ('{"op":"set",' + STEEL % '"elastik"' + ',"type":"Elastic"}',
+     '{"op":"set",' + STEEL % '"elastic"' + ',"type":"Elastic"}'),
+    # a step of the path at the model
+    ('{"op":"get","path":["M","materails","Steel"]}',
+     '{"op":"get","path":["M","materials","Steel"]}'),
+])
+def test_typos_fail_and_their_twins_fit(schema, typo, twin):
+    validator = jsonschema.Draft202012Validator(schema)
+    assert validator.is_valid(json.loads(twin)), [e.message for e in validator.iter_errors(json.loads(twin))]
+    assert not validator.is_valid(json.loads(typo))
+
+
+def test_every_definition_is_described(schema):
+    undescribed = [name for name, d in schema["$defs"].items() if not d.get("description")]
+    assert undescribed == []
+    ctrl = schema["$defs"]["AdaptiveMeshControl"]
+    assert ctrl["description"].startswith("An adaptive mesh control")
+    missing = [f"{name}.{member}" for name, d in schema["$defs"].items()
+               for member, m in d.get("properties", {}).items() if not m.get("description")]
+    assert missing == []
+    assert schema["$defs"]["TabularAmplitude"]["properties"]["data"]["description"] == "Data (table: time, amplitude)"
+    assert all(op.get("description") for op in schema["oneOf"])

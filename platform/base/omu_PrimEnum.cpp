@@ -33,14 +33,18 @@ cow_Map<cow_String, unsigned> omu_PrimEnumBase::PermissibleValues() const {
   return m;
 }
 
-cow_String omu_PrimEnumBase::PermissibleValuesAsString() const {
+namespace {
+cow_String omu_PermissibleOf(const omu_EnumLiteral* table) {
   std::string s;
-  for (int i = 0; table_[i].text; ++i) {
+  for (int i = 0; table[i].text; ++i) {
     if (i) s += ", ";
-    s += table_[i].text;
+    s += table[i].text;
   }
   return cow_String(s);
 }
+}  // namespace
+
+cow_String omu_PrimEnumBase::PermissibleValuesAsString() const { return omu_PermissibleOf(table_); }
 
 void omu_PrimEnumBase::RefuseValue(std::int64_t value) const {
   atr_SubstituteFormat f(atr_translate(
@@ -54,7 +58,7 @@ atr_String omu_PrimEnumBase::StringRefusalText(const omu_EnumLiteral* table, con
   atr_SubstituteFormat f(atr_translate(
       "omu_PrimEnum(const cow_String&) - str not allowed: %s  Permissible: %s"));
   f.Substitute(1, s);
-  f.Substitute(2, omu_PrimEnumBase(table).PermissibleValuesAsString());
+  f.Substitute(2, omu_PermissibleOf(table));
   return f.Result();
 }
 

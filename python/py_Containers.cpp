@@ -87,7 +87,7 @@ py::object Element(const Session& s, const cmd_Path& path) {
   Guarded([&] {
     cmd_WalkConst(s->Database(), path, [&](const cmd_Node& n) {
       if (n.kind == cmd_Node::kRepository) result = py::cast(Repository{s, path});
-      else if (n.kind == cmd_Node::kObject) result = Wrap(*n.md, Object{s, nullptr, path})  // Wrap records the view's identity;
+      else if (n.kind == cmd_Node::kObject) result = Wrap(*n.md, Object{s, nullptr, path});  // Wrap records its identity
       else cmd_Refuse(cmd_PathText(path) + " names no element");
     });
   }, "NotFoundError");

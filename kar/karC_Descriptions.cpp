@@ -4,7 +4,6 @@
 // What the classes of the module and their members mean, by scripting name.
 namespace {
 constexpr cls_MemberDescription kKarDescRemeshingRule[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"stepName", "Step name"},
     {"region", "The region it applies to"},
     {"description", "A free text describing it"},

@@ -12,9 +12,6 @@ constexpr cls_MemberDescription kKbeDescCDCTerm[] = {
     {"fieldDependencies", "Field dependencies"},
     {"intrinsicComponents", "Intrinsic components"},
     {"indepComponents", "Indep components"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"options", "Options of the data table (optional)"},
 };
 constexpr int kKbeCodesCDCTerm[] = {51, 52, 53, 54};
@@ -50,19 +47,7 @@ constexpr cls_MemberDescription kKbeDescConnectorDamping[] = {
     {"components", "Connector components it acts on (list of component numbers, 1 to 6)"},
     {"behavior", "Behavior"},
     {"coupling", "Whether the components act uncoupled or coupled"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"frequencyDependency",
-     "Whether the data depend on frequency (a frequency column follows the data columns of the "
-     "table)"},
     {"independentComponents", "Components that coupled data depend on (list of component numbers)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"options", "Options of the data table (optional)"},
     {"connDampType", "Conn damp type"},
 };
@@ -71,19 +56,7 @@ constexpr cls_MemberDescription kKbeDescConnectorElasticity[] = {
     {"components", "Connector components it acts on (list of component numbers, 1 to 6)"},
     {"behavior", "Behavior"},
     {"coupling", "Whether the components act uncoupled or coupled"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"frequencyDependency",
-     "Whether the data depend on frequency (a frequency column follows the data columns of the "
-     "table)"},
     {"independentComponents", "Components that coupled data depend on (list of component numbers)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"options", "Options of the data table (optional)"},
 };
 constexpr cls_MemberDescription kKbeDescConnectorFailure[] = {
@@ -101,12 +74,6 @@ constexpr cls_MemberDescription kKbeDescConnectorFriction[] = {
     {"stickStiffness", "Stick stiffness"},
     {"componentType", "Component type"},
     {"slipDependency", "Slip dependency"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
     {"useContactForceComponent", "Use contact force component"},
     {"contactForceStyle", "Contact force style"},
     {"contactForceComponent", "Contact force component"},
@@ -118,9 +85,6 @@ constexpr cls_MemberDescription kKbeDescConnectorFriction[] = {
     {"tangentialBehavior", "Tangential behavior"},
     {"derivedComponent", "The derived component the behavior acts on (optional)"},
     {"contactForces", "Contact forces"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"options", "Options of the data table (optional)"},
 };
 constexpr int kKbeCodesConnectorFriction[] = {6, 18, 17, 19, 34, 35, 38, 39, 41, 42};
@@ -192,9 +156,6 @@ constexpr cls_MemberDescription kKbeDescContactForce[] = {
     {"contactForceStyle", "Contact force style"},
     {"contactForceComponent", "Contact force component"},
     {"derivedComponent", "The derived component the behavior acts on (optional)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKbeCodesContactForce[] = {17, 34, 35, 42};
 constexpr cls_MemberDescription kKbeDescDerivedComponent[] = {
@@ -205,20 +166,11 @@ constexpr cls_MemberDescription kKbeDescTangentialBehavior[] = {
     {"formulation", "Formulation"},
     {"slipRateDependency", "Slip rate dependency"},
     {"pressureDependency", "Pressure dependency"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
     {"exponentialDecayDefinition", "Exponential decay definition"},
     {"shearStressLimit", "Shear stress limit"},
     {"maximumElasticSlip", "Maximum elastic slip"},
     {"fraction", "Fraction"},
     {"absoluteDistance", "Absolute distance"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKbeCodesTangentialBehavior[] = {31, 20, 24, 26, 25, 28, 33, 21, 23, 32, 29, 30, 22};
 constexpr cls_ClassDescription kKbeDescriptions[] = {

@@ -4,12 +4,10 @@
 // What the classes of the module and their members mean, by scripting name.
 namespace {
 constexpr cls_MemberDescription kKcoDescAdjustPoints[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"surface", "Surface"},
     {"controlPoints", "Control points"},
 };
 constexpr cls_MemberDescription kKcoDescCoupling[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"surface", "Surface"},
     {"refPoint", "Ref point (regions)"},
     {"influenceRadius", "The value \"WHOLE_SURFACE\" or a distance"},
@@ -31,7 +29,6 @@ constexpr cls_MemberDescription kKcoDescCoupling[] = {
 };
 constexpr int kKcoCodesCoupling[] = {8};
 constexpr cls_MemberDescription kKcoDescDdbDisplayBody[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"instanceName", "Instance name"},
     {"node1Label", "Node1 label"},
     {"node1InstanceName", "Node1 instance name"},
@@ -41,7 +38,6 @@ constexpr cls_MemberDescription kKcoDescDdbDisplayBody[] = {
     {"node3InstanceName", "Node3 instance name"},
 };
 constexpr cls_MemberDescription kKcoDescDisplayBody[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"instanceId", "Instance id"},
     {"_dot1", " dot1"},
     {"_dot2", " dot2"},
@@ -49,7 +45,6 @@ constexpr cls_MemberDescription kKcoDescDisplayBody[] = {
 };
 constexpr int kKcoCodesDisplayBody[] = {9};
 constexpr cls_MemberDescription kKcoDescEmbeddedRegion[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"embeddedRegion", "Embedded region"},
     {"hostRegion", "Host region (regions)"},
     {"toleranceMethod", "Tolerance method"},
@@ -58,7 +53,6 @@ constexpr cls_MemberDescription kKcoDescEmbeddedRegion[] = {
     {"weightFactorTolerance", "Weight factor tolerance"},
 };
 constexpr cls_MemberDescription kKcoDescEquation[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"terms", "Terms"},
 };
 constexpr int kKcoCodesEquation[] = {0};
@@ -70,16 +64,13 @@ constexpr cls_MemberDescription kKcoDescEquationTerm[] = {
 };
 constexpr int kKcoCodesEquationTerm[] = {4};
 constexpr cls_MemberDescription kKcoDescMPC[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"surface", "Surface"},
     {"refPoint", "Ref point"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"mpcType", "Mpc type"},
     {"userMode", "User mode"},
     {"userType", "User type"},
 };
 constexpr cls_MemberDescription kKcoDescRigidBody[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"refPointRegion", "Ref point region"},
     {"bodyRegion", "Body region"},
     {"tieRegion", "Tie region"},
@@ -89,7 +80,6 @@ constexpr cls_MemberDescription kKcoDescRigidBody[] = {
     {"isothermal", "Isothermal"},
 };
 constexpr cls_MemberDescription kKcoDescShellSolidCoupling[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"shellEdge", "Shell edge"},
     {"solidFace", "Solid face (regions)"},
     {"positionToleranceMethod", "Position tolerance method"},
@@ -99,7 +89,6 @@ constexpr cls_MemberDescription kKcoDescShellSolidCoupling[] = {
 };
 constexpr int kKcoCodesShellSolidCoupling[] = {5};
 constexpr cls_MemberDescription kKcoDescTie[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"master", "Main surface region"},
     {"slave", "Secondary region"},
     {"adjust", "Adjust"},

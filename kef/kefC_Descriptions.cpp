@@ -4,9 +4,7 @@
 // What the classes of the module and their members mean, by scripting name.
 namespace {
 constexpr cls_MemberDescription kKefDescAssembledFastener[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"ur1", "Whether rotation about direction 1 is coupled"},
     {"ur2", "Whether rotation about direction 2 is coupled"},
     {"ur3", "Whether rotation about direction 3 is coupled"},
@@ -33,27 +31,22 @@ constexpr cls_MemberDescription kKefDescContourIntegral[] = {
     {"qVectors", "Q vectors"},
     {"midNodePosition", "Mid node position"},
     {"collapsedElementAtTip", "Collapsed element at tip"},
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
 };
 constexpr int kKefCodesContourIntegral[] = {2};
 constexpr cls_MemberDescription kKefDescDataImperfection[] = {
     {"imperfectionTable", "Imperfection table (table of doubles)"},
     {"nodeNumbers", "Node numbers (int list)"},
     {"system", "System"},
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
 };
 constexpr cls_MemberDescription kKefDescDebondVCCT[] = {
     {"initiationStep", "Initiation step, scripting \"initiationStep\""},
     {"surfToSurfInteraction", "Surf to surf interaction"},
     {"debondingForceAmplitude", "Scripting \"debondingForceAmplitude\""},
     {"printToDATFrequency", "Print to DAT frequency (int, scripting \"printToDATFrequency\")"},
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
 };
 constexpr int kKefCodesDebondVCCT[] = {36, 37, 38};
 constexpr cls_MemberDescription kKefDescDiscreteFastener[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"ur1", "Whether rotation about direction 1 is coupled"},
     {"ur2", "Whether rotation about direction 2 is coupled"},
     {"ur3", "Whether rotation about direction 3 is coupled"},
@@ -71,7 +64,6 @@ constexpr cls_MemberDescription kKefDescEngineeringFeatures[] = {
     {"imperfections", "Imperfections"},
 };
 constexpr cls_MemberDescription kKefDescFileImperfection[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"resultsFile", "Results file"},
     {"step", "Step"},
     {"increment", "Increment"},
@@ -81,32 +73,21 @@ constexpr cls_MemberDescription kKefDescFileImperfection[] = {
 };
 constexpr cls_MemberDescription kKefDescHeatCapacitance[] = {
     {"region", "The region it applies to"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
     {"table", "Table"},
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
 };
 constexpr cls_MemberDescription kKefDescInputImperfection[] = {
     {"inputFile", "Input file"},
     {"system", "System"},
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
 };
 constexpr cls_MemberDescription kKefDescNonstructuralMass[] = {
     {"region", "The region it applies to"},
     {"units", "Units"},
     {"magnitude", "Magnitude"},
     {"distribution", "Distribution"},
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
 };
 constexpr int kKefCodesNonstructuralMass[] = {11};
 constexpr cls_MemberDescription kKefDescPointFastener[] = {
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"ur1", "Whether rotation about direction 1 is coupled"},
     {"ur2", "Whether rotation about direction 2 is coupled"},
     {"ur3", "Whether rotation about direction 3 is coupled"},
@@ -147,7 +128,6 @@ constexpr cls_MemberDescription kKefDescPointMassInertia[] = {
     {"localCsys", "The local datum coordinate system (empty: the global system)"},
     {"alpha", "Alpha"},
     {"composite", "Composite"},
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"mass1", "Mass1"},
     {"mass2", "Mass2"},
     {"mass3", "Mass3 (doubles, anisotropic mass)"},
@@ -161,7 +141,6 @@ constexpr cls_MemberDescription kKefDescSpringToGround[] = {
     {"dof1", "Dof1"},
     {"dof2", "Dof2"},
     {"localCsys", "The local datum coordinate system (empty: the global system)"},
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"region", "The region it applies to"},
 };
 constexpr int kKefCodesSpringToGround[] = {4, 5};
@@ -173,7 +152,6 @@ constexpr cls_MemberDescription kKefDescTwoPointSpring[] = {
     {"dof1", "Dof1"},
     {"dof2", "Dof2"},
     {"localCsys", "The local datum coordinate system (empty: the global system)"},
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"regionPairs", "Region pairs"},
     {"axis", "Axis"},
 };
@@ -189,7 +167,6 @@ constexpr cls_MemberDescription kKefDescXFEMCrack[] = {
     {"hasCrackFront", "Has crack front (int array)"},
     {"crackPlaneDist", "Crack plane dist"},
     {"crackFrontDist", "Crack front dist (double arrays)"},
-    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
     {"autoDetectValue", "Auto detect value"},
 };
 constexpr int kKefCodesXFEMCrack[] = {18, 19, 20, 21, 22, 23};

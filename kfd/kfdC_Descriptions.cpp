@@ -20,7 +20,6 @@ constexpr cls_MemberDescription kKfdDescDiscreteField[] = {
 };
 constexpr int kKfdCodesDiscreteField[] = {7, 14, 15, 16, 18, 17, 10, 13, 11, 12, 19, 21, 20};
 constexpr cls_MemberDescription kKfdDescExpressionField[] = {
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"csysPartName", "Csys part name"},
     {"csysType", "Csys type"},
     {"expression", "Expression"},

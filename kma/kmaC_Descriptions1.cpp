@@ -6,233 +6,62 @@ namespace {
 constexpr cls_MemberDescription kKmaDescAcousticMedium[] = {
     {"bulkModulus", "Bulk modulus"},
     {"volumetricDrag", "Volumetric drag"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesAcousticMedium[] = {0};
-constexpr cls_MemberDescription kKmaDescAnnealTemperature[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesAnnealTemperature[] = {0};
 constexpr cls_MemberDescription kKmaDescBiaxialTestData[] = {
     {"smoothing", "Smoothing"},
     {"lateralNominalStrain", "Lateral nominal strain"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesBiaxialTestData[] = {0};
 constexpr cls_MemberDescription kKmaDescBrittleCracking[] = {
     {"type", "Type"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"shearRetention", "Shear retention"},
 };
 constexpr int kKmaCodesBrittleCracking[] = {0};
 constexpr cls_MemberDescription kKmaDescCapCreep[] = {
     {"law", "Law"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesCapCreep[] = {0};
 constexpr cls_MemberDescription kKmaDescCapCreepCohesion[] = {
     {"law", "Law"},
     {"time", "Time"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesCapCreepCohesion[] = {0};
 constexpr cls_MemberDescription kKmaDescCapCreepConsolidation[] = {
     {"law", "Law"},
     {"time", "Time"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesCapCreepConsolidation[] = {0};
 constexpr cls_MemberDescription kKmaDescCapPlasticity[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"capCreepCohesion", "Cap creep cohesion"},
     {"capCreepConsolidation", "Cap creep consolidation"},
     {"capCreep", "Cap creep"},
 };
 constexpr int kKmaCodesCapPlasticity[] = {0};
-constexpr cls_MemberDescription kKmaDescCastIronPlasticity[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesCastIronPlasticity[] = {0};
 constexpr cls_MemberDescription kKmaDescClayPlasticity[] = {
     {"hardening", "Hardening"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesClayPlasticity[] = {0};
-constexpr cls_MemberDescription kKmaDescConcrete[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesConcrete[] = {0};
-constexpr cls_MemberDescription kKmaDescConcreteDamagedPlasticity[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesConcreteDamagedPlasticity[] = {0, 8, 54, 55};
 constexpr cls_MemberDescription kKmaDescConductivity[] = {
     {"type", "Type"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesConductivity[] = {0};
 constexpr cls_MemberDescription kKmaDescCreep[] = {
     {"law", "Law"},
     {"time", "Time"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesCreep[] = {0};
 constexpr cls_MemberDescription kKmaDescCrushStress[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"crushStressVelocityFactor", "Crush stress velocity factor"},
 };
 constexpr int kKmaCodesCrushStress[] = {0};
-constexpr cls_MemberDescription kKmaDescCrushStressVelocityFactor[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesCrushStressVelocityFactor[] = {0};
-constexpr cls_MemberDescription kKmaDescCycledPlastic[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr cls_MemberDescription kKmaDescCyclicHardening[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
     {"parameters", "Parameters"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesCyclicHardening[] = {0};
 constexpr cls_MemberDescription kKmaDescDamageEvolution[] = {
@@ -243,15 +72,6 @@ constexpr cls_MemberDescription kKmaDescDamageEvolution[] = {
     {"power", "Power"},
     {"degradation", "Degradation"},
     {"failureIndex", "Failure index"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesDamageEvolution[] = {0, 38};
 constexpr cls_MemberDescription kKmaDescDamageInitiation[] = {
@@ -267,15 +87,6 @@ constexpr cls_MemberDescription kKmaDescDamageInitiation[] = {
     {"fnn", "Fnn"},
     {"fnt", "Fnt"},
     {"frequency", "Frequency"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"DamageEvolutionList", "Damage evolution list"},
 };
 constexpr int kKmaCodesDamageInitiation[] = {0, 11, 74};
@@ -293,7 +104,7 @@ constexpr cls_ClassDescription kKmaDescriptions1[] = {
     {"kmaC_AnnealTemperature",
      "Annealing of a plastic option: above the anneal temperature the plastic strain is set to "
      "zero.",
-     kKmaDescAnnealTemperature, nullptr, kKmaCodesAnnealTemperature},
+     {}, nullptr, kKmaCodesAnnealTemperature},
     {"kmaC_BiaxialTestData",
      "Equibiaxial test data: measured nominal stress against nominal strain, for a Mullins effect "
      "(the unloading curves) or a hyperelastic or hyperfoam fit.",
@@ -320,16 +131,16 @@ constexpr cls_ClassDescription kKmaDescriptions1[] = {
      kKmaDescCapPlasticity, nullptr, kKmaCodesCapPlasticity},
     {"kmaC_CastIronPlasticity",
      "Gray cast iron plasticity: the plastic Poisson's ratio in tension.",
-     kKmaDescCastIronPlasticity, nullptr, kKmaCodesCastIronPlasticity},
+     {}, nullptr, kKmaCodesCastIronPlasticity},
     {"kmaC_ClayPlasticity",
      "Critical state clay plasticity: exponential or tabular hardening.",
      kKmaDescClayPlasticity, nullptr, kKmaCodesClayPlasticity},
     {"kmaC_Concrete",
      "Smeared crack concrete: compressive yield stress against plastic strain.",
-     kKmaDescConcrete, nullptr, kKmaCodesConcrete},
+     {}, nullptr, kKmaCodesConcrete},
     {"kmaC_ConcreteDamagedPlasticity",
      "Concrete damaged plasticity: dilation angle, eccentricity, fb0/fc0, K and viscosity per row.",
-     kKmaDescConcreteDamagedPlasticity, nullptr, kKmaCodesConcreteDamagedPlasticity},
+     {}, nullptr, kKmaCodesConcreteDamagedPlasticity},
     {"kmaC_Conductivity",
      "Thermal conductivity: one, three or six coefficients by the symmetry of the type.",
      kKmaDescConductivity, nullptr, kKmaCodesConductivity},
@@ -343,11 +154,11 @@ constexpr cls_ClassDescription kKmaDescriptions1[] = {
     {"kmaC_CrushStressVelocityFactor",
      "The rate dependence of a crush stress: a factor on the crush stress against the crushing "
      "velocity.",
-     kKmaDescCrushStressVelocityFactor, nullptr, kKmaCodesCrushStressVelocityFactor},
+     {}, nullptr, kKmaCodesCrushStressVelocityFactor},
     {"kmaC_CycledPlastic",
      "Cycled yield data of a plastic option under the ORNL rules: the yield stress against "
      "plastic strain after cycling, possibly temperature dependent.",
-     kKmaDescCycledPlastic},
+     {}},
     {"kmaC_CyclicHardening",
      "Isotropic part of combined hardening: the yield surface size against equivalent plastic "
      "strain, or the parameters of the exponential law (initial yield stress, saturation value, "

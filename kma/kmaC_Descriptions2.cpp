@@ -2,30 +2,10 @@
 
 // What the classes of the module and their members mean, by scripting name.
 namespace {
-constexpr cls_MemberDescription kKmaDescDeformationPlasticity[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesDeformationPlasticity[] = {0};
 constexpr cls_MemberDescription kKmaDescDensity[] = {
     {"distributionType", "Distribution type"},
     {"fieldName", "Field name"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesDensity[] = {0};
 constexpr cls_MemberDescription kKmaDescDepvar[] = {
@@ -35,62 +15,23 @@ constexpr cls_MemberDescription kKmaDescDepvar[] = {
 constexpr int kKmaCodesDepvar[] = {3, 15};
 constexpr cls_MemberDescription kKmaDescDielectric[] = {
     {"type", "Type"},
-    {"frequencyDependency",
-     "Whether the data depend on frequency (a frequency column follows the data columns of the "
-     "table)"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesDielectric[] = {0};
 constexpr cls_MemberDescription kKmaDescDiffusivity[] = {
     {"type", "Type"},
     {"law", "Law"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesDiffusivity[] = {0};
 constexpr cls_MemberDescription kKmaDescDruckerPrager[] = {
     {"shearCriterion", "Shear criterion"},
     {"eccentricity", "Eccentricity"},
     {"testData", "Test data"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"druckerPragerCreep", "Drucker prager creep"},
 };
 constexpr int kKmaCodesDruckerPrager[] = {0, 8};
 constexpr cls_MemberDescription kKmaDescDruckerPragerCreep[] = {
     {"law", "Law"},
     {"time", "Time"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesDruckerPragerCreep[] = {0};
 constexpr cls_MemberDescription kKmaDescElastic[] = {
@@ -107,31 +48,10 @@ constexpr cls_MemberDescription kKmaDescElastic[] = {
 constexpr int kKmaCodesElastic[] = {36, 0};
 constexpr cls_MemberDescription kKmaDescElectricalConductivity[] = {
     {"type", "Type"},
-    {"frequencyDependency",
-     "Whether the data depend on frequency (a frequency column follows the data columns of the "
-     "table)"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesElectricalConductivity[] = {0};
 constexpr cls_MemberDescription kKmaDescElectrode[] = {
     {"type", "Type"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"electricalConductivity", "Electrical conductivity"},
     {"electrodeParticleList", "Electrode particle list"},
     {"electrodeParticleLayerList", "Electrode particle layer list"},
@@ -139,15 +59,6 @@ constexpr cls_MemberDescription kKmaDescElectrode[] = {
 constexpr int kKmaCodesElectrode[] = {0};
 constexpr cls_MemberDescription kKmaDescElectrodeParticle[] = {
     {"radius", "Radius"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"diffusivity", "Diffusivity"},
     {"electricalConductivity", "Electrical conductivity"},
 };
@@ -155,72 +66,25 @@ constexpr int kKmaCodesElectrodeParticle[] = {0};
 constexpr cls_MemberDescription kKmaDescElectrodeParticleLayer[] = {
     {"thickness", "Thickness"},
     {"numElements", "Num elements"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesElectrodeParticleLayer[] = {0};
-constexpr cls_MemberDescription kKmaDescElectrolyte[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesElectrolyte[] = {0};
 constexpr cls_MemberDescription kKmaDescEos[] = {
     {"type", "Type"},
     {"detonationEnergy", "Detonation energy"},
     {"solidTable", "Solid table"},
     {"gasTable", "Gas table"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"eosShear", "Eos shear"},
 };
 constexpr int kKmaCodesEos[] = {0, 1};
 constexpr cls_MemberDescription kKmaDescEosShear[] = {
     {"type", "Type"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesEosShear[] = {0};
 constexpr cls_MemberDescription kKmaDescExpansion[] = {
     {"type", "Type"},
     {"userSubroutine", "User subroutine"},
     {"zero", "Zero"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesExpansion[] = {0};
 constexpr cls_MemberDescription kKmaDescFailStrain[] = {
@@ -243,60 +107,24 @@ constexpr cls_MemberDescription kKmaDescFieldConstituent[] = {
     {"shape", "Shape"},
     {"aspectRatio", "Aspect ratio"},
     {"orientation", "Orientation"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesFieldConstituent[] = {0, 63, 65, 66, 67, 68, 69, 64};
 constexpr cls_MemberDescription kKmaDescFluidLeakoff[] = {
     {"type", "Type"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesFluidLeakoff[] = {0};
 constexpr cls_MemberDescription kKmaDescFoam[] = {
     {"hardening", "Hardening"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesFoam[] = {0};
 constexpr cls_MemberDescription kKmaDescGapConductance[] = {
     {"pressureDependency", "Pressure dependency"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesGapConductance[] = {0};
 constexpr cls_ClassDescription kKmaDescriptions2[] = {
     {"kmaC_DeformationPlasticity",
      "Ramberg-Osgood deformation plasticity.",
-     kKmaDescDeformationPlasticity, nullptr, kKmaCodesDeformationPlasticity},
+     {}, nullptr, kKmaCodesDeformationPlasticity},
     {"kmaC_Density",
      "Mass density of a material, uniform or given by a discrete field, possibly temperature and "
      "field dependent.",
@@ -343,7 +171,7 @@ constexpr cls_ClassDescription kKmaDescriptions2[] = {
      kKmaDescElectrodeParticleLayer, nullptr, kKmaCodesElectrodeParticleLayer},
     {"kmaC_Electrolyte",
      "Electrolyte of a battery cell: conductivity and diffusivity data.",
-     kKmaDescElectrolyte, nullptr, kKmaCodesElectrolyte},
+     {}, nullptr, kKmaCodesElectrolyte},
     {"kmaC_Eos",
      "Equation of state: the form, its data table and the detonation energy of explosives.",
      kKmaDescEos, nullptr, kKmaCodesEos},

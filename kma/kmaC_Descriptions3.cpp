@@ -2,49 +2,13 @@
 
 // What the classes of the module and their members mean, by scripting name.
 namespace {
-constexpr cls_MemberDescription kKmaDescGapConvection[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesGapConvection[] = {0};
 constexpr cls_MemberDescription kKmaDescGapFlow[] = {
     {"type", "Type"},
     {"kmax", "Kmax"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesGapFlow[] = {0};
-constexpr cls_MemberDescription kKmaDescGapRadiation[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesGapRadiation[] = {0};
-constexpr cls_MemberDescription kKmaDescGel[] = {
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr cls_MemberDescription kKmaDescHyperelastic[] = {
     {"materialType", "Material type"},
     {"type", "Type"},
@@ -53,15 +17,6 @@ constexpr cls_MemberDescription kKmaDescHyperelastic[] = {
     {"moduliTimeScale", "Moduli time scale"},
     {"poissonRatio", "Poisson ratio"},
     {"behaviorType", "Behavior type"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"uniaxialTests", "Uniaxial tests"},
     {"biaxialTests", "Biaxial tests"},
     {"planarTests", "Planar tests"},
@@ -73,28 +28,10 @@ constexpr cls_MemberDescription kKmaDescHyperfoam[] = {
     {"poisson", "Poisson"},
     {"n", "N"},
     {"moduli", "Moduli"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesHyperfoam[] = {0, 19, 20, 4, 5};
 constexpr cls_MemberDescription kKmaDescHypoelastic[] = {
     {"user", "User"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesHypoelastic[] = {0};
 constexpr cls_MemberDescription kKmaDescInelasticHeatFraction[] = {
@@ -105,40 +42,14 @@ constexpr cls_MemberDescription kKmaDescJouleHeatFraction[] = {
     {"fraction", "Fraction"},
 };
 constexpr int kKmaCodesJouleHeatFraction[] = {22};
-constexpr cls_MemberDescription kKmaDescLatentHeat[] = {
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr cls_MemberDescription kKmaDescLowDensityFoam[] = {
     {"elementRemoval", "Element removal"},
     {"maxAllowablePrincipalStress", "Max allowable principal stress"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesLowDensityFoam[] = {0, 50};
 constexpr cls_MemberDescription kKmaDescMagneticPermeability[] = {
     {"type", "Type"},
     {"nonlinearBH", "Nonlinear BH"},
-    {"frequencyDependency",
-     "Whether the data depend on frequency (a frequency column follows the data columns of the "
-     "table)"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesMagneticPermeability[] = {0, 58, 59, 56, 57};
 constexpr cls_MemberDescription kKmaDescMaterial[] = {
@@ -230,9 +141,6 @@ constexpr cls_MemberDescription kKmaDescMaterial[] = {
     {"electrode", "Electrode"},
 };
 constexpr cls_MemberDescription kKmaDescMaterialTable[] = {
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"allowEmptyFirstRow", "Allow empty first row"},
 };
 constexpr int kKmaCodesMaterialTable[] = {23};
@@ -242,58 +150,18 @@ constexpr cls_MemberDescription kKmaDescMeanFieldHomogenization[] = {
     {"uniformMatrixStrain", "Uniform matrix strain"},
     {"angleIncrement", "Angle increment"},
     {"constituents", "Constituents"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
 };
 constexpr int kKmaCodesMeanFieldHomogenization[] = {0, 62};
-constexpr cls_MemberDescription kKmaDescMembraneElastic[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesMembraneElastic[] = {0};
 constexpr cls_MemberDescription kKmaDescMohrCoulomb[] = {
     {"deviatoricEccentricity", "Deviatoric eccentricity"},
     {"meridionalEccentricity", "Meridional eccentricity"},
     {"useTensionCutoff", "Use tension cutoff"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesMohrCoulomb[] = {0, 8, 35};
-constexpr cls_MemberDescription kKmaDescMoistureSwelling[] = {
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr cls_MemberDescription kKmaDescMullinsEffect[] = {
     {"definition", "Definition"},
     {"properties", "Properties"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
     {"uniaxialTests", "Uniaxial tests"},
     {"biaxialTests", "Biaxial tests"},
     {"planarTests", "Planar tests"},
@@ -302,16 +170,16 @@ constexpr int kKmaCodesMullinsEffect[] = {0, 11, 46, 43, 42, 41, 44, 25, 47, 45}
 constexpr cls_ClassDescription kKmaDescriptions3[] = {
     {"kmaC_GapConvection",
      "Heat convection across a gap.",
-     kKmaDescGapConvection, nullptr, kKmaCodesGapConvection},
+     {}, nullptr, kKmaCodesGapConvection},
     {"kmaC_GapFlow",
      "Tangential flow in a gap of a cohesive element: the fluid law and the permeability limit.",
      kKmaDescGapFlow, nullptr, kKmaCodesGapFlow},
     {"kmaC_GapRadiation",
      "Heat radiation across a gap: emissivities and view factors.",
-     kKmaDescGapRadiation, nullptr, kKmaCodesGapRadiation},
+     {}, nullptr, kKmaCodesGapRadiation},
     {"kmaC_Gel",
      "Gel swelling: radius, saturated radius, growth rate and volume fraction per row.",
-     kKmaDescGel},
+     {}},
     {"kmaC_HeatGeneration",
      "Heat generation by a user routine; it has no data of its own.",
      {}},
@@ -333,7 +201,7 @@ constexpr cls_ClassDescription kKmaDescriptions3[] = {
      kKmaDescJouleHeatFraction, nullptr, kKmaCodesJouleHeatFraction},
     {"kmaC_LatentHeat",
      "Latent heat of phase changes: heat, solidus and liquidus temperatures per row.",
-     kKmaDescLatentHeat},
+     {}},
     {"kmaC_LowDensityFoam",
      "Low-density foam from uniaxial test data, with optional element removal above a principal "
      "tensile stress.",
@@ -357,13 +225,13 @@ constexpr cls_ClassDescription kKmaDescriptions3[] = {
      kKmaDescMeanFieldHomogenization, nullptr, kKmaCodesMeanFieldHomogenization},
     {"kmaC_MembraneElastic",
      "Membrane elasticity of a material, possibly temperature and field dependent.",
-     kKmaDescMembraneElastic, nullptr, kKmaCodesMembraneElastic},
+     {}, nullptr, kKmaCodesMembraneElastic},
     {"kmaC_MohrCoulomb",
      "Mohr-Coulomb plasticity: friction and dilation angles and the flow potential eccentricities.",
      kKmaDescMohrCoulomb, nullptr, kKmaCodesMohrCoulomb},
     {"kmaC_MoistureSwelling",
      "Moisture-driven swelling strain against saturation.",
-     kKmaDescMoistureSwelling},
+     {}},
     {"kmaC_MullinsEffect",
      "Mullins effect: the softening of a filled elastomer on reloading, given by the constants r, "
      "m and beta of the pseudo-elastic damage model (CONSTANTS), by a user subroutine with "

@@ -12,35 +12,14 @@ constexpr cls_MemberDescription kKmaDescPermeability[] = {
     {"type", "Type"},
     {"specificWeight", "Specific weight"},
     {"inertialDragCoefficient", "Inertial drag coefficient"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesPermeability[] = {0};
 constexpr cls_MemberDescription kKmaDescPiezoelectric[] = {
     {"type", "Type"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr cls_MemberDescription kKmaDescPlanarTestData[] = {
     {"smoothing", "Smoothing"},
     {"lateralNominalStrain", "Lateral nominal strain"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesPlanarTestData[] = {0};
 constexpr cls_MemberDescription kKmaDescPlastic[] = {
@@ -69,88 +48,22 @@ constexpr cls_MemberDescription kKmaDescPlastic[] = {
      "2217"},
 };
 constexpr int kKmaCodesPlastic[] = {0, 39, 64};
-constexpr cls_MemberDescription kKmaDescPlasticityCorrection[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesPlasticityCorrection[] = {0};
 constexpr cls_MemberDescription kKmaDescPoreFluidExpansion[] = {
     {"zero", "Zero"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesPoreFluidExpansion[] = {0};
-constexpr cls_MemberDescription kKmaDescPorousBulkModuli[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr cls_MemberDescription kKmaDescPorousElastic[] = {
     {"shear", "Shear"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesPorousElastic[] = {0};
 constexpr cls_MemberDescription kKmaDescPorousMetalPlasticity[] = {
     {"relativeDensity", "Relative density"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesPorousMetalPlasticity[] = {0, 22};
-constexpr cls_MemberDescription kKmaDescPotential[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesPotential[] = {0};
 constexpr cls_MemberDescription kKmaDescRateDependent[] = {
     {"type", "Type"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesRateDependent[] = {0};
 constexpr cls_MemberDescription kKmaDescRegularization[] = {
@@ -159,111 +72,30 @@ constexpr cls_MemberDescription kKmaDescRegularization[] = {
 };
 constexpr cls_MemberDescription kKmaDescShear[] = {
     {"type", "Type"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesShear[] = {0};
 constexpr cls_MemberDescription kKmaDescShearRetention[] = {
     {"type", "Type"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesShearRetention[] = {0};
-constexpr cls_MemberDescription kKmaDescSoftRockPlasticity[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesSoftRockPlasticity[] = {0};
-constexpr cls_MemberDescription kKmaDescSolubility[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesSolubility[] = {0};
 constexpr cls_MemberDescription kKmaDescSorption[] = {
     {"lawAbsorption", "Law absorption"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr cls_MemberDescription kKmaDescSpecificHeat[] = {
     {"law", "Law"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesSpecificHeat[] = {0};
 constexpr cls_MemberDescription kKmaDescSuperElasticity[] = {
     {"nonassociated", "Nonassociated"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesSuperElasticity[] = {0};
-constexpr cls_MemberDescription kKmaDescSwelling[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesSwelling[] = {0};
 constexpr cls_MemberDescription kKmaDescTensileFailure[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
     {"elementDeletion", "Element deletion"},
     {"shear", "Shear"},
     {"pressure", "Pressure"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesTensileFailure[] = {0};
 constexpr cls_MemberDescription kKmaDescThicknessBehavior[] = {
@@ -271,28 +103,8 @@ constexpr cls_MemberDescription kKmaDescThicknessBehavior[] = {
     {"units", "Units"},
     {"contactArea", "Contact area"},
     {"tensileStiffnessFactor", "Tensile stiffness factor"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesThicknessBehavior[] = {0, 34, 29};
-constexpr cls_MemberDescription kKmaDescTransShearElastic[] = {
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
-};
 constexpr int kKmaCodesTransShearElastic[] = {0};
 constexpr cls_ClassDescription kKmaDescriptions4[] = {
     {"kmaC_Ornl",
@@ -315,13 +127,13 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
      kKmaDescPlastic, nullptr, kKmaCodesPlastic},
     {"kmaC_PlasticityCorrection",
      "Correction of the plastic flow for strain-rate and temperature effects.",
-     kKmaDescPlasticityCorrection, nullptr, kKmaCodesPlasticityCorrection},
+     {}, nullptr, kKmaCodesPlasticityCorrection},
     {"kmaC_PoreFluidExpansion",
      "Thermal expansion of the pore fluid.",
      kKmaDescPoreFluidExpansion, nullptr, kKmaCodesPoreFluidExpansion},
     {"kmaC_PorousBulkModuli",
      "Bulk moduli of the solid grains and of the permeating fluid.",
-     kKmaDescPorousBulkModuli},
+     {}},
     {"kmaC_PorousElastic",
      "Porous elasticity: logarithmic bulk modulus and Poisson's ratio or shear modulus.",
      kKmaDescPorousElastic, nullptr, kKmaCodesPorousElastic},
@@ -331,7 +143,7 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
     {"kmaC_Potential",
      "Anisotropic flow potential of a plastic option: the six yield stress ratios R11 to R23, "
      "possibly temperature and field dependent.",
-     kKmaDescPotential, nullptr, kKmaCodesPotential},
+     {}, nullptr, kKmaCodesPotential},
     {"kmaC_RateDependent",
      "Rate dependence of the yield stress of a plastic option: the law of the overstress and its "
      "data table (multiplier and exponent, Johnson-Cook constants or yield ratios against rate).",
@@ -348,10 +160,10 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
      kKmaDescShearRetention, nullptr, kKmaCodesShearRetention},
     {"kmaC_SoftRockPlasticity",
      "Soft rock plasticity: yield surface and hardening parameters.",
-     kKmaDescSoftRockPlasticity, nullptr, kKmaCodesSoftRockPlasticity},
+     {}, nullptr, kKmaCodesSoftRockPlasticity},
     {"kmaC_Solubility",
      "Solubility of a diffusing species.",
-     kKmaDescSolubility, nullptr, kKmaCodesSolubility},
+     {}, nullptr, kKmaCodesSolubility},
     {"kmaC_Sorption",
      "Sorption of a partially saturated porous medium: absorption law and data.",
      kKmaDescSorption},
@@ -364,7 +176,7 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
      kKmaDescSuperElasticity, nullptr, kKmaCodesSuperElasticity},
     {"kmaC_Swelling",
      "Volumetric swelling strain rate of a material.",
-     kKmaDescSwelling, nullptr, kKmaCodesSwelling},
+     {}, nullptr, kKmaCodesSwelling},
     {"kmaC_TensileFailure",
      "Tensile failure of a plastic option: the hydrostatic cutoff stress, how the deviatoric and "
      "pressure stresses fail, and whether failed elements are deleted.",
@@ -374,7 +186,7 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
      kKmaDescThicknessBehavior, nullptr, kKmaCodesThicknessBehavior},
     {"kmaC_TransShearElastic",
      "Transverse shear stiffness of a material.",
-     kKmaDescTransShearElastic, nullptr, kKmaCodesTransShearElastic},
+     {}, nullptr, kKmaCodesTransShearElastic},
 };
 }  // namespace
 

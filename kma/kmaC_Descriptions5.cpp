@@ -5,15 +5,6 @@ namespace {
 constexpr cls_MemberDescription kKmaDescUniaxialTestData[] = {
     {"smoothing", "Smoothing"},
     {"lateralNominalStrain", "Lateral nominal strain"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesUniaxialTestData[] = {0};
 constexpr cls_MemberDescription kKmaDescUserMaterial[] = {
@@ -37,50 +28,20 @@ constexpr cls_MemberDescription kKmaDescViscoelastic[] = {
     {"errtol", "Errtol"},
     {"nmax", "Nmax"},
     {"volumetricTable", "Volumetric table"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesViscoelastic[] = {6, 7, 37};
 constexpr cls_MemberDescription kKmaDescViscosity[] = {
     {"type", "Type"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesViscosity[] = {0};
 constexpr cls_MemberDescription kKmaDescViscous[] = {
     {"law", "Law"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesViscous[] = {0};
 constexpr cls_MemberDescription kKmaDescVolumetricTestData[] = {
     {"smoothing", "Smoothing"},
     {"volumetricResponse", "Volumetric response"},
     {"poissonRatio", "Poisson ratio"},
-    {"temperatureDependency",
-     "Whether the data depend on temperature (a temperature column follows the data columns of "
-     "the table)"},
-    {"dependencies",
-     "Number of field-variable dependencies (that many field-variable columns close each row of "
-     "the table)"},
-    {"table",
-     "The data table: one row per data point, the data columns first, then the temperature and "
-     "field-variable columns its dependencies add"},
 };
 constexpr int kKmaCodesVolumetricTestData[] = {0, 4, 5};
 constexpr cls_ClassDescription kKmaDescriptions5[] = {

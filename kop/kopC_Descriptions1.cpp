@@ -5,7 +5,6 @@
 namespace {
 constexpr cls_MemberDescription kKopDescBeadCyclicSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"repetitiveSectors", "Repetitive sectors"},
     {"angle", "Angle (degrees)"},
 };
@@ -32,16 +31,13 @@ constexpr cls_MemberDescription kKopDescBeadPenetrationCheck[] = {
 };
 constexpr cls_MemberDescription kKopDescBeadPlanarSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"axis", "Axis"},
 };
 constexpr cls_MemberDescription kKopDescBeadPointSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
 };
 constexpr cls_MemberDescription kKopDescBeadRotationalSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"angle", "Angle (degrees)"},
 };
 constexpr int kKopCodesBeadRotationalSymmetry[] = {16};
@@ -68,7 +64,6 @@ constexpr cls_MemberDescription kKopDescBeadTask[] = {
 constexpr int kKopCodesBeadTask[] = {43, 65, 117, 118, 119, 120, 121, 122, 123};
 constexpr cls_MemberDescription kKopDescBeadTranslationalSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"translation", "Translation"},
 };
 constexpr int kKopCodesBeadTranslationalSymmetry[] = {17};
@@ -94,7 +89,6 @@ constexpr cls_MemberDescription kKopDescCombinedVariable[] = {
 constexpr int kKopCodesCombinedVariable[] = {22};
 constexpr cls_MemberDescription kKopDescCyclicSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"repetitiveSectors", "Repetitive sectors"},
     {"angle", "Angle (degrees)"},
 };
@@ -113,7 +107,6 @@ constexpr cls_MemberDescription kKopDescDistanceControl[] = {
 constexpr int kKopCodesDistanceControl[] = {57};
 constexpr cls_MemberDescription kKopDescDrillControl[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"technique", "Technique"},
     {"pointRegion", "Point region"},
 };
@@ -206,7 +199,6 @@ constexpr cls_MemberDescription kKopDescPlanarSymmetry[] = {
 };
 constexpr cls_MemberDescription kKopDescPointSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
 };
 constexpr cls_MemberDescription kKopDescRibControl[] = {
     {"region", "The region it applies to"},
@@ -221,14 +213,12 @@ constexpr cls_MemberDescription kKopDescRotationalSymmetry[] = {
 constexpr int kKopCodesRotationalSymmetry[] = {16};
 constexpr cls_MemberDescription kKopDescShapeCyclicSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"repetitiveSectors", "Repetitive sectors"},
     {"angle", "Angle (degrees)"},
 };
 constexpr int kKopCodesShapeCyclicSymmetry[] = {35};
 constexpr cls_MemberDescription kKopDescShapeDemoldControl[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"drawAngle", "Draw angle"},
     {"undercutTolerance", "Undercut tolerance"},
     {"collisionCheckTolerance", "Collision check tolerance"},
@@ -243,7 +233,6 @@ constexpr cls_MemberDescription kKopDescShapeMemberSize[] = {
 constexpr int kKopCodesShapeMemberSize[] = {8, 52, 53};
 constexpr cls_MemberDescription kKopDescShapePlanarSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"axis", "Axis"},
 };
 constexpr cls_ClassDescription kKopDescriptions1[] = {

@@ -4,11 +4,9 @@
 namespace {
 constexpr cls_MemberDescription kKopDescShapePointSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
 };
 constexpr cls_MemberDescription kKopDescShapeRotationalSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"angle", "Angle (degrees)"},
 };
 constexpr int kKopCodesShapeRotationalSymmetry[] = {16};
@@ -62,7 +60,6 @@ constexpr cls_MemberDescription kKopDescShapeTask[] = {
 constexpr int kKopCodesShapeTask[] = {71, 72, 73, 74, 75, 76, 77, 78, 79, 80, 81, 82, 83, 84, 95, 96, 33, 34};
 constexpr cls_MemberDescription kKopDescShapeTranslationalSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"translation", "Translation"},
 };
 constexpr int kKopCodesShapeTranslationalSymmetry[] = {17};
@@ -93,7 +90,6 @@ constexpr cls_MemberDescription kKopDescSizingClusterAreas[] = {
 };
 constexpr cls_MemberDescription kKopDescSizingCyclicSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"repetitiveSectors", "Repetitive sectors"},
     {"angle", "Angle (degrees)"},
 };
@@ -103,16 +99,13 @@ constexpr cls_MemberDescription kKopDescSizingFrozenArea[] = {
 };
 constexpr cls_MemberDescription kKopDescSizingPlanarSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"axis", "Axis"},
 };
 constexpr cls_MemberDescription kKopDescSizingPointSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
 };
 constexpr cls_MemberDescription kKopDescSizingRotationalSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"angle", "Angle (degrees)"},
 };
 constexpr int kKopCodesSizingRotationalSymmetry[] = {16};
@@ -136,7 +129,6 @@ constexpr cls_MemberDescription kKopDescSlideRegion[] = {
 };
 constexpr cls_MemberDescription kKopDescStampControl[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"draftAngle", "Draft angle"},
 };
 constexpr int kKopCodesStampControl[] = {101};
@@ -204,13 +196,11 @@ constexpr cls_MemberDescription kKopDescTopologyTask[] = {
 constexpr int kKopCodesTopologyTask[] = {40, 41, 42, 43, 70, 39, 69, 44, 45, 46, 47, 48, 49, 50, 51, 64, 63, 62, 65, 66, 103, 104};
 constexpr cls_MemberDescription kKopDescTranslationalSymmetry[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
     {"translation", "Translation"},
 };
 constexpr int kKopCodesTranslationalSymmetry[] = {17};
 constexpr cls_MemberDescription kKopDescTurnControl[] = {
     {"region", "The region it applies to"},
-    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
 };
 constexpr cls_ClassDescription kKopDescriptions2[] = {
     {"kopC_ShapePointSymmetry",

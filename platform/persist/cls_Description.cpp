@@ -54,13 +54,35 @@ const char* cls_FindErrorMessage(std::string_view className, int code) {
   return text ? text : "";
 }
 
+// Members that mean the same in every class that has them: a table names them only where its
+// class means something else by them.
+constexpr cls_MemberDescription kCommonMemberDescriptions[] = {
+    {"table",
+     "The data table: one row per data point, the data columns first, then "
+     "the temperature and field-variable columns its dependencies add"},
+    {"temperatureDependency",
+     "Whether the data depend on temperature (a temperature column follows "
+     "the data columns of the table)"},
+    {"dependencies",
+     "Number of field-variable dependencies (that many field-variable "
+     "columns close each row of the table)"},
+    {"csys", "The datum coordinate system of its directions (empty: the global system)"},
+    {"suppress", "Whether it is suppressed (kept in the model but left out of the analysis)"},
+    {"frequencyDependency",
+     "Whether the data depend on frequency (a frequency column follows the "
+     "data columns of the table)"},
+};
+
 const char* cls_FindMemberDescription(std::string_view className, std::string_view scriptName) {
   // Bounded: a base chain longer than this is a table that names itself as its own base.
   const cls_ClassDescription* d = cls_FindDescription(className);
+  if (!d) return "";
   for (int depth = 0; d && depth < 16; ++depth) {
     for (const auto& m : d->members)
       if (scriptName == m.scriptName) return m.text;
     d = d->base ? cls_FindDescription(d->base) : nullptr;
   }
+  for (const auto& m : kCommonMemberDescriptions)
+    if (scriptName == m.scriptName) return m.text;
   return "";
 }

@@ -40,6 +40,8 @@ const cls_ClassDescription* cls_FindDescription(std::string_view className);
 // The message of a code that the class's validation raises, from its module's error table;
 // empty when the class's module has none or the code is outside it.
 const char* cls_FindErrorMessage(std::string_view className, int code);
-// The meaning of a member of the class, looked up in the class's description and then in its
-// bases'; empty when nothing describes it.
+// The meaning of a member of the class, looked up in the class's description, then in its
+// bases', then among the members that mean the same wherever they appear (a data table, its
+// temperature and field dependencies, a coordinate system, suppression); empty when the class is
+// not described or nothing describes the member.
 const char* cls_FindMemberDescription(std::string_view className, std::string_view scriptName);

@@ -79,7 +79,7 @@ constexpr cls_MemberDescription kKfdDescOdbMeshRegionData[] = {
     {"refinementType", "Refinement type"},
     {"refinementLabel", "Refinement label"},
     {"refinementIndex", "Refinement index"},
-    {"numCatSpecs", "Num cat specs"},
+    {"numCatSpecs", "Number of section point categories the results name"},
     {"diffLocs", "Diff locs"},
     {"sectionPointCategoryId", "Section point category id"},
     {"sectionPointTopId", "Section point top id"},

@@ -97,16 +97,18 @@ class Terminal : public ::testing::Test {
 
 TEST_F(Terminal, RunShowsProgressThenClearsItAndEndsWithTheSummary) {
   const fs::path script = dir / "long.jsonl", db = dir / "model.db";
-  WriteTerminalScript(script, 3000);
+  // Long enough for the progress to be redrawn with a count after its first draw (redraws come
+  // five times a second), on a fast machine too.
+  WriteTerminalScript(script, 50000);
   const TerminalOutcome r = RunOnTerminal({"run", "--db", db.string(), script.string()}, "0", dir / "out");
   EXPECT_EQ(r.code, 1);  // the refused line
   // the results stay on standard output, one per command, untouched by the progress
-  EXPECT_EQ(TerminalCountLines(r.out), 3002u);
+  EXPECT_EQ(TerminalCountLines(r.out), 50002u);
   EXPECT_EQ(r.out.find("\033"), std::string::npos);
   // progress counts the commands, redraws over itself, and is cleared before the summary
   EXPECT_NE(r.terminal.find("\r\033[Krunning " + script.string() + ": "), std::string::npos) << r.terminal;
   EXPECT_NE(r.terminal.find(" commands"), std::string::npos) << r.terminal;
-  const std::string summary = "odbattr: 3002 commands, 1 failure, saved " + db.string() + "\r\n";
+  const std::string summary = "odbattr: 50002 commands, 1 failure, saved " + db.string() + "\r\n";
   ASSERT_GE(r.terminal.size(), summary.size()) << r.terminal;
   EXPECT_EQ(r.terminal.substr(r.terminal.size() - summary.size()), summary) << r.terminal;
   EXPECT_EQ(r.terminal.substr(r.terminal.size() - summary.size() - 4, 4), "\r\033[K");

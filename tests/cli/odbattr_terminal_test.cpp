@@ -143,7 +143,8 @@ TEST_F(Terminal, CheckUpgradeAndExampleShowProgress) {
   WriteTerminalScript(script, 2000);
   ASSERT_EQ(RunOnTerminal({"run", "--db", db.string(), script.string()}, "", dir / "out").code, 1);
   // Each stage draws once its delay has passed; a stage that ends first draws nothing, so each
-  // tool must show at least one of its stages.
+  // tool must show at least one of its stages (with or without a count yet: a first draw can come
+  // before the first count on a fast machine).
   struct Case {
     std::vector<std::string> args;
     std::vector<std::string> stages;
@@ -151,10 +152,10 @@ TEST_F(Terminal, CheckUpgradeAndExampleShowProgress) {
   };
   const fs::path example = dir / "example.db";
   const Case cases[] = {
-      {{"check", db.string()}, {"opening " + db.string() + ": ", "checking " + db.string() + ": "}, 0},
-      {{"upgrade", db.string(), (dir / "up.db").string()}, {"upgrading " + db.string() + ": "}, 0},
+      {{"check", db.string()}, {"opening " + db.string(), "checking " + db.string()}, 0},
+      {{"upgrade", db.string(), (dir / "up.db").string()}, {"upgrading " + db.string()}, 0},
       {{"example", "--db", example.string()},
-       {"running ", "saving " + example.string(), "checking " + example.string() + ": "}, 0},
+       {"running ", "saving " + example.string(), "checking " + example.string()}, 0},
   };
   for (const auto& c : cases) {
     const TerminalOutcome r = RunOnTerminal(c.args, "0", dir / "out");

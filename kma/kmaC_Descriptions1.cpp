@@ -4,97 +4,128 @@
 // What the classes of the module and their members mean, by scripting name.
 namespace {
 constexpr cls_MemberDescription kKmaDescAcousticMedium[] = {
-    {"bulkModulus", "Bulk modulus"},
-    {"volumetricDrag", "Volumetric drag"},
+    {"bulkModulus", "Whether the table gives the fluid's bulk modulus"},
+    {"volumetricDrag", "Whether the table gives a volumetric drag coefficient"},
 };
 constexpr int kKmaCodesAcousticMedium[] = {0};
 constexpr int kKmaCodesAnnealTemperature[] = {0};
 constexpr cls_MemberDescription kKmaDescBiaxialTestData[] = {
-    {"smoothing", "Smoothing"},
-    {"lateralNominalStrain", "Lateral nominal strain"},
+    {"smoothing", "Points each side of a data point used to smooth the data (0: no smoothing)"},
+    {"lateralNominalStrain",
+     "Whether the table adds the measured lateral nominal strain as a third column"},
 };
 constexpr int kKmaCodesBiaxialTestData[] = {0};
 constexpr cls_MemberDescription kKmaDescBrittleCracking[] = {
-    {"type", "Type"},
-    {"shearRetention", "Shear retention"},
+    {"type",
+     "Form of the post-cracking tension stiffening data: STRESS, STRAIN or GFI (mode I fracture "
+     "energy)"},
+    {"shearRetention", "Post-cracking shear retention sub-option"},
 };
 constexpr int kKmaCodesBrittleCracking[] = {0};
 constexpr cls_MemberDescription kKmaDescCapCreep[] = {
-    {"law", "Law"},
+    {"law", "Creep law; USER takes it from a user routine and reads no table"},
 };
 constexpr int kKmaCodesCapCreep[] = {0};
 constexpr cls_MemberDescription kKmaDescCapCreepCohesion[] = {
-    {"law", "Law"},
-    {"time", "Time"},
+    {"law", "Creep law; USER takes it from a user routine and reads no table"},
+    {"time", "Time measure of a time-hardening law: TOTAL (analysis time) or CREEP (creep time)"},
 };
 constexpr int kKmaCodesCapCreepCohesion[] = {0};
 constexpr cls_MemberDescription kKmaDescCapCreepConsolidation[] = {
-    {"law", "Law"},
-    {"time", "Time"},
+    {"law", "Creep law; USER takes it from a user routine and reads no table"},
+    {"time", "Time measure of a time-hardening law: TOTAL (analysis time) or CREEP (creep time)"},
 };
 constexpr int kKmaCodesCapCreepConsolidation[] = {0};
 constexpr cls_MemberDescription kKmaDescCapPlasticity[] = {
-    {"capCreepCohesion", "Cap creep cohesion"},
-    {"capCreepConsolidation", "Cap creep consolidation"},
-    {"capCreep", "Cap creep"},
+    {"capCreepCohesion", "Cohesion (deviatoric) creep sub-option"},
+    {"capCreepConsolidation", "Consolidation (volumetric) creep sub-option"},
+    {"capCreep", "Creep sub-option with one law for both mechanisms (the older form)"},
 };
 constexpr int kKmaCodesCapPlasticity[] = {0};
 constexpr int kKmaCodesCastIronPlasticity[] = {0};
 constexpr cls_MemberDescription kKmaDescClayPlasticity[] = {
-    {"hardening", "Hardening"},
+    {"hardening",
+     "Form of the hardening data: EXPONENTIAL (its parameters) or TABULAR (yield stress against "
+     "volumetric plastic strain)"},
 };
 constexpr int kKmaCodesClayPlasticity[] = {0};
 constexpr int kKmaCodesConcrete[] = {0};
+constexpr cls_MemberDescription kKmaDescConcreteDamagedPlasticity[] = {
+    {"table",
+     "Per row: dilation angle (degrees), eccentricity (at least 0), fb0/fc0, K (above 0.5, at most "
+     "1), viscosity; then temperature and field-variable columns"},
+};
 constexpr int kKmaCodesConcreteDamagedPlasticity[] = {0, 8, 54, 55};
 constexpr cls_MemberDescription kKmaDescConductivity[] = {
-    {"type", "Type"},
+    {"type",
+     "Symmetry of the conductivity: 1 (ISOTROPIC), 3 (ORTHOTROPIC) or 6 (ANISOTROPIC) values per "
+     "row"},
 };
 constexpr int kKmaCodesConductivity[] = {0};
 constexpr cls_MemberDescription kKmaDescCreep[] = {
-    {"law", "Law"},
-    {"time", "Time"},
+    {"law", "Creep law; USER takes it from a user routine and reads no table"},
+    {"time", "Time measure of a time-hardening law: TOTAL (analysis time) or CREEP (creep time)"},
 };
 constexpr int kKmaCodesCreep[] = {0};
 constexpr cls_MemberDescription kKmaDescCrushStress[] = {
-    {"crushStressVelocityFactor", "Crush stress velocity factor"},
+    {"crushStressVelocityFactor", "Rate dependence sub-option (absent: rate independent)"},
 };
 constexpr int kKmaCodesCrushStress[] = {0};
 constexpr int kKmaCodesCrushStressVelocityFactor[] = {0};
 constexpr cls_MemberDescription kKmaDescCyclicHardening[] = {
-    {"parameters", "Parameters"},
+    {"parameters",
+     "Whether the table gives the exponential law's parameters instead of yield surface size "
+     "against plastic strain"},
 };
 constexpr int kKmaCodesCyclicHardening[] = {0};
 constexpr cls_MemberDescription kKmaDescDamageEvolution[] = {
-    {"type", "Type"},
-    {"softening", "Softening"},
-    {"mixedModeBehavior", "Mixed mode behavior"},
-    {"modeMixRatio", "Mode mix ratio"},
-    {"power", "Power"},
-    {"degradation", "Degradation"},
-    {"failureIndex", "Failure index"},
+    {"type",
+     "What the evolution is given by: DISPLACEMENT (effective displacement at failure) or ENERGY "
+     "(fracture energy)"},
+    {"softening",
+     "Shape of the softening; TABULAR (damage against displacement) only with DISPLACEMENT"},
+    {"mixedModeBehavior",
+     "How the modes combine; the energy laws POWER_LAW and BK only with ENERGY"},
+    {"modeMixRatio",
+     "Measure of the mode mix: ENERGY (ratio of energies) or TRACTION (ratio of tractions)"},
+    {"power", "Exponent of the power law or of the BK law (1.0: linear interaction)"},
+    {"degradation",
+     "How this damage combines with that of other criteria: MAXIMUM (the largest counts) or "
+     "MULTIPLICATIVE"},
+    {"failureIndex",
+     "Failure mode of the criterion it belongs to (from 1; up to 4 for Hashin and LaRC05, else 1)"},
 };
 constexpr int kKmaCodesDamageEvolution[] = {0, 38};
 constexpr cls_MemberDescription kKmaDescDamageInitiation[] = {
-    {"definition", "Definition"},
-    {"omega", "Omega"},
-    {"tolerance", "Tolerance"},
-    {"numberImperfections", "Number imperfections"},
-    {"ks", "Ks"},
-    {"alpha", "Alpha"},
-    {"direction", "Direction"},
-    {"position", "Position"},
-    {"feq", "Feq"},
-    {"fnn", "Fnn"},
-    {"fnt", "Fnt"},
-    {"frequency", "Frequency"},
-    {"DamageEvolutionList", "Damage evolution list"},
+    {"definition",
+     "Form of the forming-limit data: MSFLD or FLD (limit major strain against minor strain)"},
+    {"omega",
+     "Weight of the current increment when the strain ratio of a forming-limit criterion is "
+     "filtered (1: no filtering)"},
+    {"tolerance", "Tolerance of the M-K groove analysis"},
+    {"numberImperfections", "Number of groove orientations the M-K analysis examines"},
+    {"ks", "Weight of the pressure in the shear stress ratio of the shear criterion"},
+    {"alpha", "Weight of the shear stress in the Hashin fibre tension criterion"},
+    {"direction",
+     "Direction of the crack normal relative to the local material orientation: NMORI (normal to "
+     "it) or TMORI (tangent to it)"},
+    {"position", "Where in an element the criterion is evaluated"},
+    {"feq",
+     "M-K critical ratio of the equivalent plastic strain increment inside the groove to that "
+     "outside"},
+    {"fnn", "M-K critical ratio of the strain increment normal to the groove, inside to outside"},
+    {"fnt", "M-K critical ratio of the shear strain increment along the groove, inside to outside"},
+    {"frequency", "Increments between evaluations of the M-K analysis"},
+    {"DamageEvolutionList",
+     "The damage evolutions after the onset, one per failure mode of the criterion (no "
+     "failureIndex twice)"},
 };
 constexpr int kKmaCodesDamageInitiation[] = {0, 11, 74};
 constexpr cls_MemberDescription kKmaDescDamping[] = {
-    {"alpha", "Alpha"},
-    {"beta", "Beta"},
-    {"composite", "Composite"},
-    {"structural", "Structural"},
+    {"alpha", "Mass-proportional Rayleigh damping factor"},
+    {"beta", "Stiffness-proportional Rayleigh damping factor (at least 0)"},
+    {"composite", "Fraction of critical damping for composite modal damping"},
+    {"structural", "Structural damping factor (damping force proportional to the elastic force)"},
 };
 constexpr int kKmaCodesDamping[] = {41};
 constexpr cls_ClassDescription kKmaDescriptions1[] = {
@@ -140,7 +171,7 @@ constexpr cls_ClassDescription kKmaDescriptions1[] = {
      {}, nullptr, kKmaCodesConcrete},
     {"kmaC_ConcreteDamagedPlasticity",
      "Concrete damaged plasticity: dilation angle, eccentricity, fb0/fc0, K and viscosity per row.",
-     {}, nullptr, kKmaCodesConcreteDamagedPlasticity},
+     kKmaDescConcreteDamagedPlasticity, nullptr, kKmaCodesConcreteDamagedPlasticity},
     {"kmaC_Conductivity",
      "Thermal conductivity: one, three or six coefficients by the symmetry of the type.",
      kKmaDescConductivity, nullptr, kKmaCodesConductivity},

@@ -4,34 +4,39 @@
 namespace {
 constexpr int kKmaCodesDeformationPlasticity[] = {0};
 constexpr cls_MemberDescription kKmaDescDensity[] = {
-    {"distributionType", "Distribution type"},
-    {"fieldName", "Field name"},
+    {"distributionType",
+     "How the density is given: UNIFORM (the table) or by the analytical or discrete field named "
+     "in fieldName"},
+    {"fieldName", "Name of the field that distributes the density (empty for UNIFORM)"},
 };
 constexpr int kKmaCodesDensity[] = {0};
 constexpr cls_MemberDescription kKmaDescDepvar[] = {
-    {"n", "N"},
-    {"deleteVar", "Delete var"},
+    {"n", "Number of solution-dependent state variables"},
+    {"deleteVar", "State variable whose value deletes an element (0: none; at most n)"},
 };
 constexpr int kKmaCodesDepvar[] = {3, 15};
 constexpr cls_MemberDescription kKmaDescDielectric[] = {
-    {"type", "Type"},
+    {"type",
+     "Symmetry of the data: 1 (ISOTROPIC), 3 (ORTHOTROPIC) or 6 (ANISOTROPIC) values per row"},
 };
 constexpr int kKmaCodesDielectric[] = {0};
 constexpr cls_MemberDescription kKmaDescDiffusivity[] = {
-    {"type", "Type"},
-    {"law", "Law"},
+    {"type",
+     "Symmetry of the data: 1 (ISOTROPIC), 3 (ORTHOTROPIC) or 6 (ANISOTROPIC) values per row"},
+    {"law", "Diffusion law: GENERAL or FICK (Fick's law)"},
 };
 constexpr int kKmaCodesDiffusivity[] = {0};
 constexpr cls_MemberDescription kKmaDescDruckerPrager[] = {
-    {"shearCriterion", "Shear criterion"},
-    {"eccentricity", "Eccentricity"},
-    {"testData", "Test data"},
-    {"druckerPragerCreep", "Drucker prager creep"},
+    {"shearCriterion", "Shape of the yield surface in the meridional plane"},
+    {"eccentricity", "Flow potential eccentricity (at least 0)"},
+    {"testData",
+     "Whether the EXPONENTIAL criterion's parameters are fitted from triaxial test data"},
+    {"druckerPragerCreep", "Creep sub-option"},
 };
 constexpr int kKmaCodesDruckerPrager[] = {0, 8};
 constexpr cls_MemberDescription kKmaDescDruckerPragerCreep[] = {
-    {"law", "Law"},
-    {"time", "Time"},
+    {"law", "Creep law; USER takes it from a user routine and reads no table"},
+    {"time", "Time measure of a time-hardening law: TOTAL (analysis time) or CREEP (creep time)"},
 };
 constexpr int kKmaCodesDruckerPragerCreep[] = {0};
 constexpr cls_MemberDescription kKmaDescElastic[] = {
@@ -41,84 +46,102 @@ constexpr cls_MemberDescription kKmaDescElastic[] = {
     {"temperatureDependency", "The data depend on temperature"},
     {"dependencies", "Number of field-variable dependencies"},
     {"moduli", "Time scale of the moduli"},
-    {"table", "The elastic data"},
+    {"table",
+     "The elastic constants, laid out by type (ISOTROPIC: Young's modulus, Poisson's ratio), "
+     "then the temperature and field-variable columns"},
     {"failStress", "Fail-stress limits"},
     {"failStrain", "Fail-strain limits"},
 };
 constexpr int kKmaCodesElastic[] = {36, 0};
 constexpr cls_MemberDescription kKmaDescElectricalConductivity[] = {
-    {"type", "Type"},
+    {"type",
+     "Symmetry of the data: 1 (ISOTROPIC), 3 (ORTHOTROPIC) or 6 (ANISOTROPIC) values per row"},
 };
 constexpr int kKmaCodesElectricalConductivity[] = {0};
 constexpr cls_MemberDescription kKmaDescElectrode[] = {
-    {"type", "Type"},
-    {"electricalConductivity", "Electrical conductivity"},
-    {"electrodeParticleList", "Electrode particle list"},
-    {"electrodeParticleLayerList", "Electrode particle layer list"},
+    {"type", "Polarity of the electrode: NEGATIVE or POSITIVE"},
+    {"electricalConductivity", "Solid-phase electrical conductivity sub-option"},
+    {"electrodeParticleList", "The particle kinds the electrode is made of"},
+    {"electrodeParticleLayerList", "The layers of the electrode through its thickness"},
 };
 constexpr int kKmaCodesElectrode[] = {0};
 constexpr cls_MemberDescription kKmaDescElectrodeParticle[] = {
-    {"radius", "Radius"},
-    {"diffusivity", "Diffusivity"},
-    {"electricalConductivity", "Electrical conductivity"},
+    {"radius", "Particle radius (blank until given)"},
+    {"diffusivity", "Solid-phase diffusion in the particle (sub-option)"},
+    {"electricalConductivity", "Electrical conduction of the particle (sub-option)"},
 };
 constexpr int kKmaCodesElectrodeParticle[] = {0};
 constexpr cls_MemberDescription kKmaDescElectrodeParticleLayer[] = {
-    {"thickness", "Thickness"},
-    {"numElements", "Num elements"},
+    {"thickness", "Thickness of the layer (blank until given)"},
+    {"numElements", "Number of elements across the layer"},
 };
 constexpr int kKmaCodesElectrodeParticleLayer[] = {0};
 constexpr int kKmaCodesElectrolyte[] = {0};
 constexpr cls_MemberDescription kKmaDescEos[] = {
-    {"type", "Type"},
-    {"detonationEnergy", "Detonation energy"},
-    {"solidTable", "Solid table"},
-    {"gasTable", "Gas table"},
-    {"eosShear", "Eos shear"},
+    {"type",
+     "Form of the equation of state (US_UP: linear shock-particle velocity; P_ALPHA: porous "
+     "compaction; USER: a user routine)"},
+    {"detonationEnergy", "Detonation energy of an explosive (at least 0)"},
+    {"solidTable", "Data of the unreacted solid of an IGNITION_AND_GROWTH equation"},
+    {"gasTable", "Data of the reacted gas products of an IGNITION_AND_GROWTH equation"},
+    {"eosShear", "Deviatoric response sub-option"},
 };
 constexpr int kKmaCodesEos[] = {0, 1};
 constexpr cls_MemberDescription kKmaDescEosShear[] = {
-    {"type", "Type"},
+    {"type", "VISCOUS (a viscosity per row) or ELASTIC (a shear modulus per row)"},
 };
 constexpr int kKmaCodesEosShear[] = {0};
 constexpr cls_MemberDescription kKmaDescExpansion[] = {
-    {"type", "Type"},
-    {"userSubroutine", "User subroutine"},
-    {"zero", "Zero"},
+    {"type",
+     "Symmetry of the expansion coefficients: 1 (ISOTROPIC), 3 (ORTHOTROPIC), 6 (ANISOTROPIC) or "
+     "SHORT_FIBER"},
+    {"userSubroutine", "Whether a user routine supplies the thermal strains"},
+    {"zero", "Reference temperature of the expansion coefficients"},
 };
 constexpr int kKmaCodesExpansion[] = {0};
 constexpr cls_MemberDescription kKmaDescFailStrain[] = {
-    {"temperatureDependency", "The data depend on temperature"},
-    {"dependencies", "Number of field-variable dependencies"},
-    {"table", "The elastic data"},
+    {"temperatureDependency",
+     "Whether the limits depend on temperature (a temperature column follows the limits)"},
+    {"dependencies",
+     "Number of field-variable dependencies (that many field-variable columns close each row)"},
+    {"table", "The limit strains, one row per temperature and field-variable point"},
 };
 constexpr int kKmaCodesFailStrain[] = {0};
 constexpr cls_MemberDescription kKmaDescFailStress[] = {
-    {"temperatureDependency", "The data depend on temperature"},
-    {"dependencies", "Number of field-variable dependencies"},
-    {"table", "The elastic data"},
+    {"temperatureDependency",
+     "Whether the limits depend on temperature (a temperature column follows the limits)"},
+    {"dependencies",
+     "Number of field-variable dependencies (that many field-variable columns close each row)"},
+    {"table", "The limit stresses, one row per temperature and field-variable point"},
 };
 constexpr int kKmaCodesFailStress[] = {0};
 constexpr cls_MemberDescription kKmaDescFieldConstituent[] = {
-    {"material", "Material"},
-    {"type", "Type"},
-    {"volumeFraction", "Volume fraction"},
-    {"isotropizationCoefficient", "Isotropization coefficient"},
-    {"shape", "Shape"},
-    {"aspectRatio", "Aspect ratio"},
-    {"orientation", "Orientation"},
+    {"material", "Name of the material the constituent is made of (in materials)"},
+    {"type", "Role in the composite; only an INCLUSION has a shape, aspect ratio and orientation"},
+    {"volumeFraction",
+     "Volume fraction of the constituent (above 0 and below 1; blank: not given)"},
+    {"isotropizationCoefficient",
+     "Isotropization coefficient of an inclusion (at least 1; blank: not given)"},
+    {"shape", "Shape of an inclusion; it decides the aspect ratio allowed"},
+    {"aspectRatio",
+     "Aspect ratio of an inclusion: blank for CYLINDER, blank or 1 for SPHERE, below 1 for "
+     "OBLATE and PENNY, above 1 for PROLATE"},
+    {"orientation",
+     "Orientation of the inclusions, and so the table's columns: RANDOM_3D none, RANDOM_2D the "
+     "plane's normal (3), FIXED a direction (3), ORIENTATION_TENSOR a11 a22 a33 a12 a13 a23"},
 };
 constexpr int kKmaCodesFieldConstituent[] = {0, 63, 65, 66, 67, 68, 69, 64};
 constexpr cls_MemberDescription kKmaDescFluidLeakoff[] = {
-    {"type", "Type"},
+    {"type", "How leakoff is given: COEFFICIENTS (the table) or USER (a user routine)"},
 };
 constexpr int kKmaCodesFluidLeakoff[] = {0};
 constexpr cls_MemberDescription kKmaDescFoam[] = {
-    {"hardening", "Hardening"},
+    {"hardening", "Hardening of the yield surface under compression: VOLUMETRIC or ISOTROPIC"},
 };
 constexpr int kKmaCodesFoam[] = {0};
 constexpr cls_MemberDescription kKmaDescGapConductance[] = {
-    {"pressureDependency", "Pressure dependency"},
+    {"pressureDependency",
+     "Whether the conductance is given against contact pressure as well as clearance"},
 };
 constexpr int kKmaCodesGapConductance[] = {0};
 constexpr cls_ClassDescription kKmaDescriptions2[] = {

@@ -3,23 +3,25 @@
 // What the classes of the module and their members mean, by scripting name.
 namespace {
 constexpr cls_MemberDescription kKmaDescOrnl[] = {
-    {"saturationRateParameter", "Saturation rate parameter"},
-    {"applyRateFactor", "Apply rate factor"},
-    {"resetHardening", "Reset hardening"},
+    {"saturationRateParameter", "Saturation rate of the kinematic shift (at least 0)"},
+    {"applyRateFactor", "Whether the rate factor of the ORNL rules scales the kinematic shift"},
+    {"resetHardening", "Whether the cyclic hardening is reset at each strain reversal"},
 };
 constexpr int kKmaCodesOrnl[] = {9};
 constexpr cls_MemberDescription kKmaDescPermeability[] = {
-    {"type", "Type"},
-    {"specificWeight", "Specific weight"},
-    {"inertialDragCoefficient", "Inertial drag coefficient"},
+    {"type",
+     "Symmetry of the data: 1 (ISOTROPIC), 3 (ORTHOTROPIC) or 6 (ANISOTROPIC) values per row"},
+    {"specificWeight", "Specific weight of the wetting fluid"},
+    {"inertialDragCoefficient", "Coefficient of the inertial (Forchheimer) drag of the flow"},
 };
 constexpr int kKmaCodesPermeability[] = {0};
 constexpr cls_MemberDescription kKmaDescPiezoelectric[] = {
-    {"type", "Type"},
+    {"type", "Form of the coupling: STRESS (stress coefficients) or STRAIN (strain coefficients)"},
 };
 constexpr cls_MemberDescription kKmaDescPlanarTestData[] = {
-    {"smoothing", "Smoothing"},
-    {"lateralNominalStrain", "Lateral nominal strain"},
+    {"smoothing", "Points each side of a data point used to smooth the data (0: no smoothing)"},
+    {"lateralNominalStrain",
+     "Whether the table adds the measured lateral nominal strain as a third column"},
 };
 constexpr int kKmaCodesPlanarTestData[] = {0};
 constexpr cls_MemberDescription kKmaDescPlastic[] = {
@@ -30,7 +32,9 @@ constexpr cls_MemberDescription kKmaDescPlastic[] = {
     {"numBackstresses", "Number of backstresses"},
     {"temperatureDependency", "The data depend on temperature"},
     {"dependencies", "Number of field-variable dependencies"},
-    {"table", "Yield data"},
+    {"table",
+     "Yield data by hardening law (ISOTROPIC: yield stress, plastic strain from 0, strain rate "
+     "with rate), then temperature and field-variable columns; unused for USER"},
     {"rateDependent", "Rate dependence sub-option"},
     {"potential", "Flow potential sub-option"},
     {"cyclicHardening", "Cyclic hardening sub-option"},
@@ -39,70 +43,74 @@ constexpr cls_MemberDescription kKmaDescPlastic[] = {
     {"annealTemperature", "Annealing temperature sub-option"},
     {"tensileFailure", "Tensile failure sub-option"},
     {"properties", "Number of user properties"},
-    {"scaleStress",
-     "Stress scale; the default is the largest finite double, which stands for a stress scale "
-     "that was not set"},
-    {"staticRecovery", "Static recovery"},
+    {"scaleStress", "Stress scale (blank: not set)"},
+    {"staticRecovery", "Whether the hardening recovers statically over time"},
     {"extrapolation",
-     "Extrapolation of the table beyond its last point; the last member, added in class version "
-     "2217"},
+     "How the yield data are extrapolated beyond the last point: CONSTANT or LINEAR"},
 };
 constexpr int kKmaCodesPlastic[] = {0, 39, 64};
 constexpr int kKmaCodesPlasticityCorrection[] = {0};
 constexpr cls_MemberDescription kKmaDescPoreFluidExpansion[] = {
-    {"zero", "Zero"},
+    {"zero", "Reference temperature of the expansion coefficient"},
 };
 constexpr int kKmaCodesPoreFluidExpansion[] = {0};
 constexpr cls_MemberDescription kKmaDescPorousElastic[] = {
-    {"shear", "Shear"},
+    {"shear", "How the shear response is given: POISSON (Poisson's ratio) or G (shear modulus)"},
 };
 constexpr int kKmaCodesPorousElastic[] = {0};
 constexpr cls_MemberDescription kKmaDescPorousMetalPlasticity[] = {
-    {"relativeDensity", "Relative density"},
+    {"relativeDensity", "Initial relative density: 1 minus the void volume fraction (at most 1)"},
 };
 constexpr int kKmaCodesPorousMetalPlasticity[] = {0, 22};
 constexpr int kKmaCodesPotential[] = {0};
 constexpr cls_MemberDescription kKmaDescRateDependent[] = {
-    {"type", "Type"},
+    {"type",
+     "Law of the rate dependence: POWER_LAW (multiplier, exponent), JOHNSON_COOK (its constants) "
+     "or YIELD_RATIO (ratio against rate)"},
 };
 constexpr int kKmaCodesRateDependent[] = {0};
 constexpr cls_MemberDescription kKmaDescRegularization[] = {
-    {"rtol", "Rtol"},
-    {"strainRateRegularization", "Strain rate regularization"},
+    {"rtol", "Tolerance of the regularization of rate-dependent data"},
+    {"strainRateRegularization",
+     "Scale on which strain rates are regularized: LOGARITHMIC or LINEAR"},
 };
 constexpr cls_MemberDescription kKmaDescShear[] = {
-    {"type", "Type"},
+    {"type", "ELASTIC (a shear modulus per row) or VISCOUS (a viscosity per row)"},
 };
 constexpr int kKmaCodesShear[] = {0};
 constexpr cls_MemberDescription kKmaDescShearRetention[] = {
-    {"type", "Type"},
+    {"type",
+     "How retention is given: RETENTION_FACTOR (against crack opening strain) or POWER_LAW (its "
+     "parameters)"},
 };
 constexpr int kKmaCodesShearRetention[] = {0};
 constexpr int kKmaCodesSoftRockPlasticity[] = {0};
 constexpr int kKmaCodesSolubility[] = {0};
 constexpr cls_MemberDescription kKmaDescSorption[] = {
-    {"lawAbsorption", "Law absorption"},
+    {"lawAbsorption",
+     "Absorption law: TABULAR (saturation against pore pressure) or LOG (a logarithmic law)"},
 };
 constexpr cls_MemberDescription kKmaDescSpecificHeat[] = {
-    {"law", "Law"},
+    {"law", "Whether the specific heat is at constant volume or at constant pressure"},
 };
 constexpr int kKmaCodesSpecificHeat[] = {0};
 constexpr cls_MemberDescription kKmaDescSuperElasticity[] = {
-    {"nonassociated", "Nonassociated"},
+    {"nonassociated", "Whether the transformation strain flows non-associated"},
 };
 constexpr int kKmaCodesSuperElasticity[] = {0};
 constexpr int kKmaCodesSwelling[] = {0};
 constexpr cls_MemberDescription kKmaDescTensileFailure[] = {
-    {"elementDeletion", "Element deletion"},
-    {"shear", "Shear"},
-    {"pressure", "Pressure"},
+    {"elementDeletion", "Whether a failed element is deleted"},
+    {"shear", "How the deviatoric stresses fail: DUCTILE or BRITTLE"},
+    {"pressure", "How the pressure stress fails: DUCTILE or BRITTLE"},
 };
 constexpr int kKmaCodesTensileFailure[] = {0};
 constexpr cls_MemberDescription kKmaDescThicknessBehavior[] = {
-    {"type", "Type"},
-    {"units", "Units"},
-    {"contactArea", "Contact area"},
-    {"tensileStiffnessFactor", "Tensile stiffness factor"},
+    {"type", "Kind of thickness behavior: ELASTIC_PLASTIC or DAMAGE"},
+    {"units", "Units of the loading data: STRESS (pressure) or FORCE (force per unit length)"},
+    {"contactArea", "Gasket contact area, only with FORCE units (0: none)"},
+    {"tensileStiffnessFactor",
+     "Tensile stiffness as a fraction of the initial compressive stiffness (above 0)"},
 };
 constexpr int kKmaCodesThicknessBehavior[] = {0, 34, 29};
 constexpr int kKmaCodesTransShearElastic[] = {0};

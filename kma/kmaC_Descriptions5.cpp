@@ -3,45 +3,51 @@
 // What the classes of the module and their members mean, by scripting name.
 namespace {
 constexpr cls_MemberDescription kKmaDescUniaxialTestData[] = {
-    {"smoothing", "Smoothing"},
-    {"lateralNominalStrain", "Lateral nominal strain"},
+    {"smoothing", "Points each side of a data point used to smooth the data (0: no smoothing)"},
+    {"lateralNominalStrain",
+     "Whether the table adds the measured lateral nominal strain as a third column"},
 };
 constexpr int kKmaCodesUniaxialTestData[] = {0};
 constexpr cls_MemberDescription kKmaDescUserMaterial[] = {
-    {"type", "Type"},
-    {"unsymm", "Unsymm"},
-    {"mechanicalConstants", "Mechanical constants"},
-    {"thermalConstants", "Thermal constants"},
-    {"effmod", "Effmod"},
-    {"hybridFormulation", "Hybrid formulation"},
+    {"type", "Behavior the routine supplies: MECHANICAL, THERMAL or THERMOMECHANICAL"},
+    {"unsymm", "Whether the routine's material Jacobian is unsymmetric"},
+    {"mechanicalConstants", "Constants passed to the mechanical routine"},
+    {"thermalConstants", "Constants passed to the thermal routine"},
+    {"effmod", "Whether the routine supplies effective moduli"},
+    {"hybridFormulation", "Hybrid element formulation the routine works with"},
 };
 constexpr cls_MemberDescription kKmaDescUserOutputVariables[] = {
-    {"n", "N"},
+    {"n", "Number of output variables the user routine defines (at least 0)"},
 };
 constexpr int kKmaCodesUserOutputVariables[] = {15};
 constexpr cls_MemberDescription kKmaDescViscoelastic[] = {
-    {"domain", "Domain"},
-    {"time", "Time"},
-    {"frequency", "Frequency"},
-    {"type", "Type"},
-    {"preload", "Preload"},
-    {"errtol", "Errtol"},
-    {"nmax", "Nmax"},
-    {"volumetricTable", "Volumetric table"},
+    {"domain", "Domain of the data: TIME or FREQUENCY"},
+    {"time", "Form of time-domain data (FREQUENCY_DATA: converted from frequency data)"},
+    {"frequency",
+     "Form of frequency-domain data (FORMULA: power-law formula; TABULAR: moduli against "
+     "frequency)"},
+    {"type", "ISOTROPIC or TRACTION (the traction response of cohesive elements and gaskets)"},
+    {"preload",
+     "Preload of frequency-domain data; VOLUMETRIC and UNIAXIAL_VOLUMETRIC not with TRACTION"},
+    {"errtol", "Allowed average root-mean-square error of the Prony series fit"},
+    {"nmax", "Largest number of Prony series terms of the fit (1 to 13)"},
+    {"volumetricTable", "Volumetric test data of the fit, beside the shear data of the table"},
 };
 constexpr int kKmaCodesViscoelastic[] = {6, 7, 37};
 constexpr cls_MemberDescription kKmaDescViscosity[] = {
-    {"type", "Type"},
+    {"type", "Viscosity law (NEWTONIAN: viscosity independent of shear rate)"},
 };
 constexpr int kKmaCodesViscosity[] = {0};
 constexpr cls_MemberDescription kKmaDescViscous[] = {
-    {"law", "Law"},
+    {"law", "Creep law of the viscous network; USER takes it from a user routine"},
 };
 constexpr int kKmaCodesViscous[] = {0};
 constexpr cls_MemberDescription kKmaDescVolumetricTestData[] = {
-    {"smoothing", "Smoothing"},
-    {"volumetricResponse", "Volumetric response"},
-    {"poissonRatio", "Poisson ratio"},
+    {"smoothing", "Points each side of a data point used to smooth the data (0: no smoothing)"},
+    {"volumetricResponse",
+     "VOLUMETRIC_DATA (pressure against volume ratio in the table) or POISSON_RATIO "
+     "(poissonRatio only)"},
+    {"poissonRatio", "Poisson's ratio of a POISSON_RATIO response (-1 to 0.5)"},
 };
 constexpr int kKmaCodesVolumetricTestData[] = {0, 4, 5};
 constexpr cls_ClassDescription kKmaDescriptions5[] = {

@@ -7,77 +7,77 @@ constexpr cls_MemberDescription kKmaDescAcousticMedium[] = {
     {"bulkModulus", "Whether the table gives the fluid's bulk modulus"},
     {"volumetricDrag", "Whether the table gives a volumetric drag coefficient"},
 };
-constexpr int kKmaCodesAcousticMedium[] = {0};
-constexpr int kKmaCodesAnnealTemperature[] = {0};
+constexpr int kKmaCodesAcousticMedium[] = {0, 23};
+constexpr int kKmaCodesAnnealTemperature[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescBiaxialTestData[] = {
     {"smoothing", "Points each side of a data point used to smooth the data (0: no smoothing)"},
     {"lateralNominalStrain",
      "Whether the table adds the measured lateral nominal strain as a third column"},
 };
-constexpr int kKmaCodesBiaxialTestData[] = {0};
+constexpr int kKmaCodesBiaxialTestData[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescBrittleCracking[] = {
     {"type",
      "Form of the post-cracking tension stiffening data: STRESS, STRAIN or GFI (mode I fracture "
      "energy)"},
     {"shearRetention", "Post-cracking shear retention sub-option"},
 };
-constexpr int kKmaCodesBrittleCracking[] = {0};
+constexpr int kKmaCodesBrittleCracking[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescCapCreep[] = {
     {"law", "Creep law; USER takes it from a user routine and reads no table"},
 };
-constexpr int kKmaCodesCapCreep[] = {0};
+constexpr int kKmaCodesCapCreep[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescCapCreepCohesion[] = {
     {"law", "Creep law; USER takes it from a user routine and reads no table"},
     {"time", "Time measure of a time-hardening law: TOTAL (analysis time) or CREEP (creep time)"},
 };
-constexpr int kKmaCodesCapCreepCohesion[] = {0};
+constexpr int kKmaCodesCapCreepCohesion[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescCapCreepConsolidation[] = {
     {"law", "Creep law; USER takes it from a user routine and reads no table"},
     {"time", "Time measure of a time-hardening law: TOTAL (analysis time) or CREEP (creep time)"},
 };
-constexpr int kKmaCodesCapCreepConsolidation[] = {0};
+constexpr int kKmaCodesCapCreepConsolidation[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescCapPlasticity[] = {
     {"capCreepCohesion", "Cohesion (deviatoric) creep sub-option"},
     {"capCreepConsolidation", "Consolidation (volumetric) creep sub-option"},
     {"capCreep", "Creep sub-option with one law for both mechanisms (the older form)"},
 };
-constexpr int kKmaCodesCapPlasticity[] = {0};
-constexpr int kKmaCodesCastIronPlasticity[] = {0};
+constexpr int kKmaCodesCapPlasticity[] = {0, 23};
+constexpr int kKmaCodesCastIronPlasticity[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescClayPlasticity[] = {
     {"hardening",
      "Form of the hardening data: EXPONENTIAL (its parameters) or TABULAR (yield stress against "
      "volumetric plastic strain)"},
 };
-constexpr int kKmaCodesClayPlasticity[] = {0};
-constexpr int kKmaCodesConcrete[] = {0};
+constexpr int kKmaCodesClayPlasticity[] = {0, 23};
+constexpr int kKmaCodesConcrete[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescConcreteDamagedPlasticity[] = {
     {"table",
      "Per row: dilation angle (degrees), eccentricity (at least 0), fb0/fc0, K (above 0.5, at most "
      "1), viscosity; then temperature and field-variable columns"},
 };
-constexpr int kKmaCodesConcreteDamagedPlasticity[] = {0, 8, 54, 55};
+constexpr int kKmaCodesConcreteDamagedPlasticity[] = {0, 23, 8, 54, 55};
 constexpr cls_MemberDescription kKmaDescConductivity[] = {
     {"type",
      "Symmetry of the conductivity: 1 (ISOTROPIC), 3 (ORTHOTROPIC) or 6 (ANISOTROPIC) values per "
      "row"},
 };
-constexpr int kKmaCodesConductivity[] = {0};
+constexpr int kKmaCodesConductivity[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescCreep[] = {
     {"law", "Creep law; USER takes it from a user routine and reads no table"},
     {"time", "Time measure of a time-hardening law: TOTAL (analysis time) or CREEP (creep time)"},
 };
-constexpr int kKmaCodesCreep[] = {0};
+constexpr int kKmaCodesCreep[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescCrushStress[] = {
     {"crushStressVelocityFactor", "Rate dependence sub-option (absent: rate independent)"},
 };
-constexpr int kKmaCodesCrushStress[] = {0};
-constexpr int kKmaCodesCrushStressVelocityFactor[] = {0};
+constexpr int kKmaCodesCrushStress[] = {0, 23};
+constexpr int kKmaCodesCrushStressVelocityFactor[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescCyclicHardening[] = {
     {"parameters",
      "Whether the table gives the exponential law's parameters instead of yield surface size "
      "against plastic strain"},
 };
-constexpr int kKmaCodesCyclicHardening[] = {0};
+constexpr int kKmaCodesCyclicHardening[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescDamageEvolution[] = {
     {"type",
      "What the evolution is given by: DISPLACEMENT (effective displacement at failure) or ENERGY "
@@ -95,7 +95,7 @@ constexpr cls_MemberDescription kKmaDescDamageEvolution[] = {
     {"failureIndex",
      "Failure mode of the criterion it belongs to (from 1; up to 4 for Hashin and LaRC05, else 1)"},
 };
-constexpr int kKmaCodesDamageEvolution[] = {0, 38};
+constexpr int kKmaCodesDamageEvolution[] = {0, 38, 23};
 constexpr cls_MemberDescription kKmaDescDamageInitiation[] = {
     {"definition",
      "Form of the forming-limit data: MSFLD or FLD (limit major strain against minor strain)"},
@@ -120,7 +120,7 @@ constexpr cls_MemberDescription kKmaDescDamageInitiation[] = {
      "The damage evolutions after the onset, one per failure mode of the criterion (no "
      "failureIndex twice)"},
 };
-constexpr int kKmaCodesDamageInitiation[] = {0, 11, 74};
+constexpr int kKmaCodesDamageInitiation[] = {0, 23, 11, 74};
 constexpr cls_MemberDescription kKmaDescDamping[] = {
     {"alpha", "Mass-proportional Rayleigh damping factor"},
     {"beta", "Stiffness-proportional Rayleigh damping factor (at least 0)"},
@@ -128,6 +128,7 @@ constexpr cls_MemberDescription kKmaDescDamping[] = {
     {"structural", "Structural damping factor (damping force proportional to the elastic force)"},
 };
 constexpr int kKmaCodesDamping[] = {41};
+constexpr int kKmaCodesCycledPlastic[] = {23};
 constexpr cls_ClassDescription kKmaDescriptions1[] = {
     {"kmaC_AcousticMedium",
      "Acoustic medium: bulk modulus and volumetric drag of a fluid.",
@@ -189,7 +190,7 @@ constexpr cls_ClassDescription kKmaDescriptions1[] = {
     {"kmaC_CycledPlastic",
      "Cycled yield data of a plastic option under the ORNL rules: the yield stress against "
      "plastic strain after cycling, possibly temperature dependent.",
-     {}},
+     {}, nullptr, kKmaCodesCycledPlastic},
     {"kmaC_CyclicHardening",
      "Isotropic part of combined hardening: the yield surface size against equivalent plastic "
      "strain, or the parameters of the exponential law (initial yield stress, saturation value, "

@@ -2,14 +2,14 @@
 
 // What the classes of the module and their members mean, by scripting name.
 namespace {
-constexpr int kKmaCodesDeformationPlasticity[] = {0};
+constexpr int kKmaCodesDeformationPlasticity[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescDensity[] = {
     {"distributionType",
      "How the density is given: UNIFORM (the table) or by the analytical or discrete field named "
      "in fieldName"},
     {"fieldName", "Name of the field that distributes the density (empty for UNIFORM)"},
 };
-constexpr int kKmaCodesDensity[] = {0};
+constexpr int kKmaCodesDensity[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescDepvar[] = {
     {"n", "Number of solution-dependent state variables"},
     {"deleteVar", "State variable whose value deletes an element (0: none; at most n)"},
@@ -19,13 +19,13 @@ constexpr cls_MemberDescription kKmaDescDielectric[] = {
     {"type",
      "Symmetry of the data: 1 (ISOTROPIC), 3 (ORTHOTROPIC) or 6 (ANISOTROPIC) values per row"},
 };
-constexpr int kKmaCodesDielectric[] = {0};
+constexpr int kKmaCodesDielectric[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescDiffusivity[] = {
     {"type",
      "Symmetry of the data: 1 (ISOTROPIC), 3 (ORTHOTROPIC) or 6 (ANISOTROPIC) values per row"},
     {"law", "Diffusion law: GENERAL or FICK (Fick's law)"},
 };
-constexpr int kKmaCodesDiffusivity[] = {0};
+constexpr int kKmaCodesDiffusivity[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescDruckerPrager[] = {
     {"shearCriterion", "Shape of the yield surface in the meridional plane"},
     {"eccentricity", "Flow potential eccentricity (at least 0)"},
@@ -33,12 +33,12 @@ constexpr cls_MemberDescription kKmaDescDruckerPrager[] = {
      "Whether the EXPONENTIAL criterion's parameters are fitted from triaxial test data"},
     {"druckerPragerCreep", "Creep sub-option"},
 };
-constexpr int kKmaCodesDruckerPrager[] = {0, 8};
+constexpr int kKmaCodesDruckerPrager[] = {0, 8, 23};
 constexpr cls_MemberDescription kKmaDescDruckerPragerCreep[] = {
     {"law", "Creep law; USER takes it from a user routine and reads no table"},
     {"time", "Time measure of a time-hardening law: TOTAL (analysis time) or CREEP (creep time)"},
 };
-constexpr int kKmaCodesDruckerPragerCreep[] = {0};
+constexpr int kKmaCodesDruckerPragerCreep[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescElastic[] = {
     {"type", "Symmetry of the elastic data, selects the layout of the table's data columns"},
     {"noCompression", "The material carries no compressive stress"},
@@ -52,31 +52,31 @@ constexpr cls_MemberDescription kKmaDescElastic[] = {
     {"failStress", "Fail-stress limits"},
     {"failStrain", "Fail-strain limits"},
 };
-constexpr int kKmaCodesElastic[] = {36, 0};
+constexpr int kKmaCodesElastic[] = {36, 0, 23};
 constexpr cls_MemberDescription kKmaDescElectricalConductivity[] = {
     {"type",
      "Symmetry of the data: 1 (ISOTROPIC), 3 (ORTHOTROPIC) or 6 (ANISOTROPIC) values per row"},
 };
-constexpr int kKmaCodesElectricalConductivity[] = {0};
+constexpr int kKmaCodesElectricalConductivity[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescElectrode[] = {
     {"type", "Polarity of the electrode: NEGATIVE or POSITIVE"},
     {"electricalConductivity", "Solid-phase electrical conductivity sub-option"},
     {"electrodeParticleList", "The particle kinds the electrode is made of"},
     {"electrodeParticleLayerList", "The layers of the electrode through its thickness"},
 };
-constexpr int kKmaCodesElectrode[] = {0};
+constexpr int kKmaCodesElectrode[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescElectrodeParticle[] = {
     {"radius", "Particle radius (blank until given)"},
     {"diffusivity", "Solid-phase diffusion in the particle (sub-option)"},
     {"electricalConductivity", "Electrical conduction of the particle (sub-option)"},
 };
-constexpr int kKmaCodesElectrodeParticle[] = {0};
+constexpr int kKmaCodesElectrodeParticle[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescElectrodeParticleLayer[] = {
     {"thickness", "Thickness of the layer (blank until given)"},
     {"numElements", "Number of elements across the layer"},
 };
-constexpr int kKmaCodesElectrodeParticleLayer[] = {0};
-constexpr int kKmaCodesElectrolyte[] = {0};
+constexpr int kKmaCodesElectrodeParticleLayer[] = {0, 23};
+constexpr int kKmaCodesElectrolyte[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescEos[] = {
     {"type",
      "Form of the equation of state (US_UP: linear shock-particle velocity; P_ALPHA: porous "
@@ -86,11 +86,11 @@ constexpr cls_MemberDescription kKmaDescEos[] = {
     {"gasTable", "Data of the reacted gas products of an IGNITION_AND_GROWTH equation"},
     {"eosShear", "Deviatoric response sub-option"},
 };
-constexpr int kKmaCodesEos[] = {0, 1};
+constexpr int kKmaCodesEos[] = {0, 1, 23};
 constexpr cls_MemberDescription kKmaDescEosShear[] = {
     {"type", "VISCOUS (a viscosity per row) or ELASTIC (a shear modulus per row)"},
 };
-constexpr int kKmaCodesEosShear[] = {0};
+constexpr int kKmaCodesEosShear[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescExpansion[] = {
     {"type",
      "Symmetry of the expansion coefficients: 1 (ISOTROPIC), 3 (ORTHOTROPIC), 6 (ANISOTROPIC) or "
@@ -98,7 +98,7 @@ constexpr cls_MemberDescription kKmaDescExpansion[] = {
     {"userSubroutine", "Whether a user routine supplies the thermal strains"},
     {"zero", "Reference temperature of the expansion coefficients"},
 };
-constexpr int kKmaCodesExpansion[] = {0};
+constexpr int kKmaCodesExpansion[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescFailStrain[] = {
     {"temperatureDependency",
      "Whether the limits depend on temperature (a temperature column follows the limits)"},
@@ -106,7 +106,7 @@ constexpr cls_MemberDescription kKmaDescFailStrain[] = {
      "Number of field-variable dependencies (that many field-variable columns close each row)"},
     {"table", "The limit strains, one row per temperature and field-variable point"},
 };
-constexpr int kKmaCodesFailStrain[] = {0};
+constexpr int kKmaCodesFailStrain[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescFailStress[] = {
     {"temperatureDependency",
      "Whether the limits depend on temperature (a temperature column follows the limits)"},
@@ -114,7 +114,7 @@ constexpr cls_MemberDescription kKmaDescFailStress[] = {
      "Number of field-variable dependencies (that many field-variable columns close each row)"},
     {"table", "The limit stresses, one row per temperature and field-variable point"},
 };
-constexpr int kKmaCodesFailStress[] = {0};
+constexpr int kKmaCodesFailStress[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescFieldConstituent[] = {
     {"material", "Name of the material the constituent is made of (in materials)"},
     {"type", "Role in the composite; only an INCLUSION has a shape, aspect ratio and orientation"},
@@ -130,20 +130,20 @@ constexpr cls_MemberDescription kKmaDescFieldConstituent[] = {
      "Orientation of the inclusions, and so the table's columns: RANDOM_3D none, RANDOM_2D the "
      "plane's normal (3), FIXED a direction (3), ORIENTATION_TENSOR a11 a22 a33 a12 a13 a23"},
 };
-constexpr int kKmaCodesFieldConstituent[] = {0, 63, 65, 66, 67, 68, 69, 64};
+constexpr int kKmaCodesFieldConstituent[] = {0, 63, 65, 66, 67, 68, 69, 64, 23};
 constexpr cls_MemberDescription kKmaDescFluidLeakoff[] = {
     {"type", "How leakoff is given: COEFFICIENTS (the table) or USER (a user routine)"},
 };
-constexpr int kKmaCodesFluidLeakoff[] = {0};
+constexpr int kKmaCodesFluidLeakoff[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescFoam[] = {
     {"hardening", "Hardening of the yield surface under compression: VOLUMETRIC or ISOTROPIC"},
 };
-constexpr int kKmaCodesFoam[] = {0};
+constexpr int kKmaCodesFoam[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescGapConductance[] = {
     {"pressureDependency",
      "Whether the conductance is given against contact pressure as well as clearance"},
 };
-constexpr int kKmaCodesGapConductance[] = {0};
+constexpr int kKmaCodesGapConductance[] = {0, 23};
 constexpr cls_ClassDescription kKmaDescriptions2[] = {
     {"kmaC_DeformationPlasticity",
      "Ramberg-Osgood deformation plasticity.",

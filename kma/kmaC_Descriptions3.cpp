@@ -2,13 +2,13 @@
 
 // What the classes of the module and their members mean, by scripting name.
 namespace {
-constexpr int kKmaCodesGapConvection[] = {0};
+constexpr int kKmaCodesGapConvection[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescGapFlow[] = {
     {"type", "Flow law of the fluid in the gap; USER takes it from a user routine"},
     {"kmax", "Upper limit of the gap's tangential permeability"},
 };
-constexpr int kKmaCodesGapFlow[] = {0};
-constexpr int kKmaCodesGapRadiation[] = {0};
+constexpr int kKmaCodesGapFlow[] = {0, 23};
+constexpr int kKmaCodesGapRadiation[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescHyperelastic[] = {
     {"materialType", "Whether the response is ISOTROPIC or ANISOTROPIC"},
     {"type", "Strain energy potential; UNKNOWN (not chosen) only with testData"},
@@ -25,7 +25,7 @@ constexpr cls_MemberDescription kKmaDescHyperelastic[] = {
     {"planarTests", "Planar tests of the fit (used only with testData)"},
     {"volumetricTests", "Volumetric tests of the fit (used only with testData)"},
 };
-constexpr int kKmaCodesHyperelastic[] = {0, 26, 19, 20, 21, 4, 5, 11};
+constexpr int kKmaCodesHyperelastic[] = {0, 26, 19, 20, 21, 4, 5, 23, 11};
 constexpr cls_MemberDescription kKmaDescHyperfoam[] = {
     {"testData",
      "Whether the coefficients are fitted from test data rather than given in the table"},
@@ -33,11 +33,11 @@ constexpr cls_MemberDescription kKmaDescHyperfoam[] = {
     {"n", "Order of the strain energy potential (1 to 6)"},
     {"moduli", "Whether the moduli are long-term or instantaneous (for use with viscoelasticity)"},
 };
-constexpr int kKmaCodesHyperfoam[] = {0, 19, 20, 4, 5};
+constexpr int kKmaCodesHyperfoam[] = {0, 19, 20, 4, 5, 23};
 constexpr cls_MemberDescription kKmaDescHypoelastic[] = {
     {"user", "Whether a user routine supplies the moduli instead of the table"},
 };
-constexpr int kKmaCodesHypoelastic[] = {0};
+constexpr int kKmaCodesHypoelastic[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescInelasticHeatFraction[] = {
     {"fraction", "Fraction of the inelastic dissipation that becomes heat (at most 1)"},
 };
@@ -52,7 +52,7 @@ constexpr cls_MemberDescription kKmaDescLowDensityFoam[] = {
     {"maxAllowablePrincipalStress",
      "Largest principal tensile stress an element bears (above 0 when elementRemoval)"},
 };
-constexpr int kKmaCodesLowDensityFoam[] = {0, 50};
+constexpr int kKmaCodesLowDensityFoam[] = {0, 50, 23};
 constexpr cls_MemberDescription kKmaDescMagneticPermeability[] = {
     {"type",
      "Symmetry of the data: 1 (ISOTROPIC), 3 (ORTHOTROPIC) or 6 (ANISOTROPIC) values per row"},
@@ -60,7 +60,7 @@ constexpr cls_MemberDescription kKmaDescMagneticPermeability[] = {
      "Whether the table is a B-H curve: from (0, 0), at least two rows, not ANISOTROPIC, not "
      "frequency dependent"},
 };
-constexpr int kKmaCodesMagneticPermeability[] = {0, 58, 59, 56, 57};
+constexpr int kKmaCodesMagneticPermeability[] = {0, 58, 59, 56, 57, 23};
 constexpr cls_MemberDescription kKmaDescMaterial[] = {
     {"acousticMedium", "Acoustic medium: the bulk modulus and volumetric drag of a fluid"},
     {"brittleCracking", "Brittle cracking: cracking stress and post-cracking tension stiffening"},
@@ -181,14 +181,14 @@ constexpr cls_MemberDescription kKmaDescMeanFieldHomogenization[] = {
      "Names of the constituents in fieldConstituents: the matrix and the inclusions"},
 };
 constexpr int kKmaCodesMeanFieldHomogenization[] = {0, 62};
-constexpr int kKmaCodesMembraneElastic[] = {0};
+constexpr int kKmaCodesMembraneElastic[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescMohrCoulomb[] = {
     {"deviatoricEccentricity",
      "Flow potential eccentricity in the deviatoric plane (above 0.5, at most 1)"},
     {"meridionalEccentricity", "Flow potential eccentricity in the meridional plane (at least 0)"},
     {"useTensionCutoff", "Whether a tension cutoff limits the tensile stress"},
 };
-constexpr int kKmaCodesMohrCoulomb[] = {0, 8, 35};
+constexpr int kKmaCodesMohrCoulomb[] = {0, 8, 35, 23};
 constexpr cls_MemberDescription kKmaDescMullinsEffect[] = {
     {"table",
      "CONSTANTS: r (above 1), m and beta (at least 0, not both 0) per row; USER: the properties "
@@ -203,7 +203,10 @@ constexpr cls_MemberDescription kKmaDescMullinsEffect[] = {
     {"biaxialTests", "Equibiaxial unloading-reloading tests of a TEST_DATA definition"},
     {"planarTests", "Planar unloading-reloading tests of a TEST_DATA definition"},
 };
-constexpr int kKmaCodesMullinsEffect[] = {0, 11, 46, 43, 42, 41, 44, 25, 47, 45};
+constexpr int kKmaCodesMullinsEffect[] = {0, 11, 46, 23, 43, 42, 41, 44, 25, 47, 45};
+constexpr int kKmaCodesGel[] = {23};
+constexpr int kKmaCodesLatentHeat[] = {23};
+constexpr int kKmaCodesMoistureSwelling[] = {23};
 constexpr cls_ClassDescription kKmaDescriptions3[] = {
     {"kmaC_GapConvection",
      "Heat convection across a gap.",
@@ -216,7 +219,7 @@ constexpr cls_ClassDescription kKmaDescriptions3[] = {
      {}, nullptr, kKmaCodesGapRadiation},
     {"kmaC_Gel",
      "Gel swelling: radius, saturated radius, growth rate and volume fraction per row.",
-     {}},
+     {}, nullptr, kKmaCodesGel},
     {"kmaC_HeatGeneration",
      "Heat generation by a user routine; it has no data of its own.",
      {}},
@@ -238,7 +241,7 @@ constexpr cls_ClassDescription kKmaDescriptions3[] = {
      kKmaDescJouleHeatFraction, nullptr, kKmaCodesJouleHeatFraction},
     {"kmaC_LatentHeat",
      "Latent heat of phase changes: heat, solidus and liquidus temperatures per row.",
-     {}},
+     {}, nullptr, kKmaCodesLatentHeat},
     {"kmaC_LowDensityFoam",
      "Low-density foam from uniaxial test data, with optional element removal above a principal "
      "tensile stress.",
@@ -268,7 +271,7 @@ constexpr cls_ClassDescription kKmaDescriptions3[] = {
      kKmaDescMohrCoulomb, nullptr, kKmaCodesMohrCoulomb},
     {"kmaC_MoistureSwelling",
      "Moisture-driven swelling strain against saturation.",
-     {}},
+     {}, nullptr, kKmaCodesMoistureSwelling},
     {"kmaC_MullinsEffect",
      "Mullins effect: the softening of a filled elastomer on reloading, given by the constants r, "
      "m and beta of the pseudo-elastic damage model (CONSTANTS), by a user subroutine with "

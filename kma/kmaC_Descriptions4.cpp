@@ -14,7 +14,7 @@ constexpr cls_MemberDescription kKmaDescPermeability[] = {
     {"specificWeight", "Specific weight of the wetting fluid"},
     {"inertialDragCoefficient", "Coefficient of the inertial (Forchheimer) drag of the flow"},
 };
-constexpr int kKmaCodesPermeability[] = {0};
+constexpr int kKmaCodesPermeability[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescPiezoelectric[] = {
     {"type", "Form of the coupling: STRESS (stress coefficients) or STRAIN (strain coefficients)"},
 };
@@ -23,7 +23,7 @@ constexpr cls_MemberDescription kKmaDescPlanarTestData[] = {
     {"lateralNominalStrain",
      "Whether the table adds the measured lateral nominal strain as a third column"},
 };
-constexpr int kKmaCodesPlanarTestData[] = {0};
+constexpr int kKmaCodesPlanarTestData[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescPlastic[] = {
     {"hardening", "Hardening law"},
     {"rate", "The table carries a strain-rate column after yield stress and plastic strain"},
@@ -48,27 +48,27 @@ constexpr cls_MemberDescription kKmaDescPlastic[] = {
     {"extrapolation",
      "How the yield data are extrapolated beyond the last point: CONSTANT or LINEAR"},
 };
-constexpr int kKmaCodesPlastic[] = {0, 39, 64};
-constexpr int kKmaCodesPlasticityCorrection[] = {0};
+constexpr int kKmaCodesPlastic[] = {0, 23, 39, 64};
+constexpr int kKmaCodesPlasticityCorrection[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescPoreFluidExpansion[] = {
     {"zero", "Reference temperature of the expansion coefficient"},
 };
-constexpr int kKmaCodesPoreFluidExpansion[] = {0};
+constexpr int kKmaCodesPoreFluidExpansion[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescPorousElastic[] = {
     {"shear", "How the shear response is given: POISSON (Poisson's ratio) or G (shear modulus)"},
 };
-constexpr int kKmaCodesPorousElastic[] = {0};
+constexpr int kKmaCodesPorousElastic[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescPorousMetalPlasticity[] = {
     {"relativeDensity", "Initial relative density: 1 minus the void volume fraction (at most 1)"},
 };
-constexpr int kKmaCodesPorousMetalPlasticity[] = {0, 22};
-constexpr int kKmaCodesPotential[] = {0};
+constexpr int kKmaCodesPorousMetalPlasticity[] = {0, 22, 23};
+constexpr int kKmaCodesPotential[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescRateDependent[] = {
     {"type",
      "Law of the rate dependence: POWER_LAW (multiplier, exponent), JOHNSON_COOK (its constants) "
      "or YIELD_RATIO (ratio against rate)"},
 };
-constexpr int kKmaCodesRateDependent[] = {0};
+constexpr int kKmaCodesRateDependent[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescRegularization[] = {
     {"rtol", "Tolerance of the regularization of rate-dependent data"},
     {"strainRateRegularization",
@@ -77,15 +77,15 @@ constexpr cls_MemberDescription kKmaDescRegularization[] = {
 constexpr cls_MemberDescription kKmaDescShear[] = {
     {"type", "ELASTIC (a shear modulus per row) or VISCOUS (a viscosity per row)"},
 };
-constexpr int kKmaCodesShear[] = {0};
+constexpr int kKmaCodesShear[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescShearRetention[] = {
     {"type",
      "How retention is given: RETENTION_FACTOR (against crack opening strain) or POWER_LAW (its "
      "parameters)"},
 };
-constexpr int kKmaCodesShearRetention[] = {0};
-constexpr int kKmaCodesSoftRockPlasticity[] = {0};
-constexpr int kKmaCodesSolubility[] = {0};
+constexpr int kKmaCodesShearRetention[] = {0, 23};
+constexpr int kKmaCodesSoftRockPlasticity[] = {0, 23};
+constexpr int kKmaCodesSolubility[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescSorption[] = {
     {"lawAbsorption",
      "Absorption law: TABULAR (saturation against pore pressure) or LOG (a logarithmic law)"},
@@ -93,18 +93,18 @@ constexpr cls_MemberDescription kKmaDescSorption[] = {
 constexpr cls_MemberDescription kKmaDescSpecificHeat[] = {
     {"law", "Whether the specific heat is at constant volume or at constant pressure"},
 };
-constexpr int kKmaCodesSpecificHeat[] = {0};
+constexpr int kKmaCodesSpecificHeat[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescSuperElasticity[] = {
     {"nonassociated", "Whether the transformation strain flows non-associated"},
 };
-constexpr int kKmaCodesSuperElasticity[] = {0};
-constexpr int kKmaCodesSwelling[] = {0};
+constexpr int kKmaCodesSuperElasticity[] = {0, 23};
+constexpr int kKmaCodesSwelling[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescTensileFailure[] = {
     {"elementDeletion", "Whether a failed element is deleted"},
     {"shear", "How the deviatoric stresses fail: DUCTILE or BRITTLE"},
     {"pressure", "How the pressure stress fails: DUCTILE or BRITTLE"},
 };
-constexpr int kKmaCodesTensileFailure[] = {0};
+constexpr int kKmaCodesTensileFailure[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescThicknessBehavior[] = {
     {"type", "Kind of thickness behavior: ELASTIC_PLASTIC or DAMAGE"},
     {"units", "Units of the loading data: STRESS (pressure) or FORCE (force per unit length)"},
@@ -112,8 +112,11 @@ constexpr cls_MemberDescription kKmaDescThicknessBehavior[] = {
     {"tensileStiffnessFactor",
      "Tensile stiffness as a fraction of the initial compressive stiffness (above 0)"},
 };
-constexpr int kKmaCodesThicknessBehavior[] = {0, 34, 29};
-constexpr int kKmaCodesTransShearElastic[] = {0};
+constexpr int kKmaCodesThicknessBehavior[] = {0, 34, 29, 23};
+constexpr int kKmaCodesTransShearElastic[] = {0, 23};
+constexpr int kKmaCodesPiezoelectric[] = {23};
+constexpr int kKmaCodesPorousBulkModuli[] = {23};
+constexpr int kKmaCodesSorption[] = {23};
 constexpr cls_ClassDescription kKmaDescriptions4[] = {
     {"kmaC_Ornl",
      "The ORNL constitutive rules for austenitic steels in a plastic option: the saturation rate "
@@ -125,7 +128,7 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
      kKmaDescPermeability, nullptr, kKmaCodesPermeability},
     {"kmaC_Piezoelectric",
      "Piezoelectric coupling given as stress or strain coefficients.",
-     kKmaDescPiezoelectric},
+     kKmaDescPiezoelectric, nullptr, kKmaCodesPiezoelectric},
     {"kmaC_PlanarTestData",
      "Planar (pure shear) test data: measured nominal stress against nominal strain, for a "
      "Mullins effect (the unloading curves) or a hyperelastic or hyperfoam fit.",
@@ -141,7 +144,7 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
      kKmaDescPoreFluidExpansion, nullptr, kKmaCodesPoreFluidExpansion},
     {"kmaC_PorousBulkModuli",
      "Bulk moduli of the solid grains and of the permeating fluid.",
-     {}},
+     {}, nullptr, kKmaCodesPorousBulkModuli},
     {"kmaC_PorousElastic",
      "Porous elasticity: logarithmic bulk modulus and Poisson's ratio or shear modulus.",
      kKmaDescPorousElastic, nullptr, kKmaCodesPorousElastic},
@@ -174,7 +177,7 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
      {}, nullptr, kKmaCodesSolubility},
     {"kmaC_Sorption",
      "Sorption of a partially saturated porous medium: absorption law and data.",
-     kKmaDescSorption},
+     kKmaDescSorption, nullptr, kKmaCodesSorption},
     {"kmaC_SpecificHeat",
      "SpecificHeat: specific heat at constant volume or constant pressure, possibly temperature "
      "and field dependent.",

@@ -7,7 +7,7 @@ constexpr cls_MemberDescription kKmaDescUniaxialTestData[] = {
     {"lateralNominalStrain",
      "Whether the table adds the measured lateral nominal strain as a third column"},
 };
-constexpr int kKmaCodesUniaxialTestData[] = {0};
+constexpr int kKmaCodesUniaxialTestData[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescUserMaterial[] = {
     {"type", "Behavior the routine supplies: MECHANICAL, THERMAL or THERMOMECHANICAL"},
     {"unsymm", "Whether the routine's material Jacobian is unsymmetric"},
@@ -33,15 +33,15 @@ constexpr cls_MemberDescription kKmaDescViscoelastic[] = {
     {"nmax", "Largest number of Prony series terms of the fit (1 to 13)"},
     {"volumetricTable", "Volumetric test data of the fit, beside the shear data of the table"},
 };
-constexpr int kKmaCodesViscoelastic[] = {6, 7, 37};
+constexpr int kKmaCodesViscoelastic[] = {6, 7, 37, 23};
 constexpr cls_MemberDescription kKmaDescViscosity[] = {
     {"type", "Viscosity law (NEWTONIAN: viscosity independent of shear rate)"},
 };
-constexpr int kKmaCodesViscosity[] = {0};
+constexpr int kKmaCodesViscosity[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescViscous[] = {
     {"law", "Creep law of the viscous network; USER takes it from a user routine"},
 };
-constexpr int kKmaCodesViscous[] = {0};
+constexpr int kKmaCodesViscous[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescVolumetricTestData[] = {
     {"smoothing", "Points each side of a data point used to smooth the data (0: no smoothing)"},
     {"volumetricResponse",
@@ -49,7 +49,8 @@ constexpr cls_MemberDescription kKmaDescVolumetricTestData[] = {
      "(poissonRatio only)"},
     {"poissonRatio", "Poisson's ratio of a POISSON_RATIO response (-1 to 0.5)"},
 };
-constexpr int kKmaCodesVolumetricTestData[] = {0, 4, 5};
+constexpr int kKmaCodesVolumetricTestData[] = {0, 4, 5, 23};
+constexpr int kKmaCodesUserMaterial[] = {23};
 constexpr cls_ClassDescription kKmaDescriptions5[] = {
     {"kmaC_UniaxialTestData",
      "Uniaxial test data: measured nominal stress against nominal strain in simple tension or "
@@ -60,7 +61,7 @@ constexpr cls_ClassDescription kKmaDescriptions5[] = {
      {}},
     {"kmaC_UserMaterial",
      "Constitutive behavior supplied by a user routine: its mechanical and thermal constants.",
-     kKmaDescUserMaterial},
+     kKmaDescUserMaterial, nullptr, kKmaCodesUserMaterial},
     {"kmaC_UserOutputVariables",
      "The number of output variables a user routine defines.",
      kKmaDescUserOutputVariables, nullptr, kKmaCodesUserOutputVariables},

@@ -13,6 +13,9 @@ constexpr cls_MemberDescription kKmaDescBiaxialTestData[] = {
     {"smoothing", "Points each side of a data point used to smooth the data (0: no smoothing)"},
     {"lateralNominalStrain",
      "Whether the table adds the measured lateral nominal strain as a third column"},
+    {"table",
+     "Nominal stress, nominal strain (and lateral nominal strain with lateralNominalStrain); "
+     "then temperature and field-variable columns"},
 };
 constexpr int kKmaCodesBiaxialTestData[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescBrittleCracking[] = {
@@ -40,8 +43,14 @@ constexpr cls_MemberDescription kKmaDescCapPlasticity[] = {
     {"capCreepCohesion", "Cohesion (deviatoric) creep sub-option"},
     {"capCreepConsolidation", "Consolidation (volumetric) creep sub-option"},
     {"capCreep", "Creep sub-option with one law for both mechanisms (the older form)"},
+    {"table",
+     "Cohesion, friction angle, cap eccentricity, initial yield surface position, transition "
+     "parameter, flow stress ratio; then temperature and field-variable columns"},
 };
 constexpr int kKmaCodesCapPlasticity[] = {0, 23};
+constexpr cls_MemberDescription kKmaDescCastIronPlasticity[] = {
+    {"table", "Plastic Poisson's ratio in tension; then temperature and field-variable columns"},
+};
 constexpr int kKmaCodesCastIronPlasticity[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescClayPlasticity[] = {
     {"hardening",
@@ -49,6 +58,10 @@ constexpr cls_MemberDescription kKmaDescClayPlasticity[] = {
      "volumetric plastic strain)"},
 };
 constexpr int kKmaCodesClayPlasticity[] = {0, 23};
+constexpr cls_MemberDescription kKmaDescConcrete[] = {
+    {"table",
+     "Compressive yield stress, plastic strain; then temperature and field-variable columns"},
+};
 constexpr int kKmaCodesConcrete[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescConcreteDamagedPlasticity[] = {
     {"table",
@@ -76,6 +89,9 @@ constexpr cls_MemberDescription kKmaDescCyclicHardening[] = {
     {"parameters",
      "Whether the table gives the exponential law's parameters instead of yield surface size "
      "against plastic strain"},
+    {"table",
+     "Yield surface size against equivalent plastic strain, or with parameters: initial yield "
+     "stress, saturation value, rate; then temperature and field-variable columns"},
 };
 constexpr int kKmaCodesCyclicHardening[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescDamageEvolution[] = {
@@ -94,6 +110,9 @@ constexpr cls_MemberDescription kKmaDescDamageEvolution[] = {
      "MULTIPLICATIVE"},
     {"failureIndex",
      "Failure mode of the criterion it belongs to (from 1; up to 4 for Hashin and LaRC05, else 1)"},
+    {"table",
+     "Displacement or energy at failure, with the damage variable or the mode-mix ratio as the "
+     "choices need; then temperature and field-variable columns"},
 };
 constexpr int kKmaCodesDamageEvolution[] = {0, 38, 23};
 constexpr cls_MemberDescription kKmaDescDamageInitiation[] = {
@@ -163,13 +182,13 @@ constexpr cls_ClassDescription kKmaDescriptions1[] = {
      kKmaDescCapPlasticity, nullptr, kKmaCodesCapPlasticity},
     {"kmaC_CastIronPlasticity",
      "Gray cast iron plasticity: the plastic Poisson's ratio in tension.",
-     {}, nullptr, kKmaCodesCastIronPlasticity},
+     kKmaDescCastIronPlasticity, nullptr, kKmaCodesCastIronPlasticity},
     {"kmaC_ClayPlasticity",
      "Critical state clay plasticity: exponential or tabular hardening.",
      kKmaDescClayPlasticity, nullptr, kKmaCodesClayPlasticity},
     {"kmaC_Concrete",
      "Smeared crack concrete: compressive yield stress against plastic strain.",
-     {}, nullptr, kKmaCodesConcrete},
+     kKmaDescConcrete, nullptr, kKmaCodesConcrete},
     {"kmaC_ConcreteDamagedPlasticity",
      "Concrete damaged plasticity: dilation angle, eccentricity, fb0/fc0, K and viscosity per row.",
      kKmaDescConcreteDamagedPlasticity, nullptr, kKmaCodesConcreteDamagedPlasticity},

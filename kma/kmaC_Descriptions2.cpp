@@ -49,8 +49,8 @@ constexpr cls_MemberDescription kKmaDescElastic[] = {
     {"table",
      "The elastic constants, laid out by type (ISOTROPIC: Young's modulus, Poisson's ratio), "
      "then the temperature and field-variable columns"},
-    {"failStress", "Fail-stress limits"},
-    {"failStrain", "Fail-strain limits"},
+    {"failStress", "Fail-stress limits sub-option (absent: none)"},
+    {"failStrain", "Fail-strain limits sub-option (absent: none)"},
 };
 constexpr int kKmaCodesElastic[] = {36, 0, 23};
 constexpr cls_MemberDescription kKmaDescElectricalConductivity[] = {

@@ -204,8 +204,17 @@ constexpr cls_MemberDescription kKmaDescMullinsEffect[] = {
     {"planarTests", "Planar unloading-reloading tests of a TEST_DATA definition"},
 };
 constexpr int kKmaCodesMullinsEffect[] = {0, 11, 46, 23, 43, 42, 41, 44, 25, 47, 45};
+constexpr cls_MemberDescription kKmaDescGel[] = {
+    {"table", "Gel particle radius, saturated radius, growth rate, volume fraction"},
+};
 constexpr int kKmaCodesGel[] = {23};
+constexpr cls_MemberDescription kKmaDescLatentHeat[] = {
+    {"table", "Latent heat, solidus temperature, liquidus temperature, one row per phase change"},
+};
 constexpr int kKmaCodesLatentHeat[] = {23};
+constexpr cls_MemberDescription kKmaDescMoistureSwelling[] = {
+    {"table", "Swelling strain, saturation"},
+};
 constexpr int kKmaCodesMoistureSwelling[] = {23};
 constexpr cls_ClassDescription kKmaDescriptions3[] = {
     {"kmaC_GapConvection",
@@ -219,7 +228,7 @@ constexpr cls_ClassDescription kKmaDescriptions3[] = {
      {}, nullptr, kKmaCodesGapRadiation},
     {"kmaC_Gel",
      "Gel swelling: radius, saturated radius, growth rate and volume fraction per row.",
-     {}, nullptr, kKmaCodesGel},
+     kKmaDescGel, nullptr, kKmaCodesGel},
     {"kmaC_HeatGeneration",
      "Heat generation by a user routine; it has no data of its own.",
      {}},
@@ -241,7 +250,7 @@ constexpr cls_ClassDescription kKmaDescriptions3[] = {
      kKmaDescJouleHeatFraction, nullptr, kKmaCodesJouleHeatFraction},
     {"kmaC_LatentHeat",
      "Latent heat of phase changes: heat, solidus and liquidus temperatures per row.",
-     {}, nullptr, kKmaCodesLatentHeat},
+     kKmaDescLatentHeat, nullptr, kKmaCodesLatentHeat},
     {"kmaC_LowDensityFoam",
      "Low-density foam from uniaxial test data, with optional element removal above a principal "
      "tensile stress.",
@@ -271,7 +280,7 @@ constexpr cls_ClassDescription kKmaDescriptions3[] = {
      kKmaDescMohrCoulomb, nullptr, kKmaCodesMohrCoulomb},
     {"kmaC_MoistureSwelling",
      "Moisture-driven swelling strain against saturation.",
-     {}, nullptr, kKmaCodesMoistureSwelling},
+     kKmaDescMoistureSwelling, nullptr, kKmaCodesMoistureSwelling},
     {"kmaC_MullinsEffect",
      "Mullins effect: the softening of a filled elastomer on reloading, given by the constants r, "
      "m and beta of the pseudo-elastic damage model (CONSTANTS), by a user subroutine with "

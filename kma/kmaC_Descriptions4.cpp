@@ -22,14 +22,21 @@ constexpr cls_MemberDescription kKmaDescPlanarTestData[] = {
     {"smoothing", "Points each side of a data point used to smooth the data (0: no smoothing)"},
     {"lateralNominalStrain",
      "Whether the table adds the measured lateral nominal strain as a third column"},
+    {"table",
+     "Nominal stress, nominal strain (and lateral nominal strain with lateralNominalStrain); "
+     "then temperature and field-variable columns"},
 };
 constexpr int kKmaCodesPlanarTestData[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescPlastic[] = {
-    {"hardening", "Hardening law"},
+    {"hardening",
+     "Hardening law; it decides the table's layout and rules (tensileFailure only with ISOTROPIC "
+     "or JOHNSON_COOK)"},
     {"rate", "The table carries a strain-rate column after yield stress and plastic strain"},
-    {"dataType", "Form of the data for combined hardening"},
+    {"dataType",
+     "Form of COMBINED hardening data: HALF_CYCLE, PARAMETERS or STABILIZED (PARAMETERS skips "
+     "the first-yield rule)"},
     {"strainRangeDependency", "Data depend on the strain range"},
-    {"numBackstresses", "Number of backstresses"},
+    {"numBackstresses", "Number of backstresses of kinematic or combined hardening"},
     {"temperatureDependency", "The data depend on temperature"},
     {"dependencies", "Number of field-variable dependencies"},
     {"table",
@@ -42,7 +49,7 @@ constexpr cls_MemberDescription kKmaDescPlastic[] = {
     {"cycledPlastic", "Cycled plastic sub-option"},
     {"annealTemperature", "Annealing temperature sub-option"},
     {"tensileFailure", "Tensile failure sub-option"},
-    {"properties", "Number of user properties"},
+    {"properties", "Number of constants of USER hardening"},
     {"scaleStress", "Stress scale (blank: not set)"},
     {"staticRecovery", "Whether the hardening recovers statically over time"},
     {"extrapolation",
@@ -62,6 +69,11 @@ constexpr cls_MemberDescription kKmaDescPorousMetalPlasticity[] = {
     {"relativeDensity", "Initial relative density: 1 minus the void volume fraction (at most 1)"},
 };
 constexpr int kKmaCodesPorousMetalPlasticity[] = {0, 22, 23};
+constexpr cls_MemberDescription kKmaDescPotential[] = {
+    {"table",
+     "Yield stress ratios R11, R22, R33, R12, R13, R23; then temperature and field-variable "
+     "columns"},
+};
 constexpr int kKmaCodesPotential[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescRateDependent[] = {
     {"type",
@@ -115,6 +127,10 @@ constexpr cls_MemberDescription kKmaDescThicknessBehavior[] = {
 constexpr int kKmaCodesThicknessBehavior[] = {0, 34, 29, 23};
 constexpr int kKmaCodesTransShearElastic[] = {0, 23};
 constexpr int kKmaCodesPiezoelectric[] = {23};
+constexpr cls_MemberDescription kKmaDescPorousBulkModuli[] = {
+    {"table",
+     "Bulk modulus of the solid grains, bulk modulus of the pore fluid; then a temperature column"},
+};
 constexpr int kKmaCodesPorousBulkModuli[] = {23};
 constexpr int kKmaCodesSorption[] = {23};
 constexpr cls_ClassDescription kKmaDescriptions4[] = {
@@ -144,7 +160,7 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
      kKmaDescPoreFluidExpansion, nullptr, kKmaCodesPoreFluidExpansion},
     {"kmaC_PorousBulkModuli",
      "Bulk moduli of the solid grains and of the permeating fluid.",
-     {}, nullptr, kKmaCodesPorousBulkModuli},
+     kKmaDescPorousBulkModuli, nullptr, kKmaCodesPorousBulkModuli},
     {"kmaC_PorousElastic",
      "Porous elasticity: logarithmic bulk modulus and Poisson's ratio or shear modulus.",
      kKmaDescPorousElastic, nullptr, kKmaCodesPorousElastic},
@@ -154,7 +170,7 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
     {"kmaC_Potential",
      "Anisotropic flow potential of a plastic option: the six yield stress ratios R11 to R23, "
      "possibly temperature and field dependent.",
-     {}, nullptr, kKmaCodesPotential},
+     kKmaDescPotential, nullptr, kKmaCodesPotential},
     {"kmaC_RateDependent",
      "Rate dependence of the yield stress of a plastic option: the law of the overstress and its "
      "data table (multiplier and exponent, Johnson-Cook constants or yield ratios against rate).",

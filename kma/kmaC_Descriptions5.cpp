@@ -6,6 +6,9 @@ constexpr cls_MemberDescription kKmaDescUniaxialTestData[] = {
     {"smoothing", "Points each side of a data point used to smooth the data (0: no smoothing)"},
     {"lateralNominalStrain",
      "Whether the table adds the measured lateral nominal strain as a third column"},
+    {"table",
+     "Nominal stress, nominal strain (and lateral nominal strain with lateralNominalStrain); "
+     "then temperature and field-variable columns"},
 };
 constexpr int kKmaCodesUniaxialTestData[] = {0, 23};
 constexpr cls_MemberDescription kKmaDescUserMaterial[] = {
@@ -48,6 +51,8 @@ constexpr cls_MemberDescription kKmaDescVolumetricTestData[] = {
      "VOLUMETRIC_DATA (pressure against volume ratio in the table) or POISSON_RATIO "
      "(poissonRatio only)"},
     {"poissonRatio", "Poisson's ratio of a POISSON_RATIO response (-1 to 0.5)"},
+    {"table",
+     "Pressure, volume ratio (VOLUMETRIC_DATA only); then temperature and field-variable columns"},
 };
 constexpr int kKmaCodesVolumetricTestData[] = {0, 4, 5, 23};
 constexpr int kKmaCodesUserMaterial[] = {23};

@@ -31,7 +31,7 @@ constexpr cls_MemberDescription kKmaDescDruckerPrager[] = {
     {"eccentricity", "Flow potential eccentricity (at least 0)"},
     {"testData",
      "Whether the EXPONENTIAL criterion's parameters are fitted from triaxial test data"},
-    {"druckerPragerCreep", "Creep sub-option"},
+    {"druckerPragerCreep", "Creep of the Drucker-Prager material (absent: no creep)"},
 };
 constexpr int kKmaCodesDruckerPrager[] = {0, 8, 23};
 constexpr cls_MemberDescription kKmaDescDruckerPragerCreep[] = {
@@ -43,8 +43,6 @@ constexpr cls_MemberDescription kKmaDescElastic[] = {
     {"type", "Symmetry of the elastic data, selects the layout of the table's data columns"},
     {"noCompression", "The material carries no compressive stress"},
     {"noTension", "The material carries no tensile stress"},
-    {"temperatureDependency", "The data depend on temperature"},
-    {"dependencies", "Number of field-variable dependencies"},
     {"moduli", "Time scale of the moduli"},
     {"table",
      "The elastic constants, laid out by type (ISOTROPIC: Young's modulus, Poisson's ratio), "
@@ -84,7 +82,7 @@ constexpr cls_MemberDescription kKmaDescEos[] = {
     {"detonationEnergy", "Detonation energy of an explosive (at least 0)"},
     {"solidTable", "Data of the unreacted solid of an IGNITION_AND_GROWTH equation"},
     {"gasTable", "Data of the reacted gas products of an IGNITION_AND_GROWTH equation"},
-    {"eosShear", "Deviatoric response sub-option"},
+    {"eosShear", "Deviatoric response, viscous or elastic (absent: none)"},
 };
 constexpr int kKmaCodesEos[] = {0, 1, 23};
 constexpr cls_MemberDescription kKmaDescEosShear[] = {

@@ -179,7 +179,8 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
      "Regularization of rate-dependent data: the tolerance and the strain rate scale.",
      kKmaDescRegularization},
     {"kmaC_Shear",
-     "Shear viscosity of an equation of state material.",
+     "Deviatoric response of an equation-of-state material: elastic (a shear modulus per row) or "
+     "viscous (a viscosity per row).",
      kKmaDescShear, nullptr, kKmaCodesShear},
     {"kmaC_ShearRetention",
      "Post-cracking shear retention of a brittle cracking material, given as retention factors "
@@ -195,7 +196,7 @@ constexpr cls_ClassDescription kKmaDescriptions4[] = {
      "Sorption of a partially saturated porous medium: absorption law and data.",
      kKmaDescSorption, nullptr, kKmaCodesSorption},
     {"kmaC_SpecificHeat",
-     "SpecificHeat: specific heat at constant volume or constant pressure, possibly temperature "
+     "Specific heat at constant volume or constant pressure, possibly temperature "
      "and field dependent.",
      kKmaDescSpecificHeat, nullptr, kKmaCodesSpecificHeat},
     {"kmaC_SuperElasticity",

@@ -31,7 +31,7 @@ constexpr cls_MemberDescription kKmaDescViscoelastic[] = {
      "frequency)"},
     {"type", "ISOTROPIC or TRACTION (the traction response of cohesive elements and gaskets)"},
     {"preload",
-     "Preload of frequency-domain data; VOLUMETRIC and UNIAXIAL_VOLUMETRIC not with TRACTION"},
+     "Kind of preload the data refer to; VOLUMETRIC and UNIAXIAL_VOLUMETRIC not with TRACTION"},
     {"errtol", "Allowed average root-mean-square error of the Prony series fit"},
     {"nmax", "Largest number of Prony series terms of the fit (1 to 13)"},
     {"volumetricTable", "Volumetric test data of the fit, beside the shear data of the table"},

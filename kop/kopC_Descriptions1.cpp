@@ -10,14 +10,14 @@ constexpr cls_MemberDescription kKopDescBeadCyclicSymmetry[] = {
 };
 constexpr int kKopCodesBeadCyclicSymmetry[] = {35};
 constexpr cls_MemberDescription kKopDescBeadFixedRegion[] = {
-    {"region", "The region it applies to"},
+    {"region", "The nodes held"},
     {"u1", "Whether displacement along direction 1 is constrained"},
     {"u2", "Whether displacement along direction 2 is constrained"},
     {"u3", "Whether displacement along direction 3 is constrained"},
 };
 constexpr int kKopCodesBeadFixedRegion[] = {126};
 constexpr cls_MemberDescription kKopDescBeadFrozenArea[] = {
-    {"region", "The region it applies to"},
+    {"region", "The nodes the bead task leaves where they are"},
 };
 constexpr cls_MemberDescription kKopDescBeadGrowth[] = {
     {"region", "The region it applies to"},
@@ -142,14 +142,14 @@ constexpr cls_MemberDescription kKopDescDrillControl[] = {
 };
 constexpr int kKopCodesDrillControl[] = {9};
 constexpr cls_MemberDescription kKopDescFixedRegion[] = {
-    {"region", "The region it applies to"},
+    {"region", "The nodes held"},
     {"u1", "Whether displacement along direction 1 is constrained"},
     {"u2", "Whether displacement along direction 2 is constrained"},
     {"u3", "Whether displacement along direction 3 is constrained"},
 };
 constexpr int kKopCodesFixedRegion[] = {126};
 constexpr cls_MemberDescription kKopDescFrozenArea[] = {
-    {"region", "The region it applies to"},
+    {"region", "The region the optimizer leaves as it is"},
 };
 constexpr cls_MemberDescription kKopDescGrowthRestriction[] = {
     {"region", "The region it applies to"},
@@ -169,7 +169,7 @@ constexpr cls_MemberDescription kKopDescLocalStopCondition[] = {
     {"referenceOperation", "How the values of the reference over the region become one value"},
     {"referenceIteration",
      "The iteration within the reference design cycle whose value is the reference"},
-    {"region", "The region it applies to"},
+    {"region", "The region the result and its reference are read over"},
 };
 constexpr int kKopCodesLocalStopCondition[] = {5, 14};
 constexpr cls_MemberDescription kKopDescMemberSize[] = {
@@ -231,8 +231,8 @@ constexpr cls_MemberDescription kKopDescOrimStopCondition[] = {
 constexpr int kKopCodesOrimStopCondition[] = {5};
 constexpr cls_MemberDescription kKopDescOrimTask[] = {
     {"algorithm",
-     "The optimizer: condition-based (fast, formerly controller-based) or general "
-     "(sensitivity-based; needed by several settings)"},
+     "The optimizer: condition-based (formerly controller-based) or general (sensitivity-based; "
+     "several settings need it)"},
     {"tessarSensitivities",
      "Whether the Tessar sensitivity method is used (general algorithm only)"},
     {"groupOperator",

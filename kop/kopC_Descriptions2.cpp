@@ -138,11 +138,11 @@ constexpr int kKopCodesSingleTermRequest[] = {5, 6, 90, 92, 93, 98, 110, 68, 7, 
 constexpr cls_MemberDescription kKopDescSingleVariable[] = {
     {"identifier", "The result the variable reads, such as SIG_MISES (required)"},
     {"operation", "How the values over the region become one"},
-    {"region", "The region it applies to"},
+    {"region", "The region the result is read over"},
 };
 constexpr int kKopCodesSingleVariable[] = {5};
 constexpr cls_MemberDescription kKopDescSizingClusterAreas[] = {
-    {"region", "The region it applies to"},
+    {"region", "The shell elements that keep one common thickness"},
 };
 constexpr cls_MemberDescription kKopDescSizingCyclicSymmetry[] = {
     {"region", "The region it applies to"},
@@ -151,7 +151,7 @@ constexpr cls_MemberDescription kKopDescSizingCyclicSymmetry[] = {
 };
 constexpr int kKopCodesSizingCyclicSymmetry[] = {35};
 constexpr cls_MemberDescription kKopDescSizingFrozenArea[] = {
-    {"region", "The region it applies to"},
+    {"region", "The shell elements left at their thickness"},
 };
 constexpr cls_MemberDescription kKopDescSizingPlanarSymmetry[] = {
     {"region", "The region it applies to"},
@@ -194,7 +194,7 @@ constexpr cls_MemberDescription kKopDescSizingTask[] = {
 constexpr int kKopCodesSizingTask[] = {
     111, 44, 46, 47, 113, 49, 65, 130, 131, 2, 4, 105, 106, 0, 137, 115};
 constexpr cls_MemberDescription kKopDescSlideRegion[] = {
-    {"region", "The region it applies to"},
+    {"region", "The nodes that may move only along the surface"},
 };
 constexpr cls_MemberDescription kKopDescStampControl[] = {
     {"region", "The region it applies to"},
@@ -218,7 +218,7 @@ constexpr cls_MemberDescription kKopDescStepOption[] = {
 constexpr int kKopCodesStepOption[] = {125, 86, 30, 31, 32};
 constexpr cls_MemberDescription kKopDescTask[] = {
     {"suppressed", "Whether the task is suppressed (kept but not run)"},
-    {"region", "The region it applies to"},
+    {"region", "The design region of the task (empty: the whole model)"},
     {"optimizationConstraints", "The task's optimization constraints, by name"},
     {"designResponses", "The task's design responses, by name"},
     {"geometricRestrictions", "The task's geometric restrictions, by name"},
@@ -315,7 +315,7 @@ constexpr cls_MemberDescription kKopDescTranslationalSymmetry[] = {
 };
 constexpr int kKopCodesTranslationalSymmetry[] = {17};
 constexpr cls_MemberDescription kKopDescTurnControl[] = {
-    {"region", "The region it applies to"},
+    {"region", "The region kept turnable about the axis"},
 };
 constexpr cls_ClassDescription kKopDescriptions2[] = {
     {"kopC_ShapePointSymmetry",

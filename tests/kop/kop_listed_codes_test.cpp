@@ -258,4 +258,70 @@ TEST(KopListedCodes, BeadTask) {
       false, false);
 }
 
+TEST(KopListedCodes, SingleTermRequest) {
+  kop_Start();
+  using T = kopC_SingleTermRequest;
+  using Op = kopC_VariableOperationEnm;
+  const auto step = [] {
+    kopC_StepOption o;
+    o.SetMultipleStep("Step-1");
+    return cow_List<T::StepOptionHandle>(std::vector<T::StepOptionHandle>{T::StepOptionHandle(o)});
+  };
+  // Which operations a request may take depends on its identifier: the cases that change either
+  // are not combined.
+  qmx_CheckListedCodes<T>(
+      T::kClassName,
+      {
+          {"no identifier", [](T& t) { t.SetIdentifier(""); }, 5, {"identifier"}},
+          {"average", [](T& t) { t.SetOperation(Op::AVERAGE); }, 6, {"operation"}},
+          {"no operation on a local result", [](T& t) { t.SetOperation(Op::NOT_APPLICABLE); }, 90,
+           {"operation", "identifier"}},
+          {"the minimum of a global result",
+           [](T& t) { t.SetIdentifier("STRAIN_ENERGY"), t.SetOperation(Op::MINIMUM); }, 92,
+           {"identifier", "operation"}},
+          {"the maximum of a global result",
+           [](T& t) { t.SetIdentifier("STRAIN_ENERGY"), t.SetOperation(Op::MAXIMUM); }, 93,
+           {"identifier", "operation"}},
+          {"the maximum of a stress over the whole model",
+           [](T& t) { t.SetOperation(Op::MAXIMUM), t.SetDrivingRegion(rgnC_Region()); }, 98,
+           {"operation", "region", "identifier"}},
+          {"the stiffness measure over a region", [](T& t) { t.SetIdentifier("ENERGY_STIFF_MEASURE"); }, 110,
+           {"identifier"}},
+          {"deviation from a variable",
+           [](T& t) { t.SetDeviationReference(kopC_DeviationReferenceEnm::DEVIATION_FROM_VARIABLE); }, 68},
+          {"deviation reference 0", [](T& t) { t.SetDeviationReferenceValue(0); }, 7},
+          {"a shell layer of a displacement",
+           [](T& t) { t.SetIdentifier("DISP_ABS"), t.SetShellLayer(kopC_ShellLayerEnm::TOP); }, 129, {"identifier"}},
+          {"steps for the volume", [](T& t) { t.SetIdentifier("VOLUME"); }, 87, {"identifier"}},
+          {"no step for a stress", [](T& t) { t.SetStepOptions({}); }, 125, {"identifier", "steps"}},
+      },
+      [step] {
+        T t;
+        t.SetIdentifier("SIG_MISES");
+        t.SetDrivingRegion(rgnC_Region("Part-1-1.Set-1"));
+        t.SetStepOptions(step());
+        return t;
+      });
+}
+
+TEST(KopListedCodes, StepOption) {
+  kop_Start();
+  using T = kopC_StepOption;
+  qmx_CheckListedCodes<T>(
+      T::kClassName,
+      {
+          {"no step", [](T& t) { t.SetMultipleStep(""); }, 125, {"step"}},
+          {"every step and a load case", [](T& t) { t.SetMultipleStep("ALL"), t.SetLoadCase("LC-1"); }, 86, {"step"}},
+          {"lower mode 0", [](T& t) { t.SetUseAllModes(false), t.SetLowerMode(0); }, 30, {"modes"}},
+          {"upper mode 0", [](T& t) { t.SetUseAllModes(false), t.SetUpperMode(0); }, 31, {"modes"}},
+          {"lower above upper", [](T& t) { t.SetUseAllModes(false), t.SetLowerMode(3), t.SetUpperMode(2); }, 32,
+           {"modes"}},
+      },
+      [] {
+        T t;
+        t.SetMultipleStep("Step-1");
+        return t;
+      });
+}
+
 }  // namespace

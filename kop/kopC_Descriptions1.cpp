@@ -210,8 +210,8 @@ constexpr cls_MemberDescription kKopDescOrimConstraint[] = {
      "How the response is bounded: equal to, at most or at least the value, taken as it is "
      "(ABSOLUTE_) or as a fraction of the initial value (RELATIVE_)"},
     {"restrictionValue",
-     "The bound: absolute, or a fraction of the initial value with a RELATIVE_ method (above 0 "
-     "and below 1 for the volume or weight of a topology task)"},
+     "The bound: absolute, or a fraction of the initial value with a RELATIVE_ method (a "
+     "relative bound on the volume or weight of a topology task: above 0, below 1)"},
 };
 constexpr int kKopCodesOrimConstraint[] = {0};
 constexpr cls_MemberDescription kKopDescOrimObjectiveFunction[] = {

@@ -251,8 +251,8 @@ constexpr cls_MemberDescription kKopDescTopologyTask[] = {
     {"numTrackedModes",
      "Number of eigenmodes followed from cycle to cycle by mode tracking (at least 0; 0: none)"},
     {"firstCycleDeletedVolume",
-     "Volume taken away in the first design cycle, as a percentage or an absolute volume after "
-     "firstCycleDeletedVolumeTechnique"},
+     "Volume taken away in the first design cycle, a percentage or an absolute volume as "
+     "firstCycleDeletedVolumeTechnique says"},
     {"initialDensity",
      "Relative density the design elements start with (above 0, from minDensity to maxDensity; "
      "the largest double: the solver's default)"},

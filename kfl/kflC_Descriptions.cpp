@@ -3,32 +3,46 @@
 // What the classes of the module and their members mean, by scripting name.
 namespace {
 constexpr cls_MemberDescription kKflDescButterworthFilter[] = {
-    {"cutoffFrequency", "Cutoff frequency"},
-    {"order", "Order"},
-    {"operation", "Operation"},
-    {"limit", "Limit"},
-    {"halt", "Halt"},
+    {"cutoffFrequency",
+     "Frequency above which the filter attenuates the history (cycles per time, above 0; to be "
+     "given)"},
+    {"order", "Order of the filter: the higher, the steeper the roll-off (1 to 20)"},
+    {"operation",
+     "What is taken of the filtered output: nothing (NONE), its minimum, maximum or "
+     "absolute value"},
+    {"limit", "The value the output is compared with (the largest double: no limit)"},
+    {"halt", "Whether the analysis stops when the output reaches the limit (needs a limit)"},
 };
 constexpr cls_MemberDescription kKflDescChebyshev1Filter[] = {
-    {"cutoffFrequency", "Cutoff frequency"},
-    {"order", "Order"},
-    {"rippleFactor", "Ripple factor"},
-    {"operation", "Operation"},
-    {"limit", "Limit"},
-    {"halt", "Halt"},
+    {"cutoffFrequency",
+     "Frequency above which the filter attenuates the history (cycles per time, above 0; to be "
+     "given)"},
+    {"order", "Order of the filter: the higher, the steeper the roll-off (1 to 10)"},
+    {"rippleFactor", "Size of the ripple in the pass band (above 0, below 1)"},
+    {"operation",
+     "What is taken of the filtered output: nothing (NONE), its minimum, maximum or "
+     "absolute value"},
+    {"limit", "The value the output is compared with (the largest double: no limit)"},
+    {"halt", "Whether the analysis stops when the output reaches the limit (needs a limit)"},
 };
 constexpr cls_MemberDescription kKflDescChebyshev2Filter[] = {
-    {"cutoffFrequency", "Cutoff frequency"},
-    {"order", "Order"},
-    {"rippleFactor", "Ripple factor"},
-    {"operation", "Operation"},
-    {"limit", "Limit"},
-    {"halt", "Halt"},
+    {"cutoffFrequency",
+     "Frequency above which the filter attenuates the history (cycles per time, above 0; to be "
+     "given)"},
+    {"order", "Order of the filter: the higher, the steeper the roll-off (1 to 10)"},
+    {"rippleFactor", "Size of the ripple in the stop band (above 0, below 1)"},
+    {"operation",
+     "What is taken of the filtered output: nothing (NONE), its minimum, maximum or "
+     "absolute value"},
+    {"limit", "The value the output is compared with (the largest double: no limit)"},
+    {"halt", "Whether the analysis stops when the output reaches the limit (needs a limit)"},
 };
 constexpr cls_MemberDescription kKflDescOperatorFilter[] = {
-    {"operation", "Operation"},
-    {"limit", "Limit"},
-    {"halt", "Halt"},
+    {"operation",
+     "What is taken of the output: its minimum, maximum or absolute value (NONE is "
+     "refused)"},
+    {"limit", "The value the output is compared with (the largest double: no limit)"},
+    {"halt", "Whether the analysis stops when the output reaches the limit (needs a limit)"},
 };
 constexpr cls_ClassDescription kKflDescriptions[] = {
     {"kflC_ButterworthFilter",

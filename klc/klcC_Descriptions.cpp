@@ -4,15 +4,17 @@
 // What the classes of the module and their members mean, by scripting name.
 namespace {
 constexpr cls_MemberDescription kKlcDescLoadCase[] = {
-    {"stepName", "Step name"},
+    {"stepName", "The step whose loads and boundary conditions the case combines (required)"},
     {"description", "A free text describing it"},
-    {"loads", "Loads"},
-    {"boundaryConditions", "Boundary conditions"},
+    {"loads", "The loads of the model it combines, each by name with its factor (each once)"},
+    {"boundaryConditions",
+     "The boundary conditions of the model it combines, each by name with its factor (each once; "
+     "with the loads, at least one in all)"},
 };
-constexpr int kKlcCodesLoadCase[] = {0, 1, 3, 4};
+constexpr int kKlcCodesLoadCase[] = {0, 1, 2, 3, 5, 4};
 constexpr cls_MemberDescription kKlcDescLoadCaseTerm[] = {
-    {"name", "Its name"},
-    {"scaleFactor", "Scale factor"},
+    {"name", "The name of the load or boundary condition of the model (required)"},
+    {"scaleFactor", "The factor its magnitude is scaled by (finite; 0 switches it off)"},
 };
 constexpr int kKlcCodesLoadCaseTerm[] = {2, 5};
 constexpr cls_ClassDescription kKlcDescriptions[] = {

@@ -5,235 +5,296 @@
 namespace {
 constexpr cls_MemberDescription kKopDescBeadCyclicSymmetry[] = {
     {"region", "The region it applies to"},
-    {"repetitiveSectors", "Repetitive sectors"},
-    {"angle", "Angle (degrees)"},
+    {"repetitiveSectors", "Number of identical sectors the design repeats in about the axis"},
+    {"angle", "Angle of one sector about the axis (degrees, at least 0, below 360)"},
 };
 constexpr int kKopCodesBeadCyclicSymmetry[] = {35};
 constexpr cls_MemberDescription kKopDescBeadFixedRegion[] = {
-    {"region", "The region it applies to"},
+    {"region", "The nodes held"},
     {"u1", "Whether displacement along direction 1 is constrained"},
     {"u2", "Whether displacement along direction 2 is constrained"},
     {"u3", "Whether displacement along direction 3 is constrained"},
 };
 constexpr int kKopCodesBeadFixedRegion[] = {126};
 constexpr cls_MemberDescription kKopDescBeadFrozenArea[] = {
-    {"region", "The region it applies to"},
+    {"region", "The nodes the bead task leaves where they are"},
 };
 constexpr cls_MemberDescription kKopDescBeadGrowth[] = {
     {"region", "The region it applies to"},
-    {"growth", "Growth"},
-    {"shrink", "Shrink"},
+    {"growth",
+     "Farthest the nodes may move outward (at least 0; the largest double: no bound; growth, "
+     "shrink or both must be set)"},
+    {"shrink", "Farthest the nodes may move inward (at least 0; the largest double: no bound)"},
 };
 constexpr int kKopCodesBeadGrowth[] = {61, 59, 60};
 constexpr cls_MemberDescription kKopDescBeadPenetrationCheck[] = {
     {"region", "The region it applies to"},
-    {"penetrationCheckRegion", "Penetration check region"},
+    {"penetrationCheckRegion", "The surface the nodes of the design must not move through"},
 };
 constexpr cls_MemberDescription kKopDescBeadPlanarSymmetry[] = {
     {"region", "The region it applies to"},
-    {"axis", "Axis"},
+    {"axis", "The axis of the coordinate system normal to the plane of symmetry"},
 };
 constexpr cls_MemberDescription kKopDescBeadPointSymmetry[] = {
     {"region", "The region it applies to"},
 };
 constexpr cls_MemberDescription kKopDescBeadRotationalSymmetry[] = {
     {"region", "The region it applies to"},
-    {"angle", "Angle (degrees)"},
+    {"angle", "Angle by which the design repeats about the axis (degrees, above 2, below 360)"},
 };
 constexpr int kKopCodesBeadRotationalSymmetry[] = {16};
 constexpr cls_MemberDescription kKopDescBeadTask[] = {
-    {"frozenBoundaryConditionRegion", "Frozen boundary condition region"},
-    {"nodeUpdateStrategy", "Node update strategy"},
-    {"nodalMoveLimit", "Nodal move limit"},
-    {"numTrackedModes", "Num tracked modes"},
-    {"modeTrackingRegion", "Mode tracking region"},
-    {"updateNodalNormals", "Update nodal normals"},
-    {"flipNormalDir", "Flip normal dir"},
-    {"beadWidth", "Bead width (greater than 0)"},
-    {"minStress", "Min stress (not negative)"},
-    {"maxMembraneStress", "Max membrane stress (not negative)"},
-    {"curveSmooth", "Curve smooth (greater than 0)"},
-    {"nodeSmooth", "Node smooth (greater than 0)"},
-    {"beadIter", "Bead iter (at least 1)"},
-    {"beadPerturbation", "Bead perturbation (greater than 0)"},
-    {"filterRadius", "Filter radius"},
-    {"isSensCalcOnlyOnDesignNodes", "Is sens calc only on design nodes"},
-    {"areBCRegionsFrozen", "Are BC regions frozen"},
-    {"updateShapeBasisVectors", "Update shape basis vectors"},
+    {"frozenBoundaryConditionRegion",
+     "A region of boundary conditions whose nodes stay where they are"},
+    {"nodeUpdateStrategy",
+     "How boldly the nodes move from cycle to cycle: normal, conservative (small steps) or "
+     "aggressive (large steps)"},
+    {"nodalMoveLimit", "Farthest a node moves in one design cycle (above 0)"},
+    {"numTrackedModes",
+     "Number of eigenmodes followed from cycle to cycle by mode tracking (at least 0; 0: none)"},
+    {"modeTrackingRegion", "The region over which mode shapes are compared for mode tracking"},
+    {"updateNodalNormals",
+     "Whether the node normals the beads grow along are recomputed every design cycle"},
+    {"flipNormalDir", "Whether the beads grow against the shell normals instead of along them"},
+    {"beadWidth", "Width of the beads (above 0)"},
+    {"minStress", "Smallest stress the bead design takes into account (at least 0)"},
+    {"maxMembraneStress", "Largest membrane stress the bead design allows (at least 0)"},
+    {"curveSmooth", "Smoothing of the bead outlines along the surface (above 0)"},
+    {"nodeSmooth", "Smoothing of the node movements between neighbours (above 0)"},
+    {"beadIter", "Number of bead iterations per design cycle (at least 1)"},
+    {"beadPerturbation",
+     "Size of the node perturbation with which bead sensitivities are computed (above 0)"},
+    {"filterRadius",
+     "Radius of the filter that smooths the sensitivities (the largest double: the solver's "
+     "default)"},
+    {"isSensCalcOnlyOnDesignNodes", "Whether sensitivities are computed at the design nodes only"},
+    {"areBCRegionsFrozen", "Whether the nodes of boundary-condition regions stay where they are"},
+    {"updateShapeBasisVectors",
+     "Whether the shape basis vectors are recomputed every design cycle or kept as at the start"},
 };
-constexpr int kKopCodesBeadTask[] = {43, 65, 117, 118, 119, 120, 121, 122, 123};
+constexpr int kKopCodesBeadTask[] = {
+    43, 65, 117, 118, 119, 120, 121, 122, 123, 130, 131, 2, 4, 105, 106, 0, 137, 115};
 constexpr cls_MemberDescription kKopDescBeadTranslationalSymmetry[] = {
     {"region", "The region it applies to"},
-    {"translation", "Translation"},
+    {"translation", "Distance after which the design repeats along the direction (not 0)"},
 };
 constexpr int kKopCodesBeadTranslationalSymmetry[] = {17};
 constexpr cls_MemberDescription kKopDescCombinedTermDesignResponse[] = {
-    {"request", "Request"},
+    {"request", "Its request: the design responses it combines and how"},
 };
 constexpr cls_MemberDescription kKopDescCombinedTermRequest[] = {
-    {"terms", "Terms"},
-    {"weights", "Weights"},
-    {"method", "Method"},
-    {"useVariableTerms", "Use variable terms"},
-    {"filterMaxRadius", "Filter max radius"},
-    {"filterExponent", "Filter exponent"},
-    {"filterRadiusReduction", "Filter radius reduction"},
-    {"lowCutOff", "Low cut off"},
-    {"highCutOff", "High cut off"},
+    {"terms",
+     "The names of the design responses combined, in order (of variables with useVariableTerms); "
+     "the method sets how many"},
+    {"weights",
+     "The weight of each term, in the order of the terms (one per term with WEIGHTED_ADD)"},
+    {"method",
+     "How the terms combine; it sets the number of terms: 1 to 10 (ADD, MULTIPLY, MINIMUM, "
+     "MAXIMUM, WEIGHTED_ADD), 2 (SUBTRACT, DIVIDE, ABSOLUTE_DIFFERENCE, NTH_ROOT, NTH_POWER), 2 "
+     "to 4 (NORMALIZE, NORMALIZE_FIRST), else 1"},
+    {"useVariableTerms",
+     "Whether the terms name variables of the task instead of design responses"},
+    {"filterMaxRadius",
+     "Largest radius of the FILTER method (the largest double: the solver's default)"},
+    {"filterExponent",
+     "Exponent of the distance weighting of the FILTER method (the largest double: the solver's "
+     "default)"},
+    {"filterRadiusReduction",
+     "How much the radius of the FILTER method shrinks from cycle to cycle (the largest double: "
+     "the solver's default)"},
+    {"lowCutOff", "Lower bound of the CUT_OFF method (at least 0)"},
+    {"highCutOff",
+     "Upper bound of the CUT_OFF method (at least lowCutOff; the largest double: no bound)"},
 };
 constexpr int kKopCodesCombinedTermRequest[] = {18, 22, 27, 23, 25, 26, 24, 20, 21};
 constexpr cls_MemberDescription kKopDescCombinedVariable[] = {
-    {"terms", "Terms"},
-    {"method", "Method"},
+    {"terms", "The names of the variables combined, in order (at least one)"},
+    {"method", "How the terms combine into one value"},
 };
 constexpr int kKopCodesCombinedVariable[] = {22};
 constexpr cls_MemberDescription kKopDescCyclicSymmetry[] = {
     {"region", "The region it applies to"},
-    {"repetitiveSectors", "Repetitive sectors"},
-    {"angle", "Angle (degrees)"},
+    {"repetitiveSectors", "Number of identical sectors the design repeats in about the axis"},
+    {"angle", "Angle of one sector about the axis (degrees, at least 0, below 360)"},
 };
 constexpr int kKopCodesCyclicSymmetry[] = {35};
 constexpr cls_MemberDescription kKopDescDemoldControl[] = {
     {"region", "The region it applies to"},
-    {"technique", "Technique"},
-    {"draftAngle", "Draft angle"},
+    {"technique",
+     "How the part leaves its mold: the parting found automatically (AUTO) or through a point "
+     "(POINT), or a stamped part (STAMP, draft angle 0)"},
+    {"draftAngle",
+     "Draft angle of the walls along the pull direction (degrees, 0 to 20; 0 with STAMP)"},
 };
 constexpr int kKopCodesDemoldControl[] = {101, 102};
 constexpr cls_MemberDescription kKopDescDistanceControl[] = {
     {"region", "The region it applies to"},
-    {"referenceRegion", "Reference region"},
-    {"distance", "Distance"},
+    {"referenceRegion", "The region the design surface keeps its distance from"},
+    {"distance", "The distance kept from the reference region (at least 0)"},
 };
 constexpr int kKopCodesDistanceControl[] = {57};
 constexpr cls_MemberDescription kKopDescDrillControl[] = {
     {"region", "The region it applies to"},
-    {"technique", "Technique"},
-    {"pointRegion", "Point region"},
+    {"technique",
+     "Where the drill direction starts: found automatically (AUTO), at the vertex of "
+     "\"pointRegion\" (POINT), or nowhere (NONE)"},
+    {"pointRegion", "A region holding the vertex the drilling starts from (required with POINT)"},
 };
 constexpr int kKopCodesDrillControl[] = {9};
 constexpr cls_MemberDescription kKopDescFixedRegion[] = {
-    {"region", "The region it applies to"},
+    {"region", "The nodes held"},
     {"u1", "Whether displacement along direction 1 is constrained"},
     {"u2", "Whether displacement along direction 2 is constrained"},
     {"u3", "Whether displacement along direction 3 is constrained"},
 };
 constexpr int kKopCodesFixedRegion[] = {126};
 constexpr cls_MemberDescription kKopDescFrozenArea[] = {
-    {"region", "The region it applies to"},
+    {"region", "The region the optimizer leaves as it is"},
 };
 constexpr cls_MemberDescription kKopDescGrowthRestriction[] = {
     {"region", "The region it applies to"},
-    {"growth", "Growth"},
-    {"shrink", "Shrink"},
+    {"growth",
+     "Farthest the nodes may move outward (at least 0; the largest double: no bound; growth, "
+     "shrink or both must be set)"},
+    {"shrink", "Farthest the nodes may move inward (at least 0; the largest double: no bound)"},
 };
 constexpr int kKopCodesGrowthRestriction[] = {61, 59, 60};
 constexpr cls_MemberDescription kKopDescLocalStopCondition[] = {
-    {"identifier", "Identifier"},
-    {"identifierOperation", "Identifier operation"},
-    {"comparisonOperation", "Comparison operation"},
-    {"referenceDesignCycle", "Reference design cycle"},
-    {"referenceFactor", "Reference factor"},
-    {"referenceOperation", "Reference operation"},
-    {"referenceIteration", "Reference iteration"},
-    {"region", "The region it applies to"},
+    {"identifier", "The result compared, such as SIG_MISES (required)"},
+    {"identifierOperation", "How the values of the result over the region become one value"},
+    {"comparisonOperation",
+     "How the current value must compare with the reference for the run to stop"},
+    {"referenceDesignCycle", "The design cycle whose value is the reference"},
+    {"referenceFactor", "Factor on the reference value (required: the largest double is refused)"},
+    {"referenceOperation", "How the values of the reference over the region become one value"},
+    {"referenceIteration",
+     "The iteration within the reference design cycle whose value is the reference"},
+    {"region", "The region the result and its reference are read over"},
 };
 constexpr int kKopCodesLocalStopCondition[] = {5, 14};
 constexpr cls_MemberDescription kKopDescMemberSize[] = {
     {"region", "The region it applies to"},
-    {"sizeRestriction", "Size restriction"},
-    {"minThickness", "Min thickness"},
-    {"maxThickness", "Max thickness"},
+    {"sizeRestriction",
+     "Whether the member thickness is bounded from below (MINIMUM) or from above (MAXIMUM); a "
+     "condition-based task allows only MINIMUM"},
+    {"minThickness", "Smallest member thickness (above 0; the largest double: not bounded)"},
+    {"maxThickness",
+     "Largest member thickness (above 0, at least minThickness; the largest double: not bounded)"},
 };
 constexpr int kKopCodesMemberSize[] = {52, 53, 56};
 constexpr cls_MemberDescription kKopDescMemberSizeRange[] = {
     {"region", "The region it applies to"},
-    {"minWidth", "Min width"},
-    {"maxWidth", "Max width"},
-    {"memberSize", "Member size"},
+    {"minWidth", "Smallest member width (above 0; the largest double: not bounded)"},
+    {"maxWidth", "Largest member width (above 0; the largest double: not bounded)"},
+    {"memberSize", "The member size aimed at (above 0; the largest double: the solver's default)"},
 };
 constexpr int kKopCodesMemberSizeRange[] = {54, 55, 58};
 constexpr cls_MemberDescription kKopDescObjective[] = {
-    {"designResponse", "Design response (name)"},
-    {"weight", "Weight"},
-    {"referenceValue", "Reference value"},
-    {"referenceValueVariable", "Reference value variable"},
-    {"suppressed", "Suppressed"},
+    {"designResponse",
+     "The name of the design response the entry minimizes or maximizes (in the task's "
+     "designResponses)"},
+    {"weight", "Weight of the entry in the objective function"},
+    {"referenceValue",
+     "Reference value of the response (the largest double: DEFAULT; in a general task all set or "
+     "all DEFAULT, in a condition-based one all DEFAULT)"},
+    {"referenceValueVariable",
+     "A variable that would give the reference value (not yet supported: must stay empty)"},
+    {"suppressed",
+     "Whether the entry is left out of the objective (one entry at least must stay in)"},
 };
 constexpr int kKopCodesObjective[] = {100};
 constexpr cls_MemberDescription kKopDescOrimConstraint[] = {
-    {"designResponse", "Design response (name)"},
-    {"restrictionMethod", "Enumeration below"},
-    {"restrictionValue", "Restriction value"},
+    {"designResponse",
+     "The name of the design response it bounds (in the task's designResponses; required)"},
+    {"restrictionMethod",
+     "How the response is bounded: equal to, at most or at least the value, taken as it is "
+     "(ABSOLUTE_) or as a fraction of the initial value (RELATIVE_)"},
+    {"restrictionValue",
+     "The bound: absolute, or a fraction of the initial value with a RELATIVE_ method (a "
+     "relative bound on the volume or weight of a topology task: above 0, below 1)"},
 };
 constexpr int kKopCodesOrimConstraint[] = {0};
 constexpr cls_MemberDescription kKopDescOrimObjectiveFunction[] = {
-    {"target", "Target"},
-    {"objectives", "Objectives (list of Objective)"},
+    {"target",
+     "Whether the weighted responses are minimized, maximized, or their largest minimized"},
+    {"objectives",
+     "Its entries, each a design response with its weight (one at least not suppressed; a "
+     "condition-based task keeps one unless MINIMIZE_MAXIMUM)"},
 };
 constexpr int kKopCodesOrimObjectiveFunction[] = {3};
 constexpr cls_MemberDescription kKopDescOrimStopCondition[] = {
-    {"designResponse", "Design response"},
-    {"comparisonOperation", "Comparison operation"},
-    {"referenceValue", "Reference value"},
+    {"designResponse", "The name of the design response compared (required)"},
+    {"comparisonOperation",
+     "How the response must compare with the reference value for the run to stop"},
+    {"referenceValue", "The value the response is compared with"},
 };
 constexpr int kKopCodesOrimStopCondition[] = {5};
 constexpr cls_MemberDescription kKopDescOrimTask[] = {
-    {"algorithm", "The optimization algorithm"},
-    {"tessarSensitivities", "Tessar sensitivities"},
-    {"groupOperator", "Group operator"},
+    {"algorithm",
+     "The optimizer: condition-based (formerly controller-based) or general (sensitivity-based; "
+     "several settings need it)"},
+    {"tessarSensitivities",
+     "Whether the Tessar sensitivity method is used (general algorithm only)"},
+    {"groupOperator",
+     "Whether the group operator is applied to the design (general algorithm only)"},
 };
 constexpr cls_MemberDescription kKopDescOverhangControl[] = {
     {"region", "The region it applies to"},
-    {"overhangAngle", "Overhang angle"},
-    {"radius", "Radius"},
-    {"filterRadius", "Filter radius"},
+    {"overhangAngle", "The overhang angle the design may not exceed (degrees, above 0)"},
+    {"radius", "Radius of the overhang check (above 0; the largest double: the solver's default)"},
+    {"filterRadius",
+     "Radius of the filter of the overhang check (above 0; the largest double: the solver's "
+     "default)"},
 };
 constexpr int kKopCodesOverhangControl[] = {132, 133, 134};
 constexpr cls_MemberDescription kKopDescPenetrationCheck[] = {
     {"region", "The region it applies to"},
-    {"penetrationCheckRegion", "Penetration check region"},
+    {"penetrationCheckRegion", "The surface the nodes of the design must not move through"},
 };
 constexpr cls_MemberDescription kKopDescPlanarSymmetry[] = {
     {"region", "The region it applies to"},
-    {"axis", "Axis"},
+    {"axis", "The axis of the coordinate system normal to the plane of symmetry"},
 };
 constexpr cls_MemberDescription kKopDescPointSymmetry[] = {
     {"region", "The region it applies to"},
 };
 constexpr cls_MemberDescription kKopDescRibControl[] = {
     {"region", "The region it applies to"},
-    {"ribThickness", "Rib thickness"},
-    {"ribDistance", "Rib distance"},
+    {"ribThickness", "Thickness of the ribs (above 0)"},
+    {"ribDistance", "Distance between neighbouring ribs (above 0)"},
 };
 constexpr int kKopCodesRibControl[] = {135, 136};
 constexpr cls_MemberDescription kKopDescRotationalSymmetry[] = {
     {"region", "The region it applies to"},
-    {"angle", "Angle (degrees)"},
+    {"angle", "Angle by which the design repeats about the axis (degrees, above 2, below 360)"},
 };
 constexpr int kKopCodesRotationalSymmetry[] = {16};
 constexpr cls_MemberDescription kKopDescShapeCyclicSymmetry[] = {
     {"region", "The region it applies to"},
-    {"repetitiveSectors", "Repetitive sectors"},
-    {"angle", "Angle (degrees)"},
+    {"repetitiveSectors", "Number of identical sectors the design repeats in about the axis"},
+    {"angle", "Angle of one sector about the axis (degrees, at least 0, below 360)"},
 };
 constexpr int kKopCodesShapeCyclicSymmetry[] = {35};
 constexpr cls_MemberDescription kKopDescShapeDemoldControl[] = {
     {"region", "The region it applies to"},
-    {"drawAngle", "Draw angle"},
-    {"undercutTolerance", "Undercut tolerance"},
-    {"collisionCheckTolerance", "Collision check tolerance"},
+    {"drawAngle",
+     "Draw angle of the walls along the pull direction (degrees, at least 0, below 45)"},
+    {"undercutTolerance", "Depth of undercut that is tolerated (at least 0)"},
+    {"collisionCheckTolerance", "Distance within which two surfaces count as colliding (above 0)"},
 };
 constexpr int kKopCodesShapeDemoldControl[] = {10, 11, 12};
 constexpr cls_MemberDescription kKopDescShapeMemberSize[] = {
     {"region", "The region it applies to"},
-    {"sizeRestriction", "Size restriction"},
-    {"minThickness", "Min thickness"},
-    {"maxThickness", "Max thickness"},
+    {"sizeRestriction",
+     "Whether the member size is bounded from below (MINIMUM) or from above (MAXIMUM); NONE is "
+     "refused"},
+    {"minThickness", "Smallest member thickness (above 0; the largest double: not bounded)"},
+    {"maxThickness", "Largest member thickness (above 0; the largest double: not bounded)"},
 };
 constexpr int kKopCodesShapeMemberSize[] = {8, 52, 53};
 constexpr cls_MemberDescription kKopDescShapePlanarSymmetry[] = {
     {"region", "The region it applies to"},
-    {"axis", "Axis"},
+    {"axis", "The axis of the coordinate system normal to the plane of symmetry"},
 };
 constexpr cls_ClassDescription kKopDescriptions1[] = {
     {"kopC_BeadCyclicSymmetry",

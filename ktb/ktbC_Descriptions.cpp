@@ -3,38 +3,45 @@
 // What the classes of the module and their members mean, by scripting name.
 namespace {
 constexpr cls_MemberDescription kKtbDescActivateElem[] = {
-    {"eventSeries", "Event series"},
-    {"timeConstant", "Time constant"},
-    {"timeConstantValue", "Time constant value"},
+    {"eventSeries", "The name of the event series whose events activate the elements"},
+    {"timeConstant",
+     "Whether an element becomes active at once or over the time \"timeConstantValue\""},
+    {"timeConstantValue", "The time over which an element becomes active, with SPECIFIED"},
 };
 constexpr cls_MemberDescription kKtbDescCompositeColTable[] = {
-    {"label", "Its label"},
-    {"columns", "Columns"},
+    {"label", "A free-text label of the table, shown beside its name"},
+    {"columns", "The typed columns of the table, in order"},
 };
 constexpr cls_MemberDescription kKtbDescDataColumn[] = {
-    {"id", "Id"},
-    {"label", "Its label"},
-    {"columnType", "Column type"},
-    {"column_float", "Column float"},
-    {"column_int", "Column int"},
-    {"column_str", "Column str"},
+    {"id", "The number that identifies the column in its table (what \"getColumnById\" looks up)"},
+    {"label", "The column's heading"},
+    {"columnType",
+     "The type of the values: INTEGER in \"column_int\", FLOAT in \"column_float\", STRING in "
+     "\"column_str\""},
+    {"column_float", "The values of a FLOAT column (empty for the other types)"},
+    {"column_int", "The values of an INTEGER column (empty for the other types)"},
+    {"column_str", "The values of a STRING column (empty for the other types)"},
 };
 constexpr cls_MemberDescription kKtbDescElemProgressiveActivation[] = {
-    {"elset", "Elset"},
-    {"deformation", "Deformation"},
-    {"freeSurfaceType", "Free surface type"},
-    {"activations", "Activations"},
+    {"elset", "The element set whose elements are activated progressively"},
+    {"deformation", "Whether activated elements take part in the deformation"},
+    {"freeSurfaceType",
+     "How the free surface of the active elements is tracked: from the exposed element facets, "
+     "or not at all"},
+    {"activations", "The activation records, each an event series with its time constant"},
 };
 constexpr cls_MemberDescription kKtbDescEventSeries[] = {
-    {"eventSeriesType", "Event series type"},
-    {"sourceName", "Source name"},
-    {"createStepName", "Create step name"},
-    {"timeSpan", "Time span"},
-    {"data", "Data"},
-    {"transformations", "Transformations"},
+    {"eventSeriesType", "The name of the event series type that gives the layout of the rows"},
+    {"sourceName", "The name of the source the events were read from"},
+    {"createStepName", "The step in which the series is created"},
+    {"timeSpan", "Whether the event times count from the step's start or from the analysis' start"},
+    {"data",
+     "The events (table: time, x, y, z, then the field values of the series type; one row per "
+     "event)"},
+    {"transformations", "The transformations the event positions pass through, in order"},
 };
 constexpr cls_MemberDescription kKtbDescEventSeriesType[] = {
-    {"fieldNums", "Field nums"},
+    {"fieldNums", "The number of field values each event carries after its time and position"},
 };
 constexpr cls_MemberDescription kKtbDescParameterColumn[] = {
     {"name", "Its name"},
@@ -51,33 +58,42 @@ constexpr cls_MemberDescription kKtbDescParameterColumn[] = {
     {"allowedValues", "The values the parameter may take (list, of the parameter's type)"},
 };
 constexpr cls_MemberDescription kKtbDescParameterTable[] = {
-    {"label", "Its label"},
-    {"parameters", "Parameters"},
+    {"label", "A free-text label of the table, shown beside its name"},
+    {"parameters", "The parameter columns, by name"},
 };
 constexpr cls_MemberDescription kKtbDescPropertyTable[] = {
-    {"properties", "Properties"},
-    {"parameterTable", "Parameter table"},
-    {"propertyTableDatas", "Property table datas"},
+    {"properties", "The names of the properties, in the order of the data columns"},
+    {"parameterTable",
+     "The name of the parameter table (in the same collection) whose parameters index the data"},
+    {"propertyTableDatas", "The data sets of the table, by name"},
 };
 constexpr cls_MemberDescription kKtbDescPropertyTableData[] = {
-    {"label", "Its label"},
-    {"extrapolate", "Extrapolate"},
-    {"isTemp", "Is temp"},
-    {"numOfFieldVar", "Num of field var"},
-    {"regularizeTolerance", "Regularize tolerance"},
-    {"regularizeType", "Regularize type"},
-    {"table", "Table"},
+    {"label", "A free-text label of the data set, shown beside its name"},
+    {"extrapolate",
+     "Beyond the data: the end values held (CONSTANT), the end slopes continued (LINEAR), or no "
+     "values (NONE)"},
+    {"isTemp",
+     "Whether the data depend on temperature (a temperature column follows the properties)"},
+    {"numOfFieldVar", "Number of field-variable columns after the temperature column"},
+    {"regularizeTolerance", "Tolerance with which irregular data are regularized"},
+    {"regularizeType",
+     "How the tolerance is measured: relative to the range of the data, or in the data's units"},
+    {"table",
+     "The data (table: the properties, the temperature when \"isTemp\", \"numOfFieldVar\" field "
+     "variables, then the parameters; one row per data point)"},
 };
 constexpr cls_MemberDescription kKtbDescTableCollection[] = {
-    {"parameterTables", "Parameter tables"},
-    {"propertyTables", "Property tables"},
-    {"dataTables", "Data tables"},
+    {"parameterTables", "The parameter tables of the collection, by name"},
+    {"propertyTables", "The property tables of the collection, by name"},
+    {"dataTables", "The data tables of the collection, by name"},
 };
 constexpr cls_MemberDescription kKtbDescTransformation[] = {
-    {"transformType", "Transform type"},
-    {"vector", "Vector"},
-    {"point", "Point"},
-    {"angle", "Angle (degrees)"},
+    {"transformType",
+     "What it does to the positions: nothing, a move by \"vector\", or a turn by \"angle\" about "
+     "the axis through \"point\" along \"vector\""},
+    {"vector", "The move of a translation, or the axis direction of a rotation (x, y, z)"},
+    {"point", "A point on the axis of a rotation (x, y, z)"},
+    {"angle", "The angle of a rotation (degrees)"},
 };
 constexpr cls_ClassDescription kKtbDescriptions[] = {
     {"ktbC_ActivateElem",

@@ -58,8 +58,8 @@ constexpr cls_MemberDescription kKfdDescMappedField[] = {
 };
 constexpr int kKfdCodesMappedField[] = {2, 22, 23, 24, 25};
 constexpr cls_MemberDescription kKfdDescOdbMeshRegionData[] = {
-    {"stepIndex", "Position of the step in the output database whose results are mapped (from 0)"},
-    {"frameIndex", "Position of the frame within that step (from 0)"},
+    {"stepIndex", "Position of the step in the output database whose results are mapped"},
+    {"frameIndex", "Position of the frame within that step"},
     {"odbFileName", "Output database file the results are read from"},
     {"variableLabel", "Label of the output variable that is mapped"},
     {"quantityToPlot", "Whether the field output itself or its discontinuities are read"},

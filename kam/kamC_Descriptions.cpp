@@ -1,4 +1,5 @@
 #include "kam/kamC_Descriptions.h"
+
 #include "kam/kamC_assert.h"
 
 // What the classes of the module and their members mean, by scripting name.
@@ -48,22 +49,25 @@ constexpr int kKamCodesPeriodic[] = {22, 11};
 constexpr cls_MemberDescription kKamDescPsdDefinition[] = {
     {"unitType", "Whether the density is of a base motion, of a force, or in decibels"},
     {"referencePower", "Reference power of decibel values (at least 0)"},
-    {"referenceGravityAcceleration", "Acceleration of gravity that acceleration densities given in g are scaled "
-                                     "by (at least 0)"},
+    {"referenceGravityAcceleration",
+     "Acceleration of gravity that acceleration densities given in g are scaled "
+     "by (at least 0)"},
     {"userSubroutine", "Whether a user subroutine gives the density (then the table is empty)"},
     {"dbReference", "Reference value of decibel data"},
     {"data", "The density (table: frequency, real, imaginary)"},
 };
 constexpr int kKamCodesPsdDefinition[] = {13, 14, 23, 24, 15, 25};
 constexpr cls_MemberDescription kKamDescSmoothStep[] = {
-    {"data", "Points the amplitude steps between, times not decreasing (table: time, amplitude; at least two "
-             "rows)"},
+    {"data",
+     "Points the amplitude steps between, times not decreasing (table: time, amplitude; at least "
+     "two "
+     "rows)"},
 };
 constexpr int kKamCodesSmoothStep[] = {11, 12, 0};
 constexpr cls_MemberDescription kKamDescSolutionDependent[] = {
-    {"initial", "Amplitude at the start"},
-    {"minimum", "Smallest amplitude"},
-    {"maximum", "Largest amplitude"},
+    {"initial", "Amplitude at the start (from minimum to maximum)"},
+    {"minimum", "Smallest amplitude the solution may drive it to (at most initial)"},
+    {"maximum", "Largest amplitude the solution may drive it to (at least initial)"},
 };
 constexpr int kKamCodesSolutionDependent[] = {21, 20};
 constexpr cls_MemberDescription kKamDescSpectrum[] = {
@@ -74,20 +78,24 @@ constexpr cls_MemberDescription kKamDescSpectrum[] = {
 constexpr int kKamCodesSpectrum[] = {13, 15};
 constexpr cls_MemberDescription kKamDescSpectrumAmplitude[] = {
     {"method", "Whether the spectrum is given by a table or calculated from an event amplitude"},
-    {"specificationUnits", "Quantity the spectrum gives: displacement, velocity, acceleration or acceleration in "
-                           "multiples of gravity"},
-    {"eventUnits", "Quantity the event amplitude gives: displacement, velocity, acceleration or acceleration in "
-                   "multiples of gravity"},
-    {"solution", "Whether the calculated response is the absolute value or the value relative to the base"},
+    {"specificationUnits",
+     "Quantity the spectrum gives: displacement, velocity, acceleration or acceleration in "
+     "multiples of gravity"},
+    {"eventUnits",
+     "Quantity the event amplitude gives: displacement, velocity, acceleration or acceleration in "
+     "multiples of gravity"},
+    {"solution",
+     "Whether the calculated response is the absolute value or the value relative to the base"},
     {"timeIncrement", "Time increment at which the event amplitude is integrated (CALCULATE)"},
     {"gravity", "Acceleration of gravity that values in multiples of gravity are scaled by"},
     {"criticalDamping", "Critical damping ratio of the calculation"},
-    {"data", "The spectrum (table)"},
-    {"amplitude", "Name of the event amplitude"},
+    {"data", "The spectrum, when it is given by a table (DEFINE)"},
+    {"amplitude", "Name of the event amplitude the spectrum is calculated from (CALCULATE)"},
 };
 constexpr cls_MemberDescription kKamDescTabular[] = {
     {"smooth", "Smoothing of the transitions (0 to 0.5), or \"SOLVER_DEFAULT\""},
-    {"data", "Amplitude at each time, times not decreasing (table: time, amplitude; at least two rows)"},
+    {"data",
+     "Amplitude at each time, times not decreasing (table: time, amplitude; at least two rows)"},
     {"baselineCorrection", "Baseline correction of the acceleration (optional)"},
 };
 constexpr int kKamCodesTabular[] = {2, 11, 12, 0};
@@ -97,7 +105,8 @@ constexpr cls_MemberDescription kKamDescUserAmplitude[] = {
 constexpr cls_ClassDescription kKamDescriptions[] = {
     {"kamC_ActuatorAmplitude",
      "An amplitude whose values a co-simulated actuator supplies; it has no members of its own.",
-     {}, "kamC_Amplitude"},
+     {},
+     "kamC_Amplitude"},
     {"kamC_Amplitude",
      "An amplitude: a named function of time (or frequency) that scales loads and boundary "
      "conditions.",
@@ -156,10 +165,16 @@ constexpr cls_ClassDescription kKamDescriptions[] = {
 };
 }  // namespace
 
-std::span<const cls_ClassDescription> kamC_DescriptionsTable() { return kKamDescriptions; }
+std::span<const cls_ClassDescription> kamC_DescriptionsTable() {
+  return kKamDescriptions;
+}
 
 void kamC_RegisterDescriptions() {
-  const cls_ErrorMessageFn messages = [](int code) { return kamC_ErrorMessage(static_cast<kamC_ErrorEnm>(code)); };
+  const cls_ErrorMessageFn messages = [](int code) {
+    return kamC_ErrorMessage(static_cast<kamC_ErrorEnm>(code));
+  };
   cls_RegisterDescriptions("kam", kamC_DescriptionsTable(), messages);
 }
-void kamC_UnregisterDescriptions() { cls_UnregisterDescriptions("kam"); }
+void kamC_UnregisterDescriptions() {
+  cls_UnregisterDescriptions("kam");
+}

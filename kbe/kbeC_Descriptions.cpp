@@ -107,7 +107,7 @@ constexpr cls_MemberDescription kKbeDescConnectorFriction[] = {
      "on none"},
     {"slipDependency", "Whether the friction data depend on accumulated slip (adds a slip column)"},
     {"useContactForceComponent",
-     "Whether a contact-force component adds to the internal contact force"},
+     "Whether a connector component (contactForceComponent) supplies the contact force"},
     {"contactForceStyle",
      "Whether the contact-force component is given by number or as a derived component"},
     {"contactForceComponent", "Component that carries the contact force (1 to 6)"},

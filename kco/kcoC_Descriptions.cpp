@@ -28,9 +28,7 @@ constexpr cls_MemberDescription kKcoDescCoupling[] = {
     {"weightingMethod",
      "How the weights of the coupling nodes fall off with their distance from the reference "
      "point"},
-    {"couplingNodes",
-     "Nodes that take part in the coupling (empty: those of the surface within the influence "
-     "radius)"},
+    {"couplingNodes", "Nodes of the surface that take part in the coupling"},
     {"adjust", "Whether the reference point is moved onto the surface"},
     {"alpha", "Thermal expansion coefficient of the coupling"},
     {"rotationalCouplingType", "Whether the rotations couple as a continuum or as a structure"},

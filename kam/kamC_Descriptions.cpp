@@ -1,4 +1,5 @@
 #include "kam/kamC_Descriptions.h"
+
 #include "kam/kamC_assert.h"
 
 // What the classes of the module and their members mean, by scripting name.
@@ -29,7 +30,7 @@ constexpr cls_MemberDescription kKamDescEquallySpaced[] = {
     {"data", "The amplitude values, one per interval (list)"},
     {"baselineCorrection", "Baseline correction of the acceleration (optional)"},
 };
-constexpr int kKamCodesEquallySpaced[] = {9, 12};
+constexpr int kKamCodesEquallySpaced[] = {2, 9, 12};
 constexpr cls_MemberDescription kKamDescModulated[] = {
     {"initial", "Constant amplitude A0"},
     {"magnitude", "Amplitude A of the modulated term"},
@@ -48,19 +49,25 @@ constexpr int kKamCodesPeriodic[] = {22, 11};
 constexpr cls_MemberDescription kKamDescPsdDefinition[] = {
     {"unitType", "Whether the density is of a base motion, of a force, or in decibels"},
     {"referencePower", "Reference power of decibel values (at least 0)"},
-    {"referenceGravityAcceleration", "Reference gravity acceleration (at least 0)"},
+    {"referenceGravityAcceleration",
+     "Acceleration of gravity that acceleration densities given in g are scaled "
+     "by (at least 0)"},
     {"userSubroutine", "Whether a user subroutine gives the density (then the table is empty)"},
     {"dbReference", "Reference value of decibel data"},
     {"data", "The density (table: frequency, real, imaginary)"},
 };
 constexpr int kKamCodesPsdDefinition[] = {13, 14, 23, 24, 15, 25};
 constexpr cls_MemberDescription kKamDescSmoothStep[] = {
-    {"data", "Data (table: time, amplitude)"},
+    {"data",
+     "Points the amplitude steps between, times not decreasing (table: time, amplitude; at least "
+     "two "
+     "rows)"},
 };
+constexpr int kKamCodesSmoothStep[] = {11, 12, 0};
 constexpr cls_MemberDescription kKamDescSolutionDependent[] = {
-    {"initial", "Amplitude at the start"},
-    {"minimum", "Smallest amplitude"},
-    {"maximum", "Largest amplitude"},
+    {"initial", "Amplitude at the start (from minimum to maximum)"},
+    {"minimum", "Smallest amplitude the solution may drive it to (at most initial)"},
+    {"maximum", "Largest amplitude the solution may drive it to (at least initial)"},
 };
 constexpr int kKamCodesSolutionDependent[] = {21, 20};
 constexpr cls_MemberDescription kKamDescSpectrum[] = {
@@ -71,27 +78,35 @@ constexpr cls_MemberDescription kKamDescSpectrum[] = {
 constexpr int kKamCodesSpectrum[] = {13, 15};
 constexpr cls_MemberDescription kKamDescSpectrumAmplitude[] = {
     {"method", "Whether the spectrum is given by a table or calculated from an event amplitude"},
-    {"specificationUnits", "Units of the spectrum"},
-    {"eventUnits", "Units of the event amplitude"},
-    {"solution", "Whether the response is absolute or relative"},
-    {"timeIncrement", "Time increment of the calculation"},
-    {"gravity", "Acceleration of gravity"},
+    {"specificationUnits",
+     "Quantity the spectrum gives: displacement, velocity, acceleration or acceleration in "
+     "multiples of gravity"},
+    {"eventUnits",
+     "Quantity the event amplitude gives: displacement, velocity, acceleration or acceleration in "
+     "multiples of gravity"},
+    {"solution",
+     "Whether the calculated response is the absolute value or the value relative to the base"},
+    {"timeIncrement", "Time increment at which the event amplitude is integrated (CALCULATE)"},
+    {"gravity", "Acceleration of gravity that values in multiples of gravity are scaled by"},
     {"criticalDamping", "Critical damping ratio of the calculation"},
-    {"data", "The spectrum (table)"},
-    {"amplitude", "Name of the event amplitude"},
+    {"data", "The spectrum, when it is given by a table (DEFINE)"},
+    {"amplitude", "Name of the event amplitude the spectrum is calculated from (CALCULATE)"},
 };
 constexpr cls_MemberDescription kKamDescTabular[] = {
     {"smooth", "Smoothing of the transitions (0 to 0.5), or \"SOLVER_DEFAULT\""},
-    {"data", "Data (table: time, amplitude)"},
+    {"data",
+     "Amplitude at each time, times not decreasing (table: time, amplitude; at least two rows)"},
     {"baselineCorrection", "Baseline correction of the acceleration (optional)"},
 };
+constexpr int kKamCodesTabular[] = {2, 11, 12, 0};
 constexpr cls_MemberDescription kKamDescUserAmplitude[] = {
     {"numVariables", "Number of solution variables the user subroutine keeps"},
 };
 constexpr cls_ClassDescription kKamDescriptions[] = {
     {"kamC_ActuatorAmplitude",
      "An amplitude whose values a co-simulated actuator supplies; it has no members of its own.",
-     {}, "kamC_Amplitude"},
+     {},
+     "kamC_Amplitude"},
     {"kamC_Amplitude",
      "An amplitude: a named function of time (or frequency) that scales loads and boundary "
      "conditions.",
@@ -127,7 +142,7 @@ constexpr cls_ClassDescription kKamDescriptions[] = {
     {"kamC_SmoothStep",
      "An amplitude that ramps between (time, amplitude) points with a smooth step, so that its "
      "first and second derivatives vanish at every point.",
-     kKamDescSmoothStep, "kamC_Amplitude"},
+     kKamDescSmoothStep, "kamC_Amplitude", kKamCodesSmoothStep},
     {"kamC_SolutionDependent",
      "An amplitude that the solution drives between a minimum and a maximum, starting from "
      "initial.",
@@ -143,17 +158,23 @@ constexpr cls_ClassDescription kKamDescriptions[] = {
     {"kamC_Tabular",
      "An amplitude given as a table of (time, amplitude) pairs, optionally smoothed and baseline "
      "corrected.",
-     kKamDescTabular, "kamC_Amplitude"},
+     kKamDescTabular, "kamC_Amplitude", kKamCodesTabular},
     {"kamC_UserAmplitude",
      "An amplitude computed by a user subroutine with a number of solution-dependent variables.",
      kKamDescUserAmplitude, "kamC_Amplitude"},
 };
 }  // namespace
 
-std::span<const cls_ClassDescription> kamC_DescriptionsTable() { return kKamDescriptions; }
+std::span<const cls_ClassDescription> kamC_DescriptionsTable() {
+  return kKamDescriptions;
+}
 
 void kamC_RegisterDescriptions() {
-  const cls_ErrorMessageFn messages = [](int code) { return kamC_ErrorMessage(static_cast<kamC_ErrorEnm>(code)); };
+  const cls_ErrorMessageFn messages = [](int code) {
+    return kamC_ErrorMessage(static_cast<kamC_ErrorEnm>(code));
+  };
   cls_RegisterDescriptions("kam", kamC_DescriptionsTable(), messages);
 }
-void kamC_UnregisterDescriptions() { cls_UnregisterDescriptions("kam"); }
+void kamC_UnregisterDescriptions() {
+  cls_UnregisterDescriptions("kam");
+}

@@ -61,7 +61,8 @@ TEST(Descriptions, MembersByScriptingNameWithUnitsAndLayouts) {
   const Case cases[] = {
       // under the scripting name, not the persistent one ("advection")
       {"AdaptiveMeshControl", "initialFeatureAngle", "Feature angle of the initial geometry (degrees, 0 to 180)"},
-      {"TabularAmplitude", "data", "Data (table: time, amplitude)"},
+      {"TabularAmplitude", "data",
+       "Amplitude at each time, times not decreasing (table: time, amplitude; at least two rows)"},
       // inherited from the amplitude base, described there once
       {"TabularAmplitude", "timeSpan", "Whether times count from the step's start or from the analysis' start"},
       {"DecayAmplitude", "timeSpan", "Whether times count from the step's start or from the analysis' start"},

@@ -219,7 +219,8 @@ def test_dir_and_docstrings_list_members_types_and_literals():
     assert '"STEP", "TOTAL"' in doc
     assert "    baselineCorrection: BaselineCorrection or None\n" in doc
     assert ("    data: table (a list of rows of floats) = [[0.0, 0.0], [1.0, 1.0]]\n"
-            "        Data (table: time, amplitude)\n") in doc
+            "        Amplitude at each time, times not decreasing"
+            " (table: time, amplitude; at least two rows)\n") in doc
     assert qa.CircularProfile.__doc__.startswith("CircularProfile(**members)\n\nA solid circle of radius r.\n\n")
     assert '"THIN_WALL", "THICK_WALL"' in qa.PipeProfile.__doc__
 

@@ -177,5 +177,6 @@ def test_every_definition_is_described(schema):
     missing = [f"{name}.{member}" for name, d in schema["$defs"].items()
                for member, m in d.get("properties", {}).items() if not m.get("description")]
     assert missing == []
-    assert schema["$defs"]["TabularAmplitude"]["properties"]["data"]["description"] == "Data (table: time, amplitude)"
+    assert schema["$defs"]["TabularAmplitude"]["properties"]["data"]["description"] == (
+        "Amplitude at each time, times not decreasing (table: time, amplitude; at least two rows)")
     assert all(op.get("description") for op in schema["oneOf"])

@@ -1,11 +1,57 @@
 #include "command/cmd_Check.h"
 
 #include <exception>
+#include <string_view>
+#include <variant>
+#include <vector>
 
+#include "command/cmd_Json.h"
 #include "platform/base/QMXBasException.h"
 #include "platform/model/ddr_Database.h"
 #include "platform/model/ddr_Model.h"
 #include "platform/model/mdl_Repository.h"
+#include "platform/persist/cls_Family.h"
+#include "platform/persist/cls_Record.h"
+#include "platform/persist/cls_Value.h"
+
+namespace {
+
+// Whether validating one object raises exactly the failure given (kind, message and position).
+bool cmd_RaisesSame(const void* obj, const cls_ClassMetadata& md, const QMXBasException& failure) {
+  try {
+    md.AssertValid(obj);
+  } catch (const QMXBasException& e) {
+    return std::string_view(e.Kind()) == failure.Kind() && e.Message() == failure.Message() &&
+           std::string_view(e.File()) == failure.File() && e.Line() == failure.Line();
+  } catch (const std::exception&) {
+  }
+  return false;
+}
+
+}  // namespace
+
+std::string cmd_FailingMember(const void* obj, const cls_ClassMetadata& md, const QMXBasException& failure) {
+  for (const cls_ScriptField& f : md.ScriptFields()) {
+    if (f.type == cls_AttrObject && f.declared) {
+      const void* child = f.child(obj);
+      if (!child) continue;
+      const cls_ClassMetadata& cm = f.declared->ClassOf(child);
+      // A container's elements are validated on their own, with their own paths.
+      if (cm.AsRepository(child)) continue;
+      if (cmd_RaisesSame(child, cm, failure)) return f.scriptName;
+    } else if (f.type == cls_AttrObjectList) {
+      // The list holds records: each element is made again to be validated.
+      const cls_Value list = f.get(obj);
+      for (const cls_RecordPtr& record : std::get<std::vector<cls_RecordPtr>>(list)) {
+        if (!record) continue;
+        const cls_ClassMetadata& em = cls_MetadataOf(record->typeId);
+        const cmd_OwnedObject element(em.NewFromRecord(cls_RecordReader(*record)), cmd_ObjectDeleter{&em});
+        if (cmd_RaisesSame(element.get(), em, failure)) return f.scriptName;
+      }
+    }
+  }
+  return {};
+}
 
 void cmd_Checker::CheckDatabase(const ddr_Database& db) {
   for (const auto& [name, model] : db.GetModels()) Model({name}, model.Get());
@@ -69,7 +115,7 @@ void cmd_Checker::Element(const cmd_Path& parent, const cow_String& key, const v
   try {
     md.AssertValid(obj);
   } catch (const QMXBasException& e) {
-    failures_.push_back(cmd_Failure{pathOf(), e.Kind(), e.Message(), e.File(), e.Line()});
+    failures_.push_back(cmd_Failure{pathOf(), e.Kind(), e.Message(), e.File(), e.Line(), cmd_FailingMember(obj, md, e)});
   } catch (const std::exception& e) {
     failures_.push_back(cmd_Failure{pathOf(), "Error", e.what(), "", 0});
   }

@@ -15,7 +15,17 @@ struct cmd_Failure {
   std::string message;
   std::string file;
   int line = 0;
+  // The scripting name of the member whose object raised the failure; empty when the failure is
+  // a rule of the object itself.
+  std::string member{};
 };
+
+class QMXBasException;
+
+// The member of `obj` (an instance of `md`) whose object, or an element of whose list of objects,
+// fails its own validation with exactly `failure`; empty when none does (the failure is a rule of
+// the object itself). Asked only after a failure, so it may validate the member objects again.
+std::string cmd_FailingMember(const void* obj, const cls_ClassMetadata& md, const QMXBasException& failure);
 
 class cmd_Checker {
  public:

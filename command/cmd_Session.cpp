@@ -166,10 +166,12 @@ cmd_Json cmd_Session::Execute(const cmd_Json& command, std::size_t number) {
     const cmd_Failure& first = v.failures.front();
     error = ErrorOf(first.kind, first.message, first.file, first.line);
     error["path"] = cmd_PathJson(first.path);
+    if (!first.member.empty()) error["member"] = first.member;
     error["failures"] = cmd_Json::array();
     for (const auto& f : v.failures) {
       cmd_Json one = ErrorOf(f.kind, f.message, f.file, f.line);
       one["path"] = cmd_PathJson(f.path);
+      if (!f.member.empty()) one["member"] = f.member;
       error["failures"].push_back(std::move(one));
     }
     if (!v.warnings.empty()) error["warnings"] = cmd_WarningsJson(v.warnings);

@@ -29,6 +29,8 @@ void BindObject(py::module_& m) {
            [](py::handle handle, Utf8 name) { return GetMember(handle, handle.cast<const Object&>(), name); })
       .def("_value", [](const Object& self, Utf8 name) { return MemberValue(self, name); },
            "A member's value as plain data, as it is now.")
+      .def("_element", [](const Object& self, Utf8 name, Py_ssize_t index) { return ListElement(self, name, index); },
+           "An element of a list of objects, as it is now.")
       .def("__setitem__",
            [](const Object& self, Utf8 name, py::handle value) { SetMember(self, name, value); })
       .def("__dir__", [](py::handle self) { return Dir(self, Members(ClassOf(self.cast<const Object&>()))); })

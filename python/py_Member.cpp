@@ -22,6 +22,16 @@ py::object& ListViewClass() {
   return *cls;
 }
 
+py::object& ObjectListViewClass() {
+  static py::object* cls = new py::object();
+  return *cls;
+}
+
+py::object& TableViewClass() {
+  static py::object* cls = new py::object();
+  return *cls;
+}
+
 namespace {
 
 bool HoldsList(int type) {
@@ -38,6 +48,8 @@ bool HoldsList(int type) {
 }
 
 py::object ListView(py::handle owner, const char* member) { return ListViewClass()(owner, member); }
+py::object ObjectListView(py::handle owner, const char* member) { return ObjectListViewClass()(owner, member); }
+py::object TableView(py::handle owner, const char* member) { return TableViewClass()(owner, member); }
 
 }  // namespace
 
@@ -86,32 +98,20 @@ bool Direct(const cls_ScriptField& f, py::handle value, cls_Value& out) {
 
 namespace {
 
-// The elements of a list of objects: views of the model's elements, or for a detached object
-// frozen copies (the list holds records, so a change to a copy could not reach it).
-py::tuple ObjectList(const Object& o, const std::string& name, const std::vector<cls_RecordPtr>& list) {
-  py::tuple out(list.size());
-  for (std::size_t i = 0; i < list.size(); ++i) {
-    if (!list[i]) {
-      out[i] = py::none();
-      continue;
-    }
-    const cls_ClassMetadata& em = cls_MetadataOf(list[i]->typeId);
-    if (o.root) {
-      Object copy;
-      copy.root = std::make_shared<Root>(&em, em.NewFromRecord(cls_RecordReader(*list[i])));
-      copy.frozen = true;
-      out[i] = Wrap(em, std::move(copy));
-    } else {
-      out[i] = Wrap(em, Object{o.session, nullptr, Append(Append(o.path, name), std::to_string(i))});
-    }
-  }
+// The list a member of lists of objects holds now.
+std::vector<cls_RecordPtr> ObjectRecords(const Object& o, const cls_ScriptField& f) {
+  if (o.root) return std::get<std::vector<cls_RecordPtr>>(f.get(Resolve(o, false).obj));
+  std::vector<cls_RecordPtr> out;
+  cmd_WalkConst(o.session->Database(), Append(o.path, f.scriptName), [&](const cmd_Node& n) {
+    if (n.kind == cmd_Node::kMember) out = std::get<std::vector<cls_RecordPtr>>(n.field->get(n.owner));
+  });
   return out;
 }
 
 // An object inside an object: a table shorthand reads as its rows, a container as a repository.
 py::object Inner(const cls_ClassMetadata& cm, Object child, bool container) {
   if (container) return py::cast(Repository{child.session, std::move(child.path), child.root, child.frozen});
-  if (const cls_ScriptField* t = cmd_TableShorthand(cm)) return ListView(Wrap(cm, std::move(child)), t->scriptName);
+  if (const cls_ScriptField* t = cmd_TableShorthand(cm)) return TableView(Wrap(cm, std::move(child)), t->scriptName);
   return Wrap(cm, std::move(child));
 }
 
@@ -121,6 +121,7 @@ py::object GetMember(py::handle self, const Object& o, const std::string& name) 
   const cls_ClassMetadata& md = ClassOf(o);
   const cls_ScriptField& f = FieldOf(md, name);
   if (HoldsList(f.type)) return ListView(self, f.scriptName);
+  if (f.type == cls_AttrObjectList) return ObjectListView(self, f.scriptName);
   if (o.root) {
     return Guarded([&]() -> py::object {
       Found at = Resolve(o, false);
@@ -132,7 +133,6 @@ py::object GetMember(py::handle self, const Object& o, const std::string& name) 
         const cls_ClassMetadata& cm = f.declared->ClassOf(child);
         return Inner(cm, Object{nullptr, o.root, Append(o.path, name), o.frozen}, cm.AsRepository(child) != nullptr);
       }
-      if (f.type == cls_AttrObjectList) return ObjectList(o, name, std::get<std::vector<cls_RecordPtr>>(f.get(at.obj)));
       return Scalar(f.get(at.obj));
     });
   }
@@ -145,8 +145,6 @@ py::object GetMember(py::handle self, const Object& o, const std::string& name) 
         case cmd_Node::kRepository: result = py::cast(Repository{o.session, path}); break;
         case cmd_Node::kMember:
           if (n.field->type == cls_AttrObject) result = py::none();  // an empty optional member
-          else if (n.field->type == cls_AttrObjectList)
-            result = ObjectList(o, name, std::get<std::vector<cls_RecordPtr>>(n.field->get(n.owner)));
           else result = Scalar(n.field->get(n.owner));
           break;
         default: break;
@@ -154,6 +152,28 @@ py::object GetMember(py::handle self, const Object& o, const std::string& name) 
     });
   });
   return result;
+}
+
+py::object ListElement(const Object& o, const std::string& name, Py_ssize_t index) {
+  const cls_ClassMetadata& md = ClassOf(o);
+  const cls_ScriptField& f = FieldOf(md, name);
+  if (f.type != cls_AttrObjectList)
+    Raise("CmdException", "The member \"" + name + "\" of " + cmd_ClassLabel(md) + " holds no list of objects",
+          "py_Member.cpp", __LINE__, nullptr, nullptr, cmd_Json(name));
+  const std::vector<cls_RecordPtr> list = Guarded([&] { return ObjectRecords(o, f); });
+  const auto size = static_cast<Py_ssize_t>(list.size());
+  if (index < 0) index += size;
+  if (index < 0 || index >= size) throw py::index_error("list index out of range");
+  const cls_RecordPtr& record = list[static_cast<std::size_t>(index)];
+  if (!record) return py::none();
+  const cls_ClassMetadata& em = cls_MetadataOf(record->typeId);
+  if (!o.root) return Wrap(em, Object{o.session, nullptr, Append(Append(o.path, name), std::to_string(index))});
+  // The list of a detached object holds records: its element is a copy, frozen so that a change
+  // to it is refused rather than lost.
+  Object copy;
+  copy.root = Guarded([&] { return std::make_shared<Root>(&em, em.NewFromRecord(cls_RecordReader(*record))); });
+  copy.frozen = true;
+  return Wrap(em, std::move(copy));
 }
 
 py::object MemberValue(const Object& o, const std::string& name) {

@@ -30,7 +30,11 @@ PYBIND11_MODULE(_core, m) {
     Classes()[py::str(ctor)] = cls;
     py::setattr(cls, "__init__", FastInitFor(cls, *md));
   });
-  m.def("_register_list_view", [](py::object cls) { ListViewClass() = std::move(cls); });
+  m.def("_register_list_view", [](py::object cls, py::object objects, py::object table) {
+    ListViewClass() = std::move(cls);
+    ObjectListViewClass() = std::move(objects);
+    TableViewClass() = std::move(table);
+  });
   m.def("_from_dict",
         [](const py::dict& value) {
           // An object from its plain data, constructor name included (what to_dict() gives).

@@ -99,7 +99,13 @@ py::object Validate(const Object& o) {
   if (Live(o).root) {
     Guarded([&] {
       Found at = Resolve(o, false);
-      at.md->AssertValid(at.obj);
+      try {
+        at.md->AssertValid(at.obj);
+      } catch (const QMXBasException& e) {
+        // The member whose object raised it, as a validation in a model names it.
+        const std::string member = cmd_FailingMember(at.obj, *at.md, e);
+        Raise(e.Kind(), e.Message(), e.File(), e.Line(), nullptr, nullptr, member.empty() ? cmd_Json() : cmd_Json(member));
+      }
     });
     return py::none();
   }
@@ -129,11 +135,27 @@ bool IsObject(py::handle value) { return py::isinstance<Object>(value); }
 
 cmd_Json ObjectJson(py::handle value) { return ObjectToJson(value.cast<const Object&>()); }
 
+namespace {
+
+// The warnings as dicts of path, member, code and message; a warning about the object as a whole
+// has no member (None), as an error that concerns no member has none.
+py::list WarningList(const std::vector<cmd_Warning>& warnings) {
+  py::list out;
+  for (const cmd_Json& w : cmd_WarningsJson(warnings)) {
+    py::dict one = FromJson(w);
+    if (w["member"] == "") one["member"] = py::none();
+    out.append(std::move(one));
+  }
+  return out;
+}
+
+}  // namespace
+
 py::object Advise(cmd_Session& s, const cmd_Path& path) {
   return Guarded([&] {
     cmd_Adviser adviser;
     adviser.AdvisePath(s.Database(), path);
-    return FromJson(cmd_WarningsJson(adviser.Warnings()));
+    return WarningList(adviser.Warnings());
   });
 }
 
@@ -146,7 +168,7 @@ py::object AdviseObject(const Object& o) {
     Found at = Resolve(o, false);
     cmd_Adviser adviser;
     adviser.AdviseObject(at.obj, *at.md);
-    return FromJson(cmd_WarningsJson(adviser.Warnings()));
+    return WarningList(adviser.Warnings());
   });
 }
 

@@ -104,6 +104,13 @@ py::object MemberValue(const Object& o, const std::string& name);
 // Refuses a change to a frozen object (a copy of an element of a list of objects).
 [[noreturn]] void RefuseFrozen(const std::string& name);
 py::object& ListViewClass();
+// The views of a list of objects and of a table held by an object of its own (its rows, with the
+// table object's other members as attributes), registered by the package as ListView is.
+py::object& ObjectListViewClass();
+py::object& TableViewClass();
+// Element `index` (counted from the end when negative) of a list of objects: a view of the
+// model's element, or for a detached object a frozen copy; IndexError outside the list.
+py::object ListElement(const Object& o, const std::string& name, Py_ssize_t index);
 // The property of a member on its constructor's class, read without Python's failed attribute
 // lookup first: detached objects of that class read single values through the class metadata
 // directly; everything else as GetMember.

@@ -16,14 +16,15 @@ from ._core import (Database, Model, Repository, Object, Error, ValidationError,
                     MemberError, NotFoundError, KeywordError, constructors)
 
 __all__ = ["Database", "Model", "Repository", "Object", "Error", "ValidationError", "CommandError",
-           "MemberError", "NotFoundError", "KeywordError", "ListView", "constructors", "__version__"]
+           "MemberError", "NotFoundError", "KeywordError", "ListView", "ObjectListView", "TableView",
+           "constructors", "__version__"]
 
 
 from ._version import __version__
-from ._views import ListView
+from ._views import ListView, ObjectListView, TableView
 from . import _surface
 
-_core._register_list_view(ListView)
+_core._register_list_view(ListView, ObjectListView, TableView)
 _surface.install()
 
 

@@ -75,3 +75,69 @@ def test_errors_of_a_model_carry_the_member():
     with pytest.raises(KeyError):
         db["M"].profiles["Q"]
     assert p.r == 1.0
+
+
+ZERO_ROW = "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s)."
+BAD_COMPONENT = "Specified components must be between 1 and 6."
+
+
+def model_with_member_failures():
+    """A material whose elastic option fails, a connector section whose second behavior option
+    fails, a profile failing a rule of its own, and an amplitude failing one of its own."""
+    db = qa.Database()
+    m = db.create_model("M")
+    m.materials["Steel"] = qa.Material(elastic=qa.Elastic(table=[[0.0, 0.0]]))
+    m.connectorSections["Bushing"] = qa.ConnectorSection(behaviorOptions=[
+        qa.ConnectorElasticity(components=[1], table=[[1.0]]), qa.ConnectorElasticity(components=[7], table=[[1.0]])])
+    m.profiles["Rod"] = qa.CircularProfile(r=-1.0)
+    m.amplitudes["Short"] = qa.TabularAmplitude(data=[[0.0, 0.0]])
+    return db, m
+
+
+# (path, member): the member whose object raised the failure; None where the rule is the object's own.
+MEMBER_FAILURES = [
+    (["M", "amplitudes", "Short"], None),
+    (["M", "connectorSections", "Bushing"], "behaviorOptions"),
+    (["M", "materials", "Steel"], "elastic"),
+    (["M", "profiles", "Rod"], None),
+]
+
+
+@pytest.mark.parametrize("scope", ["database", "model"])
+def test_each_failure_names_the_member_whose_object_failed(scope):
+    db, m = model_with_member_failures()
+    with pytest.raises(qa.ValidationError) as e:
+        (db if scope == "database" else m).validate()
+    got = sorted((f["path"], f["member"]) for f in e.value.failures)
+    assert got == MEMBER_FAILURES
+    first = e.value.failures[0]
+    assert (e.value.path, e.value.member) == (first["path"], first["member"])
+    # The tool's answer carries the same member, and none where the rule is the object's own.
+    r = db.execute({"op": "validate", "path": []})
+    assert sorted((f["path"], f.get("member")) for f in r["error"]["failures"]) == MEMBER_FAILURES
+    messages = {tuple(f["path"]): f["message"] for f in e.value.failures}
+    assert messages[("M", "materials", "Steel")] == ZERO_ROW
+    assert messages[("M", "connectorSections", "Bushing")] == BAD_COMPONENT
+
+
+@pytest.mark.parametrize("make,member,message", [
+    (lambda: qa.Material(elastic=qa.Elastic(table=[[0.0, 0.0]])), "elastic", ZERO_ROW),
+    (lambda: qa.Elastic(table=[[0.0, 0.0]]), "table", ZERO_ROW),
+    (lambda: qa.ConnectorSection(behaviorOptions=[qa.ConnectorElasticity(components=[7], table=[[1.0]])]),
+     "behaviorOptions", BAD_COMPONENT),
+    (lambda: qa.CircularProfile(r=-1.0), None, "The radius must be greater than zero."),
+])
+def test_an_object_names_the_failing_member_bound_or_detached(make, member, message):
+    obj = make()
+    with pytest.raises(qa.ValidationError) as e:
+        obj.validate()
+    assert (e.value.message, e.value.member) == (message, member)
+    # The same object in a model: the same message and member, with the object's path.
+    repository = {"Material": "materials", "ConnectorSection": "connectorSections", "CircularProfile": "profiles"}
+    if obj.type_name in repository:
+        m = qa.Database().create_model("M")
+        m[repository[obj.type_name]]["X"] = obj
+        with pytest.raises(qa.ValidationError) as bound:
+            m[repository[obj.type_name]]["X"].validate()
+        assert (bound.value.message, bound.value.member) == (message, member)
+        assert bound.value.path == ["M", repository[obj.type_name], "X"]

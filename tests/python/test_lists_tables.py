@@ -116,21 +116,109 @@ def test_material_tables_read_as_their_rows(db):
     assert detached.table == [[70000.0, 0.34]] and detached.to_dict()["table"] == [[70000.0, 0.34]]
 
 
-def test_lists_of_objects_are_tuples_whose_elements_apply_or_refuse():
-    o = qa.ObjectiveFunction(objectives=[qa.Objective(designResponse="E", weight=1.0)])
-    assert isinstance(o.objectives, tuple)
-    with pytest.raises(AttributeError):
-        o.objectives.append(qa.Objective())
+def objective(response, weight=1.0):
+    return qa.Objective(designResponse=response, weight=weight)
+
+
+def responses(function):
+    return [o["designResponse"] for o in function.to_dict()["objectives"]]
+
+
+def function_in_a_model():
+    db = qa.Database()
+    task = qa.TopologyTask()
+    task.objectiveFunctions["F"] = qa.ObjectiveFunction(objectives=[objective("A"), objective("B")])
+    db.create_model("M").optimizationTasks["T"] = task
+    return db, db["M"].optimizationTasks["T"].objectiveFunctions["F"]
+
+
+def function_detached():
+    return None, qa.ObjectiveFunction(objectives=[objective("A"), objective("B")])
+
+
+# (edit of the list, responses after it): each applied to a list in a model and in a detached object.
+OBJECT_LIST_EDITS = [
+    (lambda lst: lst.append(objective("C")), ["A", "B", "C"]),
+    (lambda lst: lst.insert(0, objective("C")), ["C", "A", "B"]),
+    (lambda lst: lst.__delitem__(0), ["B"]),
+    (lambda lst: lst.__delitem__(slice(None)), []),
+    (lambda lst: lst.__setitem__(-1, objective("C")), ["A", "C"]),
+    (lambda lst: lst.__setitem__(slice(0, 1), [objective("C"), objective("D")]), ["C", "D", "B"]),
+    (lambda lst: lst.extend([objective("C")]), ["A", "B", "C"]),
+    (lambda lst: lst.reverse(), ["B", "A"]),
+    (lambda lst: lst.sort(key=lambda o: o.designResponse, reverse=True), ["B", "A"]),
+    (lambda lst: lst.remove(objective("A")), ["B"]),
+    (lambda lst: lst.__iadd__([objective("C")]), ["A", "B", "C"]),
+]
+
+
+@pytest.mark.parametrize("where", [function_in_a_model, function_detached])
+@pytest.mark.parametrize("edit,after", OBJECT_LIST_EDITS)
+def test_a_list_of_objects_is_edited_in_place(where, edit, after):
+    db, f = where()
+    edit(f.objectives)
+    assert responses(f) == after
+    assert [o.designResponse for o in f.objectives] == after
+    if db is not None:
+        stored_list = stored(db, "M", "optimizationTasks", "T", "objectiveFunctions", "F", "objectives")
+        assert [o["designResponse"] for o in stored_list] == after
+
+
+@pytest.mark.parametrize("where", [function_in_a_model, function_detached])
+def test_a_list_of_objects_reads_as_its_elements(where):
+    _, f = where()
+    objectives = f.objectives
+    assert isinstance(objectives, qa.ObjectListView) and len(objectives) == 2
+    assert objectives == [objective("A"), objective("B")] and objectives != [objective("B"), objective("A")]
+    assert objectives[-1].designResponse == "B" and objective("B") in objectives
+    assert repr(objectives) == "[Objective(designResponse='A'), Objective(designResponse='B')]"
+    with pytest.raises(IndexError):
+        objectives[2]
+    # A slice, copy() and pop() give detached copies.
+    part = objectives[1:]
+    assert [o.detached for o in part] == [True] and part == [objective("B")]
+    popped = objectives.pop(0)
+    assert popped.detached and popped == objective("A") and responses(f) == ["B"]
+    plain = objectives.copy()
+    plain[0].weight = 5.0
+    assert type(plain) is list and objectives[0].weight == 1.0
+
+
+@pytest.mark.parametrize("where", [function_in_a_model, function_detached])
+def test_a_refused_list_edit_raises_and_changes_nothing(where):
+    _, f = where()
     with pytest.raises(qa.CommandError) as e:
-        o.objectives[0].weight = 2.0  # a copy of the element: refused rather than lost
+        f.objectives.append(qa.CircularProfile(r=1.0))  # not an objective
+    assert e.value.message == "CircularProfile cannot stand where Objective is expected"
+    assert e.value.member == "2"  # the position of the refused element in the list
+    with pytest.raises(qa.CommandError) as e:
+        f.objectives.append(3.0)
+    assert e.value.message == ('The member "objectives" of ObjectiveFunction takes an array of objects, '
+                               'not the number 3.0 at element 2')
+    with pytest.raises(ValueError):
+        f.objectives.remove(objective("Z"))
+    assert responses(f) == ["A", "B"]
+
+
+def test_an_element_of_a_detached_list_refuses_a_change_and_is_replaced_instead():
+    _, f = function_detached()
+    with pytest.raises(qa.CommandError) as e:
+        f.objectives[0].weight = 2.0  # a copy of the element: refused rather than lost
     assert e.value.message == ('An element of a list of objects inside a detached object is a copy; set the whole '
                                'list (or put the object into a model first) to change "weight"')
     assert e.value.member == "weight"
-    assert o.objectives[0].weight == 1.0
-    changed = o.objectives[0].copy()
+    changed = f.objectives[0].copy()
     changed.weight = 2.0
-    o.objectives = [changed]
-    assert o.objectives[0].weight == 2.0
+    f.objectives[0] = changed
+    assert [o.weight for o in f.objectives] == [2.0, 1.0]
+
+
+def test_a_list_of_objects_survives_save_and_reopen(workdir):
+    db, f = function_in_a_model()
+    f.objectives.insert(1, objective("C", 3.0))
+    db.save(workdir / "objectives.odb")
+    back = qa.Database.open(workdir / "objectives.odb")["M"].optimizationTasks["T"].objectiveFunctions["F"]
+    assert back.objectives == [objective("A"), objective("C", 3.0), objective("B")]
 
 
 def test_elements_of_lists_of_objects_in_a_model_change_in_place():
@@ -158,3 +246,43 @@ def test_the_engineers_script_keeps_every_edit_in_place(workdir):
     assert m.amplitudes["Ramp"].data == [[0.0, 0.0], [1.0, 0.9]]
     assert m.connectorSections["Bushing"].behaviorOptions[0].table == [[25000.0, 25000.0, 90000.0]]
     assert list(m.amplitudes) == ["Ramp"]
+
+
+@pytest.mark.parametrize("where", ["model", "detached"])
+def test_a_table_flag_is_an_attribute_of_the_table_and_round_trips(where, workdir):
+    rows = [[0.0, 0.0], [210000.0, 0.3]]
+    elastic = qa.Elastic(table=rows)
+    db = qa.Database()
+    m = db.create_model("M")
+    if where == "model":
+        m.materials["Steel"] = qa.Material(elastic=elastic)
+        elastic = m.materials["Steel"].elastic
+    table = elastic.table
+    assert isinstance(table, qa.TableView) and table == rows
+    assert table.allowEmptyFirstRow is False and table.members() == ["allowEmptyFirstRow"]
+    assert "allowEmptyFirstRow" in dir(table)
+    with pytest.raises(qa.ValidationError) as e:
+        elastic.validate()
+    assert e.value.member == "table"
+    table.allowEmptyFirstRow = True
+    assert elastic.table.allowEmptyFirstRow is True and elastic.table == rows
+    elastic.validate()  # the first row may now be all zeros
+    assert elastic.to_dict()["table"] == {"table": rows, "allowEmptyFirstRow": True}
+    # Setting the rows keeps the flag; the flag refuses what is no boolean and a name it lacks.
+    elastic.table[1][0] = 200000.0
+    assert elastic.table.allowEmptyFirstRow is True
+    with pytest.raises(qa.CommandError) as e:
+        table.allowEmptyFirstRow = "yes"
+    assert e.value.member == "allowEmptyFirstRow" and elastic.table.allowEmptyFirstRow is True
+    with pytest.raises(AttributeError):
+        table.allowEmptyRows = True
+    with pytest.raises(AttributeError):
+        table.allowEmptyRows
+    if where == "detached":
+        m.materials["Steel"] = qa.Material(elastic=elastic)
+    db.save(workdir / "flag.odb")
+    back = qa.Database.open(workdir / "flag.odb")["M"].materials["Steel"].elastic
+    assert back.table.allowEmptyFirstRow is True and back.table == [[0.0, 0.0], [200000.0, 0.3]]
+    back.table.allowEmptyFirstRow = False
+    with pytest.raises(qa.ValidationError):
+        back.validate()

@@ -196,7 +196,21 @@ void RefuseFrozen(const std::string& name) {
         nullptr, nullptr, cmd_Json(name));
 }
 
+namespace {
+
+// `obj.table += rows` extends the view in place and then assigns the view to its own member,
+// where its value already is: that second write would only be a second step of the history.
+bool OwnView(const Object& o, const std::string& name, py::handle value) {
+  if (!ListViewClass() || !py::isinstance(value, ListViewClass())) return false;
+  if (!py::tuple(value.attr("_at")).empty() || py::str(value.attr("_member")).cast<std::string>() != name) return false;
+  py::object owner = value.attr("_owner");
+  return IsObject(owner) && &owner.cast<const Object&>() == &o;
+}
+
+}  // namespace
+
 void SetMember(const Object& o, const std::string& name, py::handle value) {
+  if (OwnView(o, name, value)) return;
   const cls_ClassMetadata& md = ClassOf(o);
   const cls_ScriptField& f = FieldOf(md, name);
   if (o.frozen) RefuseFrozen(name);

@@ -286,3 +286,15 @@ def test_a_table_flag_is_an_attribute_of_the_table_and_round_trips(where, workdi
     back.table.allowEmptyFirstRow = False
     with pytest.raises(qa.ValidationError):
         back.validate()
+
+
+def test_extending_a_view_in_place_is_one_step_of_the_history():
+    db, f = function_in_a_model()
+    amp = db["M"]
+    amp.amplitudes["A"] = qa.TabularAmplitude(data=ROWS)
+    depth = db.undo()["undo"] + 1  # the depth of the history before the edits
+    db.redo()
+    amp.amplitudes["A"].data += [[2.0, 0.0]]
+    f.objectives += [objective("C")]
+    assert db.undo() == {"undo": depth + 1, "redo": 1} and responses(f) == ["A", "B"]
+    assert db.undo() == {"undo": depth, "redo": 2} and amp.amplitudes["A"].data == ROWS

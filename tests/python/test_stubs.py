@@ -58,3 +58,28 @@ def test_the_stubs_catch_wrong_literals_keywords_and_types(tmp_path):
     assert code == 1
     lines = sorted({int(line.split(":")[1]) for line in out if ": error:" in line})
     assert lines == [2, 3, 4]
+
+
+VIEWS = '''import qmxodbattr as qa
+e = qa.Elastic(table=[[0.0, 0.0], [1.0, 0.3]])
+e.table = [[0.0, 0.0], [2.0, 0.3]]
+t = e.table
+if isinstance(t, qa.TableView):
+    t.allowEmptyFirstRow = True
+    flag: bool = t.allowEmptyFirstRow
+f = qa.ObjectiveFunction(objectives=[qa.Objective(designResponse="A")])
+objectives = f.objectives
+if isinstance(objectives, qa.ObjectListView):
+    objectives.append(qa.Objective(designResponse="B"))
+    copies: list[qa.Objective] = objectives.copy()
+bad: str = qa.TableView.members
+'''
+
+
+@needs_mypy
+def test_the_views_type_check(tmp_path):
+    probe = tmp_path / "views.py"
+    probe.write_text(VIEWS)
+    code, out = mypy(probe)
+    assert code == 1
+    assert sorted({int(line.split(":")[1]) for line in out if ": error:" in line}) == [13]

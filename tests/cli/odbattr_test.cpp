@@ -107,6 +107,29 @@ TEST_F(ToolLines, RunReportsEachCommandAndSavesWhatSucceeded) {
             "FIRST_ORDER_ADVECTION");
 }
 
+TEST_F(ToolLines, RunValidateNamesTheMemberWhoseObjectFailed) {
+  // A material failing in its elastic option, and a profile failing a rule of its own.
+  Write(dir / "script.jsonl", R"({"op":"create","path":["M"]}
+{"op":"create","path":["M","materials","Steel"],"type":"Material","values":{"elastic":{"table":[[0,0]]}}}
+{"op":"create","path":["M","profiles","Rod"],"type":"CircularProfile","values":{"r":-1}}
+{"op":"validate","path":["M"]}
+)");
+  const Outcome r = Tool("run " + Q(dir / "script.jsonl"));
+  EXPECT_EQ(r.code, 1) << r.err;
+  const Json e = r.Results().back()["error"];
+  const Json zeroRow = {{"kind", "PrimException"},
+                        {"message", "Tabular data for at least one option or suboption\nhas either blank or zero valued row(s)."},
+                        {"file", "QMXOdbKmaC.m/src/kmaC_assert"}, {"line", 263}, {"path", {"M", "materials", "Steel"}},
+                        {"member", "elastic"}};
+  const Json radius = {{"kind", "PrimException"}, {"message", "The radius must be greater than zero."},
+                       {"file", "QMXOdbKbpC.m/src/kbpC_assert"}, {"line", 64}, {"path", {"M", "profiles", "Rod"}}};
+  ASSERT_EQ(e["failures"].size(), 2u) << e.dump();
+  const bool materialFirst = e["failures"][0]["path"][1] == "materials";
+  EXPECT_EQ(e["failures"][materialFirst ? 0 : 1], zeroRow);
+  EXPECT_EQ(e["failures"][materialFirst ? 1 : 0], radius);  // a rule of the object itself: no member
+  EXPECT_EQ(e.value("member", Json()), materialFirst ? Json("elastic") : Json());
+}
+
 TEST_F(ToolLines, RunReadsStandardInputAndRefusesAMissingScript) {
   Write(dir / "script.jsonl", "{\"op\":\"create\",\"path\":[\"M\"]}\n{\"op\":\"list\",\"path\":[]}\n");
   const Outcome r = Tool("run - < " + Q(dir / "script.jsonl"));

@@ -10,7 +10,7 @@
 #include "platform/model/ddr_Database.h"
 #include "platform/model/ddr_Model.h"
 #include "platform/model/mdl_Repository.h"
-#include "platform/persist/cls_Family.h"
+#include "platform/persist/cls_ClassRegistrar.h"
 #include "platform/persist/cls_Record.h"
 #include "platform/persist/cls_Value.h"
 
@@ -43,10 +43,14 @@ std::string cmd_FailingMember(const void* obj, const cls_ClassMetadata& md, cons
       // The list holds records: each element is made again to be validated.
       const cls_Value list = f.get(obj);
       for (const cls_RecordPtr& record : std::get<std::vector<cls_RecordPtr>>(list)) {
-        if (!record) continue;
-        const cls_ClassMetadata& em = cls_MetadataOf(record->typeId);
-        const cmd_OwnedObject element(em.NewFromRecord(cls_RecordReader(*record)), cmd_ObjectDeleter{&em});
-        if (cmd_RaisesSame(element.get(), em, failure)) return f.scriptName;
+        const cls_ClassMetadata* em = record ? cls_ClassRegistrar::Instance().ByTypeId(record->typeId) : nullptr;
+        if (!em) continue;
+        try {
+          const cmd_OwnedObject element(em->NewFromRecord(cls_RecordReader(*record)), cmd_ObjectDeleter{em});
+          if (cmd_RaisesSame(element.get(), *em, failure)) return f.scriptName;
+        } catch (const std::exception&) {
+          // An element that cannot be made again names nothing; the failure stands as reported.
+        }
       }
     }
   }

@@ -166,7 +166,7 @@ py::object ListElement(const Object& o, const std::string& name, Py_ssize_t inde
   if (index < 0 || index >= size) throw py::index_error("list index out of range");
   const cls_RecordPtr& record = list[static_cast<std::size_t>(index)];
   if (!record) return py::none();
-  const cls_ClassMetadata& em = cls_MetadataOf(record->typeId);
+  const cls_ClassMetadata& em = Guarded([&]() -> const cls_ClassMetadata& { return cls_MetadataOf(record->typeId); });
   if (!o.root) return Wrap(em, Object{o.session, nullptr, Append(Append(o.path, name), std::to_string(index))});
   // The list of a detached object holds records: its element is a copy, frozen so that a change
   // to it is refused rather than lost.

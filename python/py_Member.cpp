@@ -198,13 +198,18 @@ void RefuseFrozen(const std::string& name) {
 
 namespace {
 
-// `obj.table += rows` extends the view in place and then assigns the view to its own member,
-// where its value already is: that second write would only be a second step of the history.
+// `obj.data += rows` extends the view in place and then assigns the view to its own member,
+// where its value already is: that second write would only be a second step of the history, and
+// for a table held by an object of its own, a new table of the rows alone (losing its flags).
 bool OwnView(const Object& o, const std::string& name, py::handle value) {
   if (!ListViewClass() || !py::isinstance(value, ListViewClass())) return false;
-  if (!py::tuple(value.attr("_at")).empty() || py::str(value.attr("_member")).cast<std::string>() != name) return false;
+  if (!py::tuple(value.attr("_at")).empty()) return false;
   py::object owner = value.attr("_owner");
-  return IsObject(owner) && &owner.cast<const Object&>() == &o;
+  if (!IsObject(owner)) return false;
+  const Object& held = owner.cast<const Object&>();
+  if (TableViewClass() && py::isinstance(value, TableViewClass()))
+    return held.root == o.root && held.session == o.session && held.path == Append(o.path, name);
+  return &held == &o && py::str(value.attr("_member")).cast<std::string>() == name;
 }
 
 }  // namespace

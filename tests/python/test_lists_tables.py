@@ -268,8 +268,10 @@ def test_a_table_flag_is_an_attribute_of_the_table_and_round_trips(where, workdi
     assert elastic.table.allowEmptyFirstRow is True and elastic.table == rows
     elastic.validate()  # the first row may now be all zeros
     assert elastic.to_dict()["table"] == {"table": rows, "allowEmptyFirstRow": True}
-    # Setting the rows keeps the flag; the flag refuses what is no boolean and a name it lacks.
+    # Editing the rows in place keeps the flag; the flag refuses what is no boolean and a name it lacks.
     elastic.table[1][0] = 200000.0
+    elastic.table += [[190000.0, 0.3]]
+    del elastic.table[2]
     assert elastic.table.allowEmptyFirstRow is True
     with pytest.raises(qa.CommandError) as e:
         table.allowEmptyFirstRow = "yes"
@@ -286,6 +288,10 @@ def test_a_table_flag_is_an_attribute_of_the_table_and_round_trips(where, workdi
     back.table.allowEmptyFirstRow = False
     with pytest.raises(qa.ValidationError):
         back.validate()
+    # Rows assigned whole make a new table, as the command layer's set does: the flag is false again.
+    back.table.allowEmptyFirstRow = True
+    back.table = [[0.0, 0.0], [1.0, 0.3]]
+    assert back.table.allowEmptyFirstRow is False
 
 
 def test_extending_a_view_in_place_is_one_step_of_the_history():

@@ -28,6 +28,21 @@ bool cmd_RaisesSame(const void* obj, const cls_ClassMetadata& md, const QMXBasEx
   return false;
 }
 
+// Whether an element of the container raises exactly the failure given.
+bool cmd_AnyElementRaises(const mdl_Repository& repo, const QMXBasException& failure) {
+  struct Search {
+    const QMXBasException* failure;
+    bool found = false;
+  } search{&failure};
+  repo.ForEachElement(
+      [](void* context, const cow_String&, const void* obj, const cls_ClassMetadata& cls) {
+        auto& s = *static_cast<Search*>(context);
+        if (!s.found) s.found = cmd_RaisesSame(obj, cls, *s.failure);
+      },
+      &search);
+  return search.found;
+}
+
 }  // namespace
 
 std::string cmd_FailingMember(const void* obj, const cls_ClassMetadata& md, const QMXBasException& failure) {
@@ -36,9 +51,13 @@ std::string cmd_FailingMember(const void* obj, const cls_ClassMetadata& md, cons
       const void* child = f.child(obj);
       if (!child) continue;
       const cls_ClassMetadata& cm = f.declared->ClassOf(child);
-      // A container's elements are validated on their own, with their own paths.
-      if (cm.AsRepository(child)) continue;
-      if (cmd_RaisesSame(child, cm, failure)) return f.scriptName;
+      // An object that validates the elements of a container it holds fails with an element's
+      // failure (which the element reports again with its own path).
+      if (const mdl_Repository* repo = cm.AsRepository(child)) {
+        if (cmd_AnyElementRaises(*repo, failure)) return f.scriptName;
+      } else if (cmd_RaisesSame(child, cm, failure)) {
+        return f.scriptName;
+      }
     } else if (f.type == cls_AttrObjectList) {
       // The list holds records: each element is made again to be validated.
       const cls_Value list = f.get(obj);
@@ -95,25 +114,25 @@ void cmd_Checker::Repository(const cmd_Path& path, const mdl_Repository& repo) {
   repo.ForEachElement(
       [](void* context, const cow_String& key, const void* obj, const cls_ClassMetadata& cls) {
         auto& w = *static_cast<Walk*>(context);
-        w.self->Element(*w.parent, key, obj, cls);
+        w.self->Element(*w.parent, &key, obj, cls);
       },
       &walk);
 }
 
 void cmd_Checker::Object(const cmd_Path& path, const void* obj, const cls_ClassMetadata& md) {
-  if (path.empty()) return Element(path, cow_String(), obj, md);  // no walk reaches an object there
+  if (path.empty()) return Element(path, nullptr, obj, md);  // no walk reaches an object there
   const cmd_Path parent(path.begin(), path.end() - 1);
-  Element(parent, path.back(), obj, md);
+  Element(parent, &path.back(), obj, md);
 }
 
 // The element's own path is made only when it is needed: for a failure, or to walk into what
 // the element holds. Most elements of a large model need neither.
-void cmd_Checker::Element(const cmd_Path& parent, const cow_String& key, const void* obj, const cls_ClassMetadata& md) {
+void cmd_Checker::Element(const cmd_Path& parent, const cow_String* key, const void* obj, const cls_ClassMetadata& md) {
   auto pathOf = [&] {
     cmd_Path p;
     p.reserve(parent.size() + 1);
     p.insert(p.end(), parent.begin(), parent.end());
-    p.push_back(key);
+    if (key) p.push_back(*key);
     return p;
   };
   try {

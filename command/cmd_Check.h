@@ -36,6 +36,9 @@ class cmd_Checker {
   void CheckDatabase(const ddr_Database& db);
   // Everything under a node the walk reached at `path`; a plain member is refused.
   void CheckNode(const cmd_Node& node, const cmd_Path& path);
+  // An object outside any database (a detached one) and everything it holds: failures carry paths
+  // from `path`, which is the object's own (empty for the object itself).
+  void CheckObject(const cmd_Path& path, const void* obj, const cls_ClassMetadata& md) { Element(path, nullptr, obj, md); }
 
   std::size_t Checked() const noexcept { return checked_; }
   const std::vector<cmd_Failure>& Failures() const noexcept { return failures_; }
@@ -44,7 +47,8 @@ class cmd_Checker {
   void Model(cmd_Path path, const ddr_Model& model);
   void Repository(const cmd_Path& path, const mdl_Repository& repo);
   void Object(const cmd_Path& path, const void* obj, const cls_ClassMetadata& md);
-  void Element(const cmd_Path& parent, const cow_String& key, const void* obj, const cls_ClassMetadata& md);
+  // The element under `key` of what `parent` names; with no key, the object `parent` names.
+  void Element(const cmd_Path& parent, const cow_String* key, const void* obj, const cls_ClassMetadata& md);
   // Repositories held in members of an object (at any depth of member objects).
   void Nested(const cmd_Path& path, const void* obj, const cls_ClassMetadata& md);
 

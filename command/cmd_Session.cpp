@@ -9,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include "command/cmd_AdviceJson.h"
+#include "command/cmd_FailureJson.h"
 #include "command/cmd_Line.h"
 #include "command/cmd_SessionSupport.h"
 #include "platform/base/QMXBasException.h"
@@ -163,17 +164,7 @@ cmd_Json cmd_Session::Execute(const cmd_Json& command, std::size_t number) {
   } catch (const cmd_TransactionFailure& t) {
     error = t.error;
   } catch (const cmd_ValidationFailure& v) {
-    const cmd_Failure& first = v.failures.front();
-    error = ErrorOf(first.kind, first.message, first.file, first.line);
-    error["path"] = cmd_PathJson(first.path);
-    if (!first.member.empty()) error["member"] = first.member;
-    error["failures"] = cmd_Json::array();
-    for (const auto& f : v.failures) {
-      cmd_Json one = ErrorOf(f.kind, f.message, f.file, f.line);
-      one["path"] = cmd_PathJson(f.path);
-      if (!f.member.empty()) one["member"] = f.member;
-      error["failures"].push_back(std::move(one));
-    }
+    error = cmd_FailuresJson(v.failures);
     if (!v.warnings.empty()) error["warnings"] = cmd_WarningsJson(v.warnings);
   } catch (const cmd_MemberError& e) {
     error = ErrorOf(e.kind, e.message, e.file, e.line);

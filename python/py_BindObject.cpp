@@ -48,8 +48,9 @@ void BindObject(py::module_& m) {
       .def("advise", [](const Object& self) { return AdviseObject(self); },
            "The warnings of the advice on the object and what it holds: dicts of path, member, code and message.")
       .def("validate", [](const Object& self) { return Validate(self); },
-           "Checks the object's rules in their order; the first failing rule raises ValidationError with its "
-           "message, and as its member the member whose object raised it (None for a rule of the object's own).")
+           "Checks the object and everything it holds, as a validation in a model does; failures raise "
+           "ValidationError carrying every failure (e.failures), first failure first, each with its path (from "
+           "the object, when detached) and the member whose object raised it (None for a rule of the object's own).")
       .def("members", [](const Object& self) { return Members(ClassOf(self)); },
            "The scripting names of the members, in their order.")
       .def("to_dict", [](const Object& self) { return FromJson(ObjectToJson(self)); },

@@ -9,6 +9,7 @@
 
 #include "command/cmd_AdviceJson.h"
 #include "command/cmd_Check.h"
+#include "command/cmd_FailureJson.h"
 #include "platform/base/omu_PrimEnum.h"
 #include "platform/persist/cls_Family.h"
 #include "platform/model/mdl_Repository.h"
@@ -97,16 +98,14 @@ py::object Detached(const cls_ClassMetadata& md, void* obj) {
 
 py::object Validate(const Object& o) {
   if (Live(o).root) {
+    // The object and everything it holds, as a validation in a model checks them: every failure,
+    // with its path from the detached object (empty for the object itself) and its member.
+    cmd_Checker checker;
     Guarded([&] {
       Found at = Resolve(o, false);
-      try {
-        at.md->AssertValid(at.obj);
-      } catch (const QMXBasException& e) {
-        // The member whose object raised it, as a validation in a model names it.
-        const std::string member = cmd_FailingMember(at.obj, *at.md, e);
-        Raise(e.Kind(), e.Message(), e.File(), e.Line(), nullptr, nullptr, member.empty() ? cmd_Json() : cmd_Json(member));
-      }
+      checker.CheckObject(o.path, at.obj, *at.md);
     });
+    if (!checker.Failures().empty()) RaiseError(cmd_FailuresJson(checker.Failures()));
     return py::none();
   }
   ClassOf(o);  // a stale view refuses

@@ -141,3 +141,28 @@ def test_an_object_names_the_failing_member_bound_or_detached(make, member, mess
             m[repository[obj.type_name]]["X"].validate()
         assert (bound.value.message, bound.value.member) == (message, member)
         assert bound.value.path == ["M", repository[obj.type_name], "X"]
+
+
+def test_a_detached_object_reports_what_it_holds_as_a_model_would():
+    """A task validates the design responses it holds: its failure names that container, and the
+    element reports it again under its own path, detached (paths from the task) as in a model."""
+    task = qa.TopologyTask()
+    task.objectiveFunctions["F"] = qa.ObjectiveFunction(objectives=[])
+    task.designResponses["R"] = qa.SingleTermDesignResponse()
+    expected = [([], "designResponses", "Identifier must be specified."),
+                (["designResponses", "R"], "request", "Identifier must be specified."),
+                (["objectiveFunctions", "F"], None, "The objective list must contain at least 1 unsuppressed entry.")]
+    with pytest.raises(qa.ValidationError) as detached:
+        task.validate()
+    assert [(f["path"], f["member"], f["message"]) for f in detached.value.failures] == expected
+    assert (detached.value.path, detached.value.member) == ([], "designResponses")
+    with pytest.raises(qa.ValidationError) as element:
+        task.designResponses["R"].validate()
+    assert [(f["path"], f["member"]) for f in element.value.failures] == [(["designResponses", "R"], "request")]
+    m = qa.Database().create_model("M")
+    m.optimizationTasks["T"] = task
+    with pytest.raises(qa.ValidationError) as bound:
+        m.optimizationTasks["T"].validate()
+    prefix = ["M", "optimizationTasks", "T"]
+    assert [(f["path"], f["member"], f["message"]) for f in bound.value.failures] == [
+        (prefix + path, member, message) for path, member, message in expected]

@@ -32,10 +32,10 @@ void CreateErrors(py::module_& m) {
 class Error(Exception):
     """An error of the attribute library: the system's exact message, its kind ("PrimException",
     "CmdException", ...), the source file and line that reported it, and the member it concerns
-    where there is one. A failed validation of an object, repository, model or database carries the path of
-    the first failing object and under `failures` every failure, first failure first, each a dict
-    of path, member (the member whose object raised the failure; None for a rule of the object's
-    own), message, kind, file and line. For a path or member that named nothing: the
+    where there is one. A failed validation of an object, repository, model or database carries
+    the path of the first failing object and under `failures` every failure, first failure first,
+    each a dict of path, member (the member whose object raised the failure; None for a rule of
+    the object's own), message, kind, file and line. For a path or member that named nothing: the
     path that resolved, the member (or key) that did not and the candidates, the names that
     would have been valid there."""
     def __init__(self, message, kind="", file="", line=0, path=None, member=None, candidates=None,

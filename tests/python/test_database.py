@@ -224,6 +224,18 @@ def test_example_script(workdir):
     back.validate()
 
 
+def test_the_readme_script_runs(workdir):
+    readme = (pathlib.Path(__file__).parents[2] / "README.md").read_text(encoding="utf-8")
+    script = readme.split("```python\n", 1)[1].split("```", 1)[0]
+    package = pathlib.Path(qa.__file__).resolve().parents[1]  # the script runs in the work folder
+    run = subprocess.run([sys.executable, "-c", script], capture_output=True, text=True, cwd=workdir,
+                         env=dict(os.environ, PYTHONPATH=str(package)), timeout=120)
+    assert run.returncode == 0, run.stdout + run.stderr
+    assert run.stdout.splitlines()[-1] == "PipeProfile(r=50.0, t=5.0, integrationScheme='THICK_WALL')"
+    steel = qa.Database.open(workdir / "model.odb")["Model-1"].materials["Steel"]
+    assert steel.elastic.table == [[210e3, 0.3], [200e3, 0.3]]
+
+
 CHANGED = ("Cannot save the model database \"{}\": it was changed by another process since it was "
            "opened; save to another file or reopen")
 

@@ -95,12 +95,6 @@ void HexUid(const cls_Uid& uid, char* out) {
   for (int i = 31; i >= 16; --i, lo >>= 4) out[i] = kHex[lo & 0xf];
 }
 
-void JsonKey(std::string& out, const cow_String& key) {
-  out += '"';
-  out.append(key.c_str(), key.size());
-  out += '"';
-}
-
 void FsyncFile(const std::string& path) {
   int fd = ::open(path.c_str(), O_RDONLY);
   ::fsync(fd);

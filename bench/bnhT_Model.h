@@ -28,8 +28,6 @@ void Check(int rc, sqlite3* db);
 void Exec(sqlite3* db, const std::string& sql);
 // A uid as the file writes it: 32 hexadecimal digits, into out[0..31].
 void HexUid(const cls_Uid& uid, char* out);
-// Appends a key as the file's key lists write it.
-void JsonKey(std::string& out, const cow_String& key);
 void FsyncFile(const std::string& path);
 
 }  // namespace bnhT

@@ -55,7 +55,7 @@ const std::vector<OtherTable>& OtherTables(std::int64_t n) {
   sqlite3_stmt* list;
   Check(sqlite3_prepare_v2(s,
                            "SELECT name, sql FROM sqlite_master WHERE type = 'table' AND name NOT IN ('dbf_Meta',"
-                           " 'dbf_Catalog', 'dbf_Fields', 'dbf_Roots', 'kadC_AdptMeshCtrl', 'kadC_AdptMeshCtrlCont',"
+                           " 'dbf_Catalog', 'dbf_Fields', 'dbf_Roots', 'dbf_Elements', 'kadC_AdptMeshCtrl', 'kadC_AdptMeshCtrlCont',"
                            " 'bnhT_Table', 'bnhT_TableCont') ORDER BY rootpage",
                            -1, &list, nullptr),
         s);
@@ -112,25 +112,34 @@ void RawSave(const ddr_Database& db, const std::vector<OtherTable>& others, cons
        " standardVolumetricSmoothingWeight REAL, laplacianSmoothingWeight REAL, equipotentialSmoothingWeight REAL,"
        " meshConstraintAngle REAL, originalConfigurationProjectionWeight REAL)");
   Exec(s, "CREATE TABLE tbl (OID INTEGER PRIMARY KEY, UID TEXT NOT NULL, description TEXT, \"table\" BLOB)");
-  Exec(s, "CREATE TABLE cont (OID INTEGER PRIMARY KEY, UID TEXT NOT NULL, keys TEXT, \"values\" TEXT)");
-  sqlite3_stmt *ctrl, *tbl, *cont;
+  Exec(s, "CREATE TABLE cont (OID INTEGER PRIMARY KEY, UID TEXT NOT NULL)");
+  Exec(s, "CREATE TABLE elem (OwnerID INTEGER NOT NULL, Owner INTEGER NOT NULL, Key NOT NULL, OID INTEGER NOT NULL,"
+          " ClassID INTEGER NOT NULL)");
+  sqlite3_stmt *ctrl, *tbl, *cont, *elem;
   Check(sqlite3_prepare_v2(s, "INSERT INTO ctrl VALUES (?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?)", -1, &ctrl, nullptr), s);
   Check(sqlite3_prepare_v2(s, "INSERT INTO tbl VALUES (?,?,?,?)", -1, &tbl, nullptr), s);
-  Check(sqlite3_prepare_v2(s, "INSERT INTO cont VALUES (?,?,?,?)", -1, &cont, nullptr), s);
+  Check(sqlite3_prepare_v2(s, "INSERT INTO cont VALUES (?,?)", -1, &cont, nullptr), s);
+  Check(sqlite3_prepare_v2(s, "INSERT INTO elem VALUES (?,?,?,?,?)", -1, &elem, nullptr), s);
   const ddr_Model& m = db.GetModels().begin()->second.Get();
   char uid[32];
   auto text = [](sqlite3_stmt* st, int i, const char* t) { sqlite3_bind_text(st, i, t, -1, SQLITE_STATIC); };
-  auto insertCont = [&](std::int64_t oid, const std::string& keys, const std::string& values) {
+  auto insertCont = [&](std::int64_t oid) {
     sqlite3_bind_int64(cont, 1, oid);
     sqlite3_bind_text(cont, 2, uid, 32, SQLITE_STATIC);
-    sqlite3_bind_text(cont, 3, keys.data(), static_cast<int>(keys.size()), SQLITE_STATIC);
-    sqlite3_bind_text(cont, 4, values.data(), static_cast<int>(values.size()), SQLITE_STATIC);
     Check(sqlite3_step(cont), s);
     sqlite3_reset(cont);
   };
+  auto insertElem = [&](unsigned owner, std::int64_t ownerOid, const cow_String& key, std::int64_t oid, unsigned cls) {
+    sqlite3_bind_int64(elem, 1, owner);
+    sqlite3_bind_int64(elem, 2, ownerOid);
+    sqlite3_bind_text(elem, 3, key.c_str(), static_cast<int>(key.size()), SQLITE_STATIC);
+    sqlite3_bind_int64(elem, 4, oid);
+    sqlite3_bind_int64(elem, 5, cls);
+    Check(sqlite3_step(elem), s);
+    sqlite3_reset(elem);
+  };
   {
     const auto& controls = dynamic_cast<const kadC_AdptMeshCtrlCont&>(*m.FindRepository("adaptiveMeshControls"));
-    std::string keys = "[", values = "[";
     std::int64_t oid = 0;
     for (const auto& [key, h] : controls.Items()) {
       const kadC_AdptMeshCtrl& c = h.Get();
@@ -154,17 +163,14 @@ void RawSave(const ddr_Database& db, const std::vector<OtherTable>& others, cons
       sqlite3_bind_double(ctrl, 16, c.GetOriginalConfigurationProjectionWeight());
       Check(sqlite3_step(ctrl), s);
       sqlite3_reset(ctrl);
-      if (oid > 1) keys += ',', values += ',';
-      JsonKey(keys, key);
-      values += "[" + std::to_string(oid) + "," + std::to_string(kadC_AdptMeshCtrl::TypeId()) + "]";
+      insertElem(kadC_AdptMeshCtrlCont::TypeId(), 1, key, oid, kadC_AdptMeshCtrl::TypeId());
     }
-    keys += ']', values += ']';
     HexUid(controls.GetUid(), uid);
-    insertCont(1, keys, values);
+    insertCont(1);
   }
   {
     const auto& tables = dynamic_cast<const bnhT_TableCont&>(*m.FindRepository("benchTables"));
-    std::string keys = "[", values = "[", blob;
+    std::string blob;
     std::int64_t oid = 0;
     for (const auto& [key, h] : tables.Items()) {
       const bnhT_Table& t = h.Get();
@@ -179,18 +185,17 @@ void RawSave(const ddr_Database& db, const std::vector<OtherTable>& others, cons
       sqlite3_bind_blob(tbl, 4, blob.data(), static_cast<int>(blob.size()), SQLITE_STATIC);
       Check(sqlite3_step(tbl), s);
       sqlite3_reset(tbl);
-      if (oid > 1) keys += ',', values += ',';
-      JsonKey(keys, key);
-      values += "[" + std::to_string(oid) + "," + std::to_string(bnhT_Table::TypeId()) + "]";
+      insertElem(bnhT_TableCont::TypeId(), 2, key, oid, bnhT_Table::TypeId());
     }
-    keys += ']', values += ']';
     HexUid(tables.GetUid(), uid);
-    insertCont(2, keys, values);
+    insertCont(2);
   }
   sqlite3_finalize(ctrl);
   sqlite3_finalize(tbl);
   sqlite3_finalize(cont);
+  sqlite3_finalize(elem);
   RawSaveOthers(s, others);
+  Exec(s, "CREATE UNIQUE INDEX elemByKey ON elem (OwnerID, Owner, Key)");
   Exec(s, "COMMIT");
   sqlite3_close(s);
   FsyncFile(path);
@@ -241,8 +246,13 @@ void RawRead(const std::string& path, const std::vector<OtherTable>& others, Raw
     tables.push_back(std::move(t));
   }
   sqlite3_finalize(st);
-  Check(sqlite3_prepare_v2(s, "SELECT keys, \"values\" FROM cont ORDER BY OID", -1, &st, nullptr), s);
-  while (sqlite3_step(st) == SQLITE_ROW) conts.push_back(str(st, 0) + str(st, 1));
+  Check(sqlite3_prepare_v2(s, "SELECT UID FROM cont ORDER BY OID", -1, &st, nullptr), s);
+  while (sqlite3_step(st) == SQLITE_ROW) conts.push_back(str(st, 0));
+  sqlite3_finalize(st);
+  Check(sqlite3_prepare_v2(s, "SELECT OwnerID, Owner, Key, OID, ClassID FROM elem ORDER BY rowid", -1, &st, nullptr), s);
+  while (sqlite3_step(st) == SQLITE_ROW)
+    rows.elements.push_back(RawElement{sqlite3_column_int64(st, 0), sqlite3_column_int64(st, 1), str(st, 2),
+                                       sqlite3_column_int64(st, 3), sqlite3_column_int64(st, 4)});
   sqlite3_finalize(st);
   for (const OtherTable& t : others) {
     Check(sqlite3_prepare_v2(s, ("SELECT * FROM \"" + t.name + "\" ORDER BY OID").c_str(), -1, &st, nullptr), s);

@@ -45,10 +45,18 @@ struct RawTable {
 };
 
 
+// One element of a repository, as dbf_Elements holds it.
+struct RawElement {
+  std::int64_t ownerId, owner;
+  std::string key;
+  std::int64_t oid, classId;
+};
+
 struct RawRows {
   std::vector<RawControl> controls;
   std::vector<RawTable> tables;
-  std::vector<std::string> conts;
+  std::vector<std::string> conts;  // the repositories' uids
+  std::vector<RawElement> elements;
   std::vector<std::vector<RawCell>> others;
 };
 

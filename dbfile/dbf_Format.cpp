@@ -9,7 +9,7 @@
 #include "platform/persist/cls_Value.h"
 
 int dbf_DatabaseVersion() {
-  int version = 0;
+  int version = dbf_kElementsApartVersion;
   for (const cls_ClassMetadata* md : cls_ClassRegistrar::Instance().All()) version = std::max(version, md->Version());
   return version;
 }

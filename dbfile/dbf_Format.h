@@ -12,7 +12,8 @@
 inline constexpr std::uint32_t dbf_kApplicationId = 0x514D5841;
 inline constexpr const char* dbf_kFormatName = "QMXOdbAttr model database";
 
-// The database version this library writes (the highest class version it knows).
+// The database version this library writes: the highest class version it knows, and at least
+// the version of the file layout it writes.
 int dbf_DatabaseVersion();
 // The library version written into every file.
 const char* dbf_LibraryVersion();
@@ -23,6 +24,16 @@ inline constexpr const char* dbf_kMetaTable = "dbf_Meta";        // key, value
 inline constexpr const char* dbf_kCatalogTable = "dbf_Catalog";  // name, typeId, version, fieldHash, rows
 inline constexpr const char* dbf_kFieldsTable = "dbf_Fields";    // class, position, name, number, type, ...
 inline constexpr const char* dbf_kRootsTable = "dbf_Roots";      // name, OID, ClassID
+// The elements of every repository, one row each: the repository's row (its class id and OID),
+// the element's key (TEXT or INTEGER, as the repository's keys are) and the element's row.
+// Unique by repository and key, so that a save in place finds one element without reading the
+// others. Rows of one repository follow each other in key order where the repository was
+// written whole; elements added by later saves in place come after.
+inline constexpr const char* dbf_kElementsTable = "dbf_Elements";  // OwnerID, Owner, Key, OID, ClassID
+inline constexpr const char* dbf_kElementsIndex = "dbf_ElementsByKey";
+// The first database version whose files keep repositories' elements in dbf_Elements; files of
+// older versions hold them in two lists in the repository's row, and are read as they are.
+inline constexpr int dbf_kElementsApartVersion = 2504;
 
 // The row id and uid columns of every class table.
 inline constexpr const char* dbf_kOidColumn = "OID";

@@ -18,6 +18,7 @@ void dbf_OldRow::Clear() noexcept {
   for (sqlite3_value* v : columns) sqlite3_value_free(v);
   columns.clear();
   children.clear();
+  keyed.clear();
   positions.clear();
 }
 
@@ -78,6 +79,7 @@ class PatchCapture final : public cls_WriteVisitor {
  public:
   PatchCapture(const dbf_WriteTable& t, dbf_OldRow& row) : t_(t), row_(row) {
     row_.children.assign(t.fields.size(), {});
+    row_.keyed.assign(t.fields.size(), nullptr);
   }
   bool StartWrite(unsigned typeId, const cls_Uid& uid) const override {
     if (started_) return false;
@@ -144,6 +146,12 @@ class PatchCapture final : public cls_WriteVisitor {
       if ((objs[k] == nullptr) != (refs[k].oid == 0)) Unfit();
       out.push_back(dbf_Stored{objs[k], fn, nullptr, refs[k]});
     }
+  }
+  void WriteKeyedObjects(const char* keysName, const char* valuesName, const cls_KeyedObjects& objs) const override {
+    const std::size_t v = Field(valuesName, dbf_Kind::ObjectList);
+    const std::size_t k = Field(keysName, objs.IntegerKeys() ? dbf_Kind::IntList : dbf_Kind::TextList);
+    if (!t_.fields[v].apart || !t_.fields[k].apart) Unfit();
+    row_.keyed[v] = objs.Self();
   }
 
  private:
@@ -260,7 +268,10 @@ void dbf_Patch::DeleteTree(dbf_Writer& writer, const dbf_Ref& ref) {
   if (!PatchSelect(db_, t, ref.oid)) throw dbf_PatchUnfit("a stored row is missing");
   std::vector<dbf_Ref> held;
   sqlite3_stmt* q = t.select.Get();
+  bool apart = false;
   for (const dbf_WriteField& f : t.fields) {
+    apart = apart || f.apart;
+    if (f.apart) continue;
     const int c = f.param - 1;
     if (f.kind == dbf_Kind::Object && sqlite3_column_type(q, c) == SQLITE_INTEGER) {
       held.push_back(dbf_Ref{sqlite3_column_int64(q, c), static_cast<std::uint32_t>(sqlite3_column_int64(q, c + 1))});
@@ -275,6 +286,8 @@ void dbf_Patch::DeleteTree(dbf_Writer& writer, const dbf_Ref& ref) {
     }
   }
   t.select.Reset();
+  if (apart)
+    for (const dbf_Ref& r : writer.Elements().TakeAll(dbf_Owner{ref.classId, ref.oid})) held.push_back(r);
   if (!t.erase.Get())
     t.erase = dbf_Statement(db_, "DELETE FROM " + dbf_Quote(t.cls->Name().str()) + " WHERE " +
                                      dbf_Quote(dbf_kOidColumn) + " = ?1");

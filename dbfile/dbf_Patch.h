@@ -51,6 +51,9 @@ struct dbf_OldRow {
 
   std::vector<sqlite3_value*> columns;  // OID, UID, then each field's column(s)
   std::vector<std::vector<dbf_Stored>> children;  // by field; a null element of a list as null
+  // By field kept apart (a repository's elements): the old repository as its keyed collection
+  // handed itself out, to diff the new one against.
+  std::vector<const void*> keyed;
   // By field: the positions of each stored object, built when first asked.
   std::vector<std::unordered_multimap<const void*, std::size_t>> positions;
 };

@@ -60,6 +60,7 @@ dbf_Reader::dbf_Reader(const std::string& path, const dbc_UpgradeDriver& driver)
     nex_ThrowCmd("the file cannot be read through the checksums of its pages");
   ReadMeta();
   ReadCatalog();
+  ReadElements();
 }
 
 dbf_Reader::~dbf_Reader() {
@@ -230,8 +231,12 @@ void dbf_Reader::ReadCatalog() {
       field.type = it->type;
       if (!dbf_KindOf(field.type, field.kind))
         dbf_Damaged("the field \"" + field.name + "\" of class " + t->className + " has an unknown type");
-      field.column = column;
-      column += field.kind == dbf_Kind::Object ? 2 : 1;
+      // Files of this layout keep a repository's keys and elements in dbf_Elements; older files
+      // hold them as two lists in the repository's row, read as any other list.
+      field.apart = databaseVersion_ >= dbf_kElementsApartVersion && t->cls && t->cls->KeepsElementsApart() &&
+                    (field.name == "keys" || field.name == "values");
+      field.column = field.apart ? -1 : column;
+      if (!field.apart) column += field.kind == dbf_Kind::Object ? 2 : 1;
       t->hasObjects = t->hasObjects || field.kind == dbf_Kind::Object || field.kind == dbf_Kind::ObjectList;
       stored.push_back(
           cls_Attribute{cls_FieldHandle(it->number, field.name.c_str()), field.type, it->count, it->collection});
@@ -276,6 +281,7 @@ void dbf_Reader::ReadCatalog() {
 void dbf_Reader::PrepareTable(dbf_ReadTable& t) {
   std::string cols = dbf_Quote(dbf_kOidColumn) + ", " + dbf_Quote(dbf_kUidColumn);
   for (const auto& f : t.fields) {
+    if (f.apart) continue;
     if (f.kind == dbf_Kind::Object) cols += ", " + dbf_Quote(f.name + "#OID") + ", " + dbf_Quote(f.name + "#ClassID");
     else cols += ", " + dbf_Quote(f.name);
   }
@@ -338,6 +344,7 @@ std::vector<dbf_LoadedRoot> dbf_Reader::LoadRoots(const cls_ClassMetadata* requi
       t->scanOid = sqlite3_column_int64(t->scan.Get(), 0);
       if (t->scanOid < 1 || ++t->scanned > t->rows) dbf_NotNumbered(*t);
     }
+  CheckElementsTaken();
   for (const auto& t : tables_)
     if (t->loaded != t->rows)
       dbf_Damaged(std::to_string(t->rows - t->loaded) + " of the " + std::to_string(t->rows) + " rows of class " +

@@ -9,6 +9,7 @@
 #include <sqlite3.h>
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -29,7 +30,8 @@ struct dbf_ReadField {
   cow_String key;  // the name again, shared by the records of upgraded rows
   int type = 0;  // attribute type as stored
   dbf_Kind kind = dbf_Kind::Int;
-  int column = 0;  // the first result column of the field
+  int column = 0;  // the first result column of the field; -1 for a field kept apart
+  bool apart = false;  // a repository's keys or elements, read from dbf_Elements
   // Enumeration literals seen so far, shared by every row, each with its value once a class has
   // read it; at most kMaxLiterals, reserved so that rows may point at them.
   std::vector<cow_String> literals;
@@ -101,6 +103,15 @@ struct dbf_LoadedRow {
   std::unique_ptr<Upgraded> spare;
 };
 
+// The elements dbf_Elements holds for one repository row, in the order of their rows.
+struct dbf_ElementRun {
+  std::vector<cow_String> texts;       // keys that are names
+  std::vector<std::int32_t> integers;  // keys that are integers
+  std::vector<dbf_Ref> refs;
+  bool textKeys = false, integerKeys = false;
+  bool taken = false;  // read by its repository
+};
+
 class dbf_Reader {
  public:
   // Refuses (nex_CmdException, without the file's name) whatever makes the file unreadable.
@@ -146,6 +157,12 @@ class dbf_Reader {
   dbf_ReadTable& TableOf(std::uint32_t storedClassId) const;
   sqlite3_stmt* Position(dbf_ReadTable& t, std::int64_t oid);
   void Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row);
+  // The keys or elements of a repository row, from the runs ReadElements collected.
+  void ExtractApart(dbf_ReadTable& t, dbf_LoadedRow& row, std::size_t field);
+  // Every row of dbf_Elements, by the repository row that owns it (files that keep elements apart).
+  void ReadElements();
+  // Refuses element rows that no repository read.
+  void CheckElementsTaken() const;
   void Upgrade(dbf_LoadedRow& row);
   // The row's spare upgrade storage (its record as the last row left it, its stubs emptied), or
   // a new one.
@@ -174,6 +191,7 @@ class dbf_Reader {
   std::vector<unsigned char> checked_;  // per page: its checksum was verified by a read of SQLite
   std::unique_ptr<dbf_Connection> conn_;
   int databaseVersion_ = 0;
+  std::map<std::pair<std::uint32_t, std::int64_t>, dbf_ElementRun> elements_;  // by owner's class id, OID
   std::vector<std::unique_ptr<dbf_ReadTable>> tables_;
   std::unordered_map<std::uint32_t, dbf_ReadTable*> byStoredId_;
   mutable dbf_ReadTable* lastTable_ = nullptr;  // the last one TableOf found

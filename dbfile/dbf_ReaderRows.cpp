@@ -141,6 +141,10 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
   if (t.hasObjects) row.spans.assign(n, {0, 0});
   for (std::size_t i = 0; i < n; ++i) {
     dbf_ReadField& f = t.fields[i];
+    if (f.apart) {
+      ExtractApart(t, row, i);
+      continue;
+    }
     const int col = f.column;
     // One value per column, its type and contents read from it: the connection is opened without
     // a mutex, so the column's value needs no protected copy.
@@ -256,6 +260,42 @@ void dbf_Reader::Extract(dbf_ReadTable& t, sqlite3_stmt* s, dbf_LoadedRow& row) 
         if (!ok) dbf_DamagedField(t, row.oid, f.name, "malformed list text");
       }
     }
+  }
+}
+
+void dbf_Reader::ExtractApart(dbf_ReadTable& t, dbf_LoadedRow& row, std::size_t i) {
+  const dbf_ReadField& f = t.fields[i];
+  auto it = elements_.find({t.storedTypeId, row.oid});
+  dbf_ElementRun* run = it == elements_.end() ? nullptr : &it->second;
+  if (run) run->taken = true;
+  cls_ReadCell& c = row.cells[i];
+  cls_Value& v = row.values[i];
+  c.value = &v;
+  switch (f.kind) {
+    case dbf_Kind::TextList: {
+      auto& keys = v.emplace<std::vector<cow_String>>();
+      if (!run) break;
+      if (run->integerKeys) dbf_DamagedField(t, row.oid, f.name, "integer keys where its keys are names");
+      for (const cow_String& k : run->texts) CheckUtf8(t, row.oid, f, k.view());
+      keys = std::move(run->texts);
+      break;
+    }
+    case dbf_Kind::IntList: {
+      auto& keys = v.emplace<std::vector<std::int32_t>>();
+      if (!run) break;
+      if (run->textKeys) dbf_DamagedField(t, row.oid, f.name, "keys that are names where its keys are integers");
+      keys = std::move(run->integers);
+      break;
+    }
+    case dbf_Kind::ObjectList: {
+      v = std::monostate{};
+      c.value = nullptr;
+      const auto first = static_cast<std::uint32_t>(row.refs.size());
+      if (run) row.refs.insert(row.refs.end(), run->refs.begin(), run->refs.end());
+      row.spans[i] = {first, static_cast<std::uint32_t>(row.refs.size() - first)};
+      break;
+    }
+    default: dbf_DamagedField(t, row.oid, f.name, "a kind of value that is not kept apart");
   }
 }
 

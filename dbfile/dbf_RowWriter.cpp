@@ -175,6 +175,50 @@ void dbf_RowWriter::WriteObjectList(const char* name, const std::vector<const vo
   c.bytes += ']';
 }
 
+void dbf_RowWriter::WriteKeyedObjects(const char* keysName, const char* valuesName,
+                                      const cls_KeyedObjects& objs) const {
+  if (!table_) nex_ThrowCmd(std::string("the field \"") + valuesName + "\" was written before its object started a record");
+  const auto values = table_->byName.find(valuesName);
+  if (values == table_->byName.end() || !table_->fields[values->second].apart)
+    return cls_WriteVisitor::WriteKeyedObjects(keysName, valuesName, objs);
+  const std::size_t kf = Slot(keysName, objs.IntegerKeys() ? dbf_Kind::IntList : dbf_Kind::TextList);
+  const std::size_t f = Slot(valuesName, dbf_Kind::ObjectList);
+  // A key is checked where it goes into the file: keys already there were checked when they went.
+  auto insert = [&](const cls_ElementKey& key, const dbf_Ref& ref) {
+    if (key.text) RefuseNul(kf, key.text->view());
+    writer_.Elements().Insert(dbf_Owner{table_->cls->TypeId(), oid_}, key, ref);
+  };
+  dbf_ElementRows& rows = writer_.Elements();
+  const dbf_Owner owner{table_->cls->TypeId(), oid_};
+  const cls_WriteFn fn = objs.WriteFn();
+  dbf_RowWriter& child = writer_.WriterAt(depth_ + 1);
+  if (!over_) {
+    objs.ForEach([&](const cls_ElementKey& key, const void* obj) {
+      fn(obj, child);
+      insert(key, child.Finish());
+    });
+    return;
+  }
+  // Written over the stored repository: what the file holds is the state `older` had.
+  const void* older = f < old_.keyed.size() ? old_.keyed[f] : nullptr;
+  if (!older) throw dbf_PatchUnfit("a stored repository kept no elements apart");
+  objs.DiffFrom(older, [&](const cls_ElementKey& key, const void* was, const void* now) {
+    dbf_Ref stored;
+    const bool had = was && rows.Find(owner, key, stored);
+    if (was && !had) throw dbf_PatchUnfit("a stored element is missing");
+    if (!now) {
+      writer_.Patch()->DeleteTree(writer_, stored);
+      rows.Erase(owner, key);
+      return;
+    }
+    if (had) child.Expect(dbf_Stored{was, fn, nullptr, stored});
+    fn(now, child);
+    const dbf_Ref ref = child.Finish();
+    if (!had) insert(key, ref);
+    else if (ref.oid != stored.oid || ref.classId != stored.classId) rows.Update(owner, key, ref);
+  });
+}
+
 bool dbf_RowWriter::Kept(std::size_t i, const void* obj, dbf_Ref& ref) const {
   if (!over_) return false;
   dbf_Stored* s = old_.Find(i, obj);
@@ -211,6 +255,7 @@ bool dbf_RowWriter::SameAsStored() const {
   if (!dbf_SameText(col[1], uid_, 32)) return false;
   const auto& fields = table_->fields;
   for (std::size_t i = 0; i < fields.size(); ++i) {
+    if (fields[i].apart) continue;
     const Cell& c = cells_[i];
     const cls_WriteCell& v = plain_[i];
     sqlite3_value* stored = col[static_cast<std::size_t>(fields[i].param - 1)];
@@ -245,6 +290,7 @@ dbf_Ref dbf_RowWriter::Finish() {
   sqlite3_bind_int64(s, 1, oid_);
   sqlite3_bind_text(s, 2, uid_, 32, SQLITE_STATIC);
   for (std::size_t i = 0; i < fields.size(); ++i) {
+    if (fields[i].apart) continue;
     const Cell& c = cells_[i];
     const cls_WriteCell& v = plain_[i];
     const int p = fields[i].param;

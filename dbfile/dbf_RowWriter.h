@@ -31,6 +31,9 @@ class dbf_RowWriter final : public cls_WriteVisitor {
   void WriteNull(const char* name) const override;
   void WriteObject(const char* name, const void* obj, cls_WriteFn fn) const override;
   void WriteObjectList(const char* name, const std::vector<const void*>& objs, cls_WriteFn fn) const override;
+  // In a new row, every element; written over a stored row, only the elements that differ from
+  // the state the file holds (dbf_Elements).
+  void WriteKeyedObjects(const char* keysName, const char* valuesName, const cls_KeyedObjects& objs) const override;
   cls_WriteCell* Positional(const cls_FieldLayout& layout) const override;
 
   // Stores the row written since StartWrite and returns its reference. Refuses an object that

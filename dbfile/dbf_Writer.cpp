@@ -23,7 +23,7 @@ void BindText(sqlite3_stmt* s, int i, std::string_view t) {
 }  // namespace
 
 dbf_Writer::dbf_Writer(sqlite3* db, const Progress* progress, dbf_Patch* patch)
-    : db_(db), patch_(patch), progress_(progress) {
+    : db_(db), patch_(patch), progress_(progress), elements_(db) {
   if (patch_) {
     insertRoot_ =
         dbf_Statement(db_, "INSERT OR REPLACE INTO " + dbf_Quote(dbf_kRootsTable) + " VALUES (?1, ?2, ?3)");
@@ -42,6 +42,7 @@ dbf_Writer::dbf_Writer(sqlite3* db, const Progress* progress, dbf_Patch* patch)
           " (\"name\" TEXT PRIMARY KEY, \"OID\" INTEGER NOT NULL, \"ClassID\" INTEGER NOT NULL)",
   };
   for (const auto& sql : own) dbf_Statement(db_, sql).Run();
+  dbf_ElementRows::CreateTable(db_);
   insertRoot_ = dbf_Statement(db_, "INSERT INTO " + dbf_Quote(dbf_kRootsTable) + " VALUES (?1, ?2, ?3)");
 }
 
@@ -113,6 +114,13 @@ dbf_WriteTable& dbf_Writer::CreateTable(const cls_ClassMetadata& cls) {
       if (SameIgnoringCase(f.name, name))
         nex_ThrowCmd("the fields \"" + f.name + "\" and \"" + name + "\" of class " + className +
                      " would share one column (SQLite column names ignore case)");
+    // A repository's keys and elements are rows of dbf_Elements, not columns of its own table.
+    const bool apart = cls.KeepsElementsApart() && (name == "keys" || name == "values");
+    if (apart) {
+      table->fields.push_back(dbf_WriteField{std::move(name), kind, 0, true});
+      table->plain.push_back(false);
+      continue;
+    }
     if (kind == dbf_Kind::Object) {
       columns += ", " + dbf_Quote(name + "#OID") + " INTEGER, " + dbf_Quote(name + "#ClassID") + " INTEGER";
       names += ", " + dbf_Quote(name + "#OID") + ", " + dbf_Quote(name + "#ClassID");
@@ -176,7 +184,9 @@ void dbf_Writer::Finish(int databaseVersion, const char* libraryVersion) {
       fields.Run();
     }
   }
-  if (patch_ && rows_ == 0 && patch_->Deleted() == 0) return;  // nothing changed: the file stays as it is
+  if (!patch_) dbf_ElementRows::BuildIndex(db_);  // once, over every element, rather than row by row
+  if (patch_ && rows_ == 0 && patch_->Deleted() == 0 && elements_.Changed() == 0)
+    return;  // nothing changed: the file stays as it is
   dbf_Statement meta(db_, verb + dbf_Quote(dbf_kMetaTable) + " VALUES (?1, ?2)");
   const std::pair<const char*, std::string> entries[] = {
       {"format", dbf_kFormatName},

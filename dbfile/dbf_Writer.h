@@ -16,6 +16,7 @@
 
 #include "platform/persist/cls_ClassMetadata.h"
 #include "platform/persist/cls_Visitor.h"
+#include "dbfile/dbf_ElementRows.h"
 #include "dbfile/dbf_Format.h"
 #include "dbfile/dbf_ListText.h"
 #include "dbfile/dbf_Sqlite.h"
@@ -26,7 +27,8 @@ class dbf_RowWriter;
 struct dbf_WriteField {
   std::string name;
   dbf_Kind kind;
-  int param;  // the first bind parameter of the field's column(s)
+  int param;  // the first bind parameter of the field's column(s); 0 for a field kept apart
+  bool apart = false;  // a repository's keys or elements, stored in dbf_Elements, not in a column
 };
 
 struct dbf_WriteTable {
@@ -63,6 +65,7 @@ class dbf_Writer {
   // Rows stored (inserted or written over).
   std::int64_t Rows() const noexcept { return rows_; }
   dbf_Patch* Patch() const noexcept { return patch_; }
+  dbf_ElementRows& Elements() noexcept { return elements_; }
 
   // --- for row writers ---
   // The table of a registered class, created on first use; refuses an unregistered type id and
@@ -85,5 +88,6 @@ class dbf_Writer {
   dbf_WriteTable* last_ = nullptr;
   std::vector<std::unique_ptr<dbf_RowWriter>> writers_;
   dbf_Statement insertRoot_;
+  dbf_ElementRows elements_;
   std::int64_t rows_ = 0;
 };

@@ -18,6 +18,8 @@ class kfdC_FieldContainer : public mdl_Extension {
   static constexpr const char* kClassName = Map::kClassName;
   static constexpr int kVersion = Map::kVersion;
   static constexpr unsigned TypeId() { return Map::TypeId(); }
+  // Written as the repository writes itself, and kept apart in the file like it.
+  static constexpr bool kKeepsElementsApart = Map::kKeepsElementsApart;
 
   kfdC_FieldContainer() = default;
   explicit kfdC_FieldContainer(const cls_ReadVisitor& r) : map_(r) {}

@@ -4,8 +4,9 @@
 // not one node per element. Get for modification
 // separates a shared element first and records "Modify"; Insert and Remove record theirs, the
 // journal holding the key as text. Persistent fields: "keys" (a list) and "values" (a list of
-// objects). A key policy says what a key is; the names of an instantiation (registered class
-// name, type id, version, scripting name) come from a traits class the owning module specializes.
+// objects), written together as a keyed collection. A key policy says what a key is; the names
+// of an instantiation (registered class name, type id, version, scripting name) come from a
+// traits class the owning module specializes.
 #include <charconv>
 #include <cstdint>
 #include <functional>
@@ -119,17 +120,11 @@ class mdl_KeyedRepository : public mem_Allocated,
   }
   void DBWrite(const cls_WriteVisitor& w) const {
     if (!w.StartWrite(TypeId(), uid_)) return;
-    std::vector<Key> keys;
-    std::vector<const void*> values;
-    keys.reserve(items_.size());
-    values.reserve(items_.size());
-    for (const auto& [k, h] : items_) {
-      keys.push_back(k);
-      values.push_back(static_cast<const cls_Root<T>*>(&h.Get()));
-    }
-    KeyPolicy::Write(w, keys);
-    w.WriteObjectList("values", values, &WriteElement);
+    w.WriteKeyedObjects("keys", "values", Elements(*this));
   }
+  // The file keeps a repository's elements as rows of their own rather than as two lists in its
+  // row, so that a save in place touches the elements that changed and not the others.
+  static constexpr bool kKeepsElementsApart = true;
   virtual ~mdl_KeyedRepository() = default;
   virtual mdl_KeyedRepository* Copy() const { return mem_New<mdl_KeyedRepository>(*this); }
   static void CowDtor(void* p) { cow_Destroy(static_cast<mdl_KeyedRepository*>(p)); }
@@ -195,6 +190,34 @@ class mdl_KeyedRepository : public mem_Allocated,
   }
 
  private:
+  // The elements as a visitor stores them; an older state is another repository of this class.
+  class Elements final : public cls_KeyedObjects {
+   public:
+    explicit Elements(const mdl_KeyedRepository& repo) : repo_(repo) {}
+    std::size_t Size() const override { return repo_.items_.size(); }
+    bool IntegerKeys() const override { return !std::is_same_v<Key, cow_String>; }
+    void ForEach(const Visit& visit) const override {
+      for (const auto& [k, h] : repo_.items_) visit(KeyOfElement(k), Pointer(h));
+    }
+    const void* Self() const override { return &repo_; }
+    void DiffFrom(const void* older, const Change& change) const override {
+      const auto& old = static_cast<const mdl_KeyedRepository*>(older)->items_;
+      repo_.items_.DiffFrom(old, [&](const Key& k, const Handle* was, const Handle* now) {
+        const void* a = was ? Pointer(*was) : nullptr;
+        const void* b = now ? Pointer(*now) : nullptr;
+        if (a != b) change(KeyOfElement(k), a, b);  // a copied node may still hold the same element
+      });
+    }
+    cls_WriteFn WriteFn() const override { return &WriteElement; }
+
+   private:
+    static const void* Pointer(const Handle& h) { return static_cast<const cls_Root<T>*>(&h.Get()); }
+    static cls_ElementKey KeyOfElement(const Key& k) {
+      if constexpr (std::is_same_v<Key, cow_String>) return cls_ElementKey{&k, 0};
+      else return cls_ElementKey{nullptr, k};
+    }
+    const mdl_KeyedRepository& repo_;
+  };
   using mdl_RepositoryFace<mdl_KeyedRepository, T>::WriteElement;
   static void Record(const char* operation, const Key& key) {
     omu_ChangeHistory::Instance().Record(kClassName, operation, KeyPolicy::Text(key));

@@ -110,6 +110,9 @@ class cls_ClassMetadata {
   virtual const mdl_Repository* AsRepository(const void* obj) const;
   // Whether instances of the class are repositories (what AsRepository answers, without one).
   virtual bool IsRepositoryClass() const { return false; }
+  // Whether the class writes its "keys" and "values" as one keyed collection
+  // (cls_WriteVisitor::WriteKeyedObjects), which the database file keeps as rows of their own.
+  virtual bool KeepsElementsApart() const { return false; }
   void Destroy(void* obj) const;
   // A step of a path that names no member of obj (an instance of this class): throws the
   // refusal of the class's own shortcuts when they have one ("Unknown material option"), and

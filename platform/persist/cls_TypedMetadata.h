@@ -75,6 +75,10 @@ class cls_TypedMetadata : public cls_ClassMetadata {
     else return nullptr;
   }
   bool IsRepositoryClass() const override { return requires(const C& c) { c.RepositoryFace(); }; }
+  bool KeepsElementsApart() const override {
+    if constexpr (requires { C::kKeepsElementsApart; }) return C::kKeepsElementsApart;
+    else return false;
+  }
   // A class (or the base of a family) that refuses unknown steps itself declares
   // static void RefuseUnknownStep(const Base&, std::string_view).
   void RefuseUnknownStep(const void* p, std::string_view step) const override {

@@ -56,6 +56,32 @@ using cls_ReadFn = std::function<void(const cls_ReadVisitor&)>;
 // Called for each element of a list of objects; the reader is null for a null element.
 using cls_ReadListFn = std::function<void(std::size_t index, const cls_ReadVisitor* element)>;
 
+// The key of one element of a keyed collection: a name, or a 32-bit integer.
+struct cls_ElementKey {
+  const cow_String* text = nullptr;  // null for an integer key
+  std::int32_t integer = 0;
+};
+
+// The elements of a repository under their keys, in key order, as a visitor may store them: one
+// row each, so that a save in place visits only the elements that changed.
+class cls_KeyedObjects {
+ public:
+  using Visit = std::function<void(const cls_ElementKey& key, const void* obj)>;
+  // old is null for an element added since, now null for one removed since.
+  using Change = std::function<void(const cls_ElementKey& key, const void* old, const void* now)>;
+  virtual ~cls_KeyedObjects() = default;
+  virtual std::size_t Size() const = 0;
+  virtual bool IntegerKeys() const = 0;
+  virtual void ForEach(const Visit& visit) const = 0;
+  // The collection object itself, as an older state of it is handed back to DiffFrom.
+  virtual const void* Self() const = 0;
+  // The elements in which this collection differs from `older`, which Self() of a collection of
+  // the same class returned, in key order; elements both share are not visited.
+  virtual void DiffFrom(const void* older, const Change& change) const = 0;
+  // Writes one element.
+  virtual cls_WriteFn WriteFn() const = 0;
+};
+
 class cls_WriteVisitor {
  public:
   virtual ~cls_WriteVisitor() = default;
@@ -78,6 +104,10 @@ class cls_WriteVisitor {
   virtual void WriteObject(const char* name, const void* obj, cls_WriteFn fn) const = 0;
   // A list of member objects (null pointers stand for null elements).
   virtual void WriteObjectList(const char* name, const std::vector<const void*>& objs, cls_WriteFn fn) const = 0;
+  // A keyed collection of member objects, stored as the field `keysName` (a list of the keys)
+  // and the field `valuesName` (a list of the objects, in the same order); a visitor that keeps
+  // elements apart overrides this.
+  virtual void WriteKeyedObjects(const char* keysName, const char* valuesName, const cls_KeyedObjects& objs) const;
   // After StartWrite: cells for the plain fields (ints, doubles, bools, texts) by position, when
   // the record's stored fields are exactly `layout`; the fields the layout marks as cells then
   // count as written. Null otherwise. The other fields are written by name either way.

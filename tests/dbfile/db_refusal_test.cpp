@@ -170,6 +170,10 @@ TEST_F(DbRefusal, PagesNoRowIsReadFromAreChecked) {
 // through the checksums could leave.
 TEST_F(DbRefusal, RowsThatContradictTheFormat) {
   const std::string ctrl = std::to_string(kadC_AdptMeshCtrl::TypeId());
+  // The row of dbf_Elements that holds a key of the controls.
+  const auto elementRow = [&](const char* key) {
+    return dbtT_Query(good_, std::string("SELECT rowid FROM dbf_Elements WHERE Key = '") + key + "'");
+  };
   // Row 1 of the controls copied as row 301.
   const std::string copyRow1 =
       "INSERT INTO kadC_AdptMeshCtrl SELECT 301, UID, advection, smoothingAlgorithm, smoothingPriority,"
@@ -207,7 +211,7 @@ TEST_F(DbRefusal, RowsThatContradictTheFormat) {
       {"bad uid", "UPDATE kadC_AdptMeshCtrl SET UID = 'nope' WHERE OID = 2",
        "the file is damaged (the field \"UID\" of row 2 of class kadC_AdptMeshCtrl holds no uid)"},
       {"row held twice",
-       "UPDATE kadC_AdptMeshCtrlCont SET \"values\" = json_set(\"values\", '$[1]', json('[1," + ctrl + "]')) WHERE OID = 1",
+       "UPDATE dbf_Elements SET OID = 1 WHERE Key = 'C-2'",
        "the file is damaged (row 1 of class kadC_AdptMeshCtrl is held twice)"},
       {"row held by nothing", "UPDATE dbf_Catalog SET rows = 301 WHERE name = 'kadC_AdptMeshCtrl';" + copyRow1,
        "the file is damaged (1 of the 301 rows of class kadC_AdptMeshCtrl belong to nothing it holds)"},
@@ -220,8 +224,7 @@ TEST_F(DbRefusal, RowsThatContradictTheFormat) {
       {"a row count inflated past memory",
        "UPDATE kadC_AdptMeshCtrl SET OID = 1000000000000 WHERE OID = 300;"
        "UPDATE dbf_Catalog SET rows = 1000000000000 WHERE name = 'kadC_AdptMeshCtrl';"
-       "UPDATE kadC_AdptMeshCtrlCont SET \"values\" = json_set(\"values\", '$[#-1]', json('[1000000000000," + ctrl +
-           "]')) WHERE OID = 1",
+       "UPDATE dbf_Elements SET OID = 1000000000000 WHERE OID = 300 AND ClassID = " + ctrl,
        "the file is damaged (999999999700 of the 1000000000000 rows of class kadC_AdptMeshCtrl belong to nothing it "
        "holds)"},
       {"reference to a missing row",
@@ -237,6 +240,24 @@ TEST_F(DbRefusal, RowsThatContradictTheFormat) {
        "preparing \"SELECT \"OID\", \"UID\", \"value\", \"note\", \"inner#OID\", \"inner#ClassID\" FROM "
        "\"dbtT_Detail\" ORDER BY \"OID\"\" (no such column: note))"},
       {"missing own table", "DROP TABLE dbf_Roots", "the file is damaged (it has no table dbf_Roots)"},
+      {"no table of elements", "DROP TABLE dbf_Elements", "the file is damaged (it has no table dbf_Elements)"},
+      // The elements of repositories, one row each.
+      {"an element of no repository", "INSERT INTO dbf_Elements VALUES (" + ctrl + ", 1, 'Stray', 1, " + ctrl + ")",
+       "the file is damaged (dbf_Elements holds 1 row that belongs to no repository of the file)"},
+      {"elements of a repository row that is not there",
+       "UPDATE dbf_Elements SET Owner = 7 WHERE Owner = 1 AND ClassID = " + ctrl,
+       "the file is damaged (dbf_Elements holds 300 rows that belong to no repository of the file)"},
+      {"an integer key among names", "UPDATE dbf_Elements SET Key = 7 WHERE Key = 'C-5'",
+       "the file is damaged (the elements of row 1 of class kadC_AdptMeshCtrlCont mix keys that are names with "
+       "integer keys)"},
+      {"a key that is a blob", "UPDATE dbf_Elements SET Key = x'43' WHERE Key = 'C-5'",
+       "the file is damaged (row " + elementRow("C-5") + " of dbf_Elements holds a key that is no name or integer)"},
+      {"a key beyond 32 bits", "UPDATE dbf_Elements SET Key = 4294967296 WHERE Key = 'C-5'",
+       "the file is damaged (row " + elementRow("C-5") + " of dbf_Elements holds a key beyond 32 bits)"},
+      {"a malformed element row", "UPDATE dbf_Elements SET ClassID = 'x' WHERE Key = 'C-5'",
+       "the file is damaged (row " + elementRow("C-5") + " of dbf_Elements is malformed)"},
+      {"an element row past the rows of its class", "UPDATE dbf_Elements SET OID = 301 WHERE Key = 'C-5'",
+       "the file is damaged (it refers to row 301 of class kadC_AdptMeshCtrl, which holds 300 rows)"},
       {"other format", "UPDATE dbf_Meta SET value = 'something else' WHERE key = 'format'",
        "the file is not a model database (its format is \"something else\")"},
       {"versions that disagree", "UPDATE dbf_Meta SET value = '12' WHERE key = 'databaseVersion'",
@@ -251,9 +272,9 @@ TEST_F(DbRefusal, RowsThatContradictTheFormat) {
        "the file is damaged (its list of roots holds an empty name)"},
       {"a text value with a NUL", "UPDATE dbtT_Detail SET note = 'a' || char(0) || 'b' WHERE OID = 1",
        "the field \"note\" of row 1 of class dbtT_Detail holds text with a NUL character (at offset 1)"},
-      {"a key with a NUL", "UPDATE kadC_AdptMeshCtrlCont SET keys = json_set(keys, '$[0]', 'C' || char(0) || '1')",
+      {"a key with a NUL", "UPDATE dbf_Elements SET Key = 'C' || char(0) || '1' WHERE Key = 'C-1'",
        "the field \"keys\" of row 1 of class kadC_AdptMeshCtrlCont holds text with a NUL character (at offset 1)"},
-      {"an empty key", "UPDATE kadC_AdptMeshCtrlCont SET keys = json_set(keys, '$[299]', '')",
+      {"an empty key", "UPDATE dbf_Elements SET Key = '' WHERE Key = 'C-300'",
        "The stored container kadC_AdptMeshCtrlCont holds an empty key"},
       {"a root that is no model",
        "INSERT INTO dbf_Roots VALUES ('Stray', 1, " + std::to_string(dbtT_Detail::TypeId()) + ")",

@@ -199,10 +199,16 @@ TEST_F(DbRoundTrip, LayoutReadsInTheSqliteShell) {
   EXPECT_EQ(dbtT_Query(f, "SELECT hex(\"table\")" + filled), want);
   EXPECT_EQ(dbtT_Query(f, "SELECT hex(\"table\") FROM dbtT_Sample WHERE count = 0"), "0000000000000000");
 
-  // The container row: keys and [OID, ClassID] pairs in key order.
+  // The container's elements: one row of dbf_Elements each, in key order, with the container's
+  // class id and row, the key, and the element's row and class id; the container's own row holds
+  // no list of them.
   const std::string cls = std::to_string(kadC_AdptMeshCtrl::TypeId());
-  EXPECT_EQ(dbtT_Query(f, "SELECT keys || ' ' || \"values\" FROM kadC_AdptMeshCtrlCont WHERE OID = 1"),
-            "[\"C-1\",\"C-2\"] [[1," + cls + "],[2," + cls + "]]");
+  const std::string cont = std::to_string(kadC_AdptMeshCtrlCont::TypeId());
+  EXPECT_EQ(dbtT_QueryColumn(f, "SELECT OwnerID || ' ' || Owner || ' ' || Key || ' ' || OID || ' ' || ClassID"
+                                " FROM dbf_Elements WHERE ClassID = " + cls + " ORDER BY rowid"),
+            (std::vector<std::string>{cont + " 1 C-1 1 " + cls, cont + " 1 C-2 2 " + cls}));
+  EXPECT_EQ(dbtT_QueryColumn(f, "SELECT name FROM pragma_table_info('kadC_AdptMeshCtrlCont')"),
+            (std::vector<std::string>{"OID", "UID"}));
   EXPECT_EQ(dbtT_Query(f, "SELECT smoothingAlgorithm FROM kadC_AdptMeshCtrl WHERE OID = 1"), "GEOMETRY_ENHANCED");
 
   // The stored field tables follow the metadata.

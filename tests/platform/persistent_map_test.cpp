@@ -278,4 +278,63 @@ TEST(PersistentMap, ThrowingCopyLeavesBothVersionsUnchanged) {
   }
 }
 
+// A copy changed at k keys differs from its original exactly there, and the walk that finds the
+// differences reports no more than the paths the changes copied: about k log N keys, not N.
+TEST(PersistentMap, DiffFromAnOlderCopyFindsExactlyTheChangesAlongTheirPaths) {
+  std::mt19937 rng(1126);
+  Ref base;
+  for (int i = 0; i < 100000; ++i) base[2 * i] = i;
+  const Map older = FromRef(base);
+  for (int k : {0, 1, 2, 10, 100, 1000}) {
+    SCOPED_TRACE("k = " + std::to_string(k));
+    Map now = older;
+    Ref r = base;
+    for (int j = 0; j < k; ++j) {
+      const int key = static_cast<int>(rng() % 200002);
+      unsigned op = rng() % 3;
+      if (op == 1 && !r.count(key)) op = 0;  // a key to modify must be there
+      if (op == 0) now.insert_or_assign(key, Tracked(-j)), r[key] = -j;
+      else if (op == 1) now.Modify(key)->v = r[key] = 1000000 + j;
+      else now.erase(key), r.erase(key);
+    }
+    ASSERT_TRUE(Same(now, r));
+    std::map<int, std::pair<int, int>> expected;  // key: old value or -1e9 when absent, new likewise
+    constexpr int kAbsent = -1000000000;
+    for (const auto& [key, v] : base)
+      if (auto it = r.find(key); it == r.end() || it->second != v) expected[key] = {v, it == r.end() ? kAbsent : it->second};
+    for (const auto& [key, v] : r)
+      if (!base.count(key)) expected[key] = {kAbsent, v};
+    std::map<int, std::pair<int, int>> found;
+    std::size_t reported = 0;
+    int last = -1;
+    bool ordered = true;
+    now.DiffFrom(older, [&](int key, const Tracked* was, const Tracked* is) {
+      ++reported;
+      ordered = ordered && key > last;
+      last = key;
+      ASSERT_TRUE(was || is);
+      if (!was || !is || was->v != is->v) found[key] = {was ? was->v : kAbsent, is ? is->v : kAbsent};
+    });
+    EXPECT_TRUE(ordered);
+    EXPECT_EQ(found, expected);
+    // Each change copies one path (and a rotation's few nodes beside it).
+    EXPECT_LE(reported, static_cast<std::size_t>(k) * 3 * static_cast<std::size_t>(older.Height()) + 1);
+  }
+  // Against an unrelated map of the same contents every key is reported, each as unchanged.
+  const Map copyByValue = FromRef(base);
+  std::size_t differing = 0, reported = 0;
+  copyByValue.DiffFrom(older, [&](int, const Tracked* was, const Tracked* is) {
+    ++reported;
+    differing += !was || !is || was->v != is->v;
+  });
+  EXPECT_EQ(differing, 0u);
+  EXPECT_EQ(reported, base.size());
+  // From and to an empty map: everything added, everything removed.
+  std::size_t added = 0, removed = 0;
+  older.DiffFrom(Map(), [&](int, const Tracked* was, const Tracked*) { added += was == nullptr; });
+  Map().DiffFrom(older, [&](int, const Tracked*, const Tracked* is) { removed += is == nullptr; });
+  EXPECT_EQ(added, base.size());
+  EXPECT_EQ(removed, base.size());
+}
+
 }  // namespace persistent_map_test

@@ -1,6 +1,6 @@
 // The command reader. Each input is a script of JSON Lines run line by line in one session, as
 // "odbattr run" does. A failed command must leave the database and the change history as they
-// were; at the end the database must save and read back equal (checked on one input in 16). Files named by "save" and "open"
+// were; at the end the database must save and read back equal (checked on one input in 32). Files named by "save" and "open"
 // are redirected to a few names in the scratch folder, so that a script never reaches outside it.
 #include <cstddef>
 #include <cstdint>
@@ -20,7 +20,7 @@
 namespace {
 
 constexpr std::size_t kMaxLines = 256;
-constexpr std::size_t kRoundTripOneIn = 16;
+constexpr std::size_t kRoundTripOneIn = 32;
 
 // The line's command with a string "file" replaced by a scratch file, or nothing when the line
 // has no such key (it then runs as it stands, parse errors and all).

@@ -22,20 +22,23 @@ namespace {
 constexpr std::size_t kMaxLines = 256;
 constexpr std::size_t kRoundTripOneIn = 32;
 
-// The line's command with a string "file" replaced by a scratch file, or nothing when the line
-// has no such key (it then runs as it stands, parse errors and all).
-bool Redirect(std::string_view line, cmd_Json& command) {
-  if (line.find("file") == std::string_view::npos && line.find("\\u") == std::string_view::npos) return false;
+// The line parsed, when it may name a file (a "file" key, perhaps spelled with escapes), with a
+// string "file" replaced by a scratch file. kLeft when the line is left to the session to parse:
+// it names no file, or does not parse (the session then refuses it with its own answer). A line
+// parsed here runs as parsed, not parsed a second time.
+enum class Line { kLeft, kParsed, kRedirected };
+Line Redirect(std::string_view line, cmd_Json& command) {
+  if (line.find("file") == std::string_view::npos && line.find("\\u") == std::string_view::npos) return Line::kLeft;
   try {
     command = cmd_ParseCommand(line);
   } catch (const std::exception&) {
-    return false;
+    return Line::kLeft;
   }
-  if (!command.is_object() || !command.contains("file") || !command["file"].is_string()) return false;
+  if (!command.is_object() || !command.contains("file") || !command["file"].is_string()) return Line::kParsed;
   const std::string file = command["file"].get<std::string>();
-  if (file.empty()) return false;
+  if (file.empty()) return Line::kParsed;
   command["file"] = fuzz_Scratch() + "/s" + std::to_string(std::hash<std::string>()(file) % 3) + ".odb";
-  return true;
+  return Line::kRedirected;
 }
 
 }  // namespace
@@ -62,12 +65,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const ddr_Database before = session.Database();
     const std::size_t history = omu_ChangeHistory::Instance().Size();
     cmd_Json command;
-    const bool redirected = Redirect(line, command);
-    if (redirected && !scratchCleared) {
+    const Line how = Redirect(line, command);
+    if (how == Line::kRedirected && !scratchCleared) {
       for (const char* name : {"s0.odb", "s1.odb", "s2.odb"}) fuzz_ScratchFile(name);
       scratchCleared = true;
     }
-    const cmd_Json r = redirected ? session.Execute(command, number) : session.ExecuteLine(line, number);
+    const cmd_Json r = how != Line::kLeft ? session.Execute(command, number) : session.ExecuteLine(line, number);
     if (!r.is_object() || !r.contains("ok") || !r["ok"].is_boolean()) fuzz_Fail("an answer without \"ok\": ", r.dump());
     (void)r.dump(-1, ' ', false, cmd_Json::error_handler_t::replace);
     if (r["ok"].get<bool>()) continue;

@@ -14,13 +14,17 @@
 #include <iterator>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
 #include "platform/base/bas_Alloc.h"
+
+template <class Map>
+struct cow_PersistentMapDiff;
 
 template <class K, class V, class Less = std::less<K>>
 class cow_PersistentMap {
   struct Node;
+  // The walk that compares two versions reads the nodes (cow_PersistentMapDiff.h).
+  friend struct cow_PersistentMapDiff<cow_PersistentMap>;
   // An AVL tree needs more than 2^44 nodes to reach height 64; a 48-bit address space holds fewer.
   static constexpr int kMaxDepth = 64;
 
@@ -248,73 +252,6 @@ class cow_PersistentMap {
     return true;
   }
 
-  // Calls f(key, old, now) for each key, in order, whose element differs between `older` and
-  // this map: old is null for an added key, now null for a removed one, and both are given when
-  // the key holds another node's value (the caller decides what counts as the same value).
-  // Subtrees the two maps share are skipped whole, so after k changes to a copy the walk costs
-  // about O(k log N), not O(N).
-  template <class F>
-  void DiffFrom(const cow_PersistentMap& older, F&& f) const {
-    DiffCursor a, b;
-    a.Push(older.root_);
-    b.Push(root_);
-    while (!a.Empty() || !b.Empty()) {
-      if (a.Empty() || b.Empty()) {
-        const bool added = a.Empty();  // what is left is only this map's, or only the older one's
-        DiffCursor& rest = added ? b : a;
-        if (!rest.TopSingle()) {
-          rest.Expand();
-          continue;
-        }
-        const Node* n = rest.Pop();
-        if (added) f(n->kv.first, static_cast<const V*>(nullptr), &n->kv.second);
-        else f(n->kv.first, &n->kv.second, static_cast<const V*>(nullptr));
-        continue;
-      }
-      const Node* x = a.Top();
-      const Node* y = b.Top();
-      const bool xs = a.TopSingle(), ys = b.TopSingle();
-      if (!xs && !ys) {
-        if (x == y) {  // the same subtree on both sides: nothing in it differs
-          a.Pop();
-          b.Pop();
-        } else if (H(x) >= H(y)) {
-          a.Expand();
-        } else {
-          b.Expand();
-        }
-        continue;
-      }
-      if (xs != ys) {
-        // A single key against a subtree: the key goes first when it is below all of the
-        // subtree, which its leftmost node tells without opening it.
-        const Node* single = xs ? x : y;
-        const Node* tree = xs ? y : x;
-        const Node* first = tree;
-        while (first->left) first = first->left;
-        if (less_(single->kv.first, first->kv.first)) {
-          if (xs) f(single->kv.first, &single->kv.second, static_cast<const V*>(nullptr));
-          else f(single->kv.first, static_cast<const V*>(nullptr), &single->kv.second);
-          (xs ? a : b).Pop();
-        } else {
-          (xs ? b : a).Expand();
-        }
-        continue;
-      }
-      if (less_(x->kv.first, y->kv.first)) {
-        f(x->kv.first, &x->kv.second, static_cast<const V*>(nullptr));
-        a.Pop();
-      } else if (less_(y->kv.first, x->kv.first)) {
-        f(y->kv.first, static_cast<const V*>(nullptr), &y->kv.second);
-        b.Pop();
-      } else {
-        if (x != y) f(y->kv.first, &x->kv.second, &y->kv.second);
-        a.Pop();
-        b.Pop();
-      }
-    }
-  }
-
   bool SharesRootWith(const cow_PersistentMap& o) const noexcept { return root_ && root_ == o.root_; }
   int Height() const noexcept { return H(root_); }
   // Debug check: stored heights, AVL balance, strict key order and size agree.
@@ -351,33 +288,6 @@ class cow_PersistentMap {
     Node* node[kMaxDepth];
     bool left[kMaxDepth];
     int depth = 0;
-  };
-
-  // An in-order walk that hands out whole subtrees until asked to open them: a stack of
-  // subtrees still closed and of nodes whose left side is done.
-  class DiffCursor {
-   public:
-    void Push(const Node* n) {
-      if (n) items_.push_back({n, false});
-    }
-    bool Empty() const noexcept { return items_.empty(); }
-    const Node* Top() const noexcept { return items_.back().first; }
-    bool TopSingle() const noexcept { return items_.back().second; }
-    const Node* Pop() noexcept {
-      const Node* n = items_.back().first;
-      items_.pop_back();
-      return n;
-    }
-    // Opens the subtree on top: its right side, the node itself, then its left side on top.
-    void Expand() {
-      const Node* n = Pop();
-      Push(n->right);
-      items_.push_back({n, true});
-      Push(n->left);
-    }
-
-   private:
-    std::vector<std::pair<const Node*, bool>> items_;
   };
 
   static int H(const Node* n) noexcept { return n ? n->height : 0; }

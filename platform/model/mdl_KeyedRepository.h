@@ -20,6 +20,7 @@
 #include "platform/persist/cls_TypedMetadata.h"
 #include "platform/base/cow_COW.h"
 #include "platform/base/cow_PersistentMap.h"
+#include "platform/base/cow_PersistentMapDiff.h"
 #include "platform/model/mdl_RepositoryFace.h"
 #include "platform/base/nex_Exception.h"
 #include "platform/model/omu_ChangeHistory.h"
@@ -202,7 +203,7 @@ class mdl_KeyedRepository : public mem_Allocated,
     const void* Self() const override { return &repo_; }
     void DiffFrom(const void* older, const Change& change) const override {
       const auto& old = static_cast<const mdl_KeyedRepository*>(older)->items_;
-      repo_.items_.DiffFrom(old, [&](const Key& k, const Handle* was, const Handle* now) {
+      cow_DiffFrom(old, repo_.items_, [&](const Key& k, const Handle* was, const Handle* now) {
         const void* a = was ? Pointer(*was) : nullptr;
         const void* b = now ? Pointer(*now) : nullptr;
         if (a != b) change(KeyOfElement(k), a, b);  // a copied node may still hold the same element

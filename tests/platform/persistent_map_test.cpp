@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/base/cow_PersistentMap.h"
+#include "platform/base/cow_PersistentMapDiff.h"
 
 namespace persistent_map_test {
 
@@ -308,7 +309,7 @@ TEST(PersistentMap, DiffFromAnOlderCopyFindsExactlyTheChangesAlongTheirPaths) {
     std::size_t reported = 0;
     int last = -1;
     bool ordered = true;
-    now.DiffFrom(older, [&](int key, const Tracked* was, const Tracked* is) {
+    cow_DiffFrom(older, now, [&](int key, const Tracked* was, const Tracked* is) {
       ++reported;
       ordered = ordered && key > last;
       last = key;
@@ -323,7 +324,7 @@ TEST(PersistentMap, DiffFromAnOlderCopyFindsExactlyTheChangesAlongTheirPaths) {
   // Against an unrelated map of the same contents every key is reported, each as unchanged.
   const Map copyByValue = FromRef(base);
   std::size_t differing = 0, reported = 0;
-  copyByValue.DiffFrom(older, [&](int, const Tracked* was, const Tracked* is) {
+  cow_DiffFrom(older, copyByValue, [&](int, const Tracked* was, const Tracked* is) {
     ++reported;
     differing += !was || !is || was->v != is->v;
   });
@@ -331,8 +332,8 @@ TEST(PersistentMap, DiffFromAnOlderCopyFindsExactlyTheChangesAlongTheirPaths) {
   EXPECT_EQ(reported, base.size());
   // From and to an empty map: everything added, everything removed.
   std::size_t added = 0, removed = 0;
-  older.DiffFrom(Map(), [&](int, const Tracked* was, const Tracked*) { added += was == nullptr; });
-  Map().DiffFrom(older, [&](int, const Tracked*, const Tracked* is) { removed += is == nullptr; });
+  cow_DiffFrom(Map(), older, [&](int, const Tracked* was, const Tracked*) { added += was == nullptr; });
+  cow_DiffFrom(older, Map(), [&](int, const Tracked*, const Tracked* is) { removed += is == nullptr; });
   EXPECT_EQ(added, base.size());
   EXPECT_EQ(removed, base.size());
 }

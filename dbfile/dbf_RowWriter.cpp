@@ -183,13 +183,13 @@ void dbf_RowWriter::WriteKeyedObjects(const char* keysName, const char* valuesNa
     return cls_WriteVisitor::WriteKeyedObjects(keysName, valuesName, objs);
   const std::size_t kf = Slot(keysName, objs.IntegerKeys() ? dbf_Kind::IntList : dbf_Kind::TextList);
   const std::size_t f = Slot(valuesName, dbf_Kind::ObjectList);
+  dbf_ElementRows& rows = writer_.Elements();
+  const dbf_Owner owner{table_->cls->TypeId(), oid_};
   // A key is checked where it goes into the file: keys already there were checked when they went.
   auto insert = [&](const cls_ElementKey& key, const dbf_Ref& ref) {
     if (key.text) RefuseNul(kf, key.text->view());
-    writer_.Elements().Insert(dbf_Owner{table_->cls->TypeId(), oid_}, key, ref);
+    rows.Insert(owner, key, ref);
   };
-  dbf_ElementRows& rows = writer_.Elements();
-  const dbf_Owner owner{table_->cls->TypeId(), oid_};
   const cls_WriteFn fn = objs.WriteFn();
   dbf_RowWriter& child = writer_.WriterAt(depth_ + 1);
   if (!over_) {

@@ -10,9 +10,15 @@
 #include "command/cmd_Session.h"
 #include "dbfile/dbf_File.h"
 #include "fuzz/fuzz_Common.h"
+#include "fuzz/fuzz_SqliteMemory.h"
 #include "platform/model/ddr_Database.h"
 
 #include <nlohmann/json.hpp>
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+  fuzz_UseOwnSqliteMemory();
+  return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::string bytes(reinterpret_cast<const char*>(data), size);

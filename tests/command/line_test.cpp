@@ -64,6 +64,17 @@ TEST_F(LineTest, EachBadLineIsItsOwnErrorAndTheSessionGoesOn) {
       {R"({"op":"save","file":"x.db\u0000.txt"})",
        R"(The command holds a string with a NUL character (\u0000), which no name, key or value may hold: )"
        R"("x.db\u0000.txt")"},
+      {R"({"op":"get","path":["M"],"x":[{"a":1},{"b":{"c":1,"c":2}}]})",
+       R"(The command gives the key "c" twice in one object; a key may appear once)"},
+      {R"({"op":"get",)",
+       "The command is not valid JSON: [json.exception.parse_error.101] parse error at line 1, column 13: syntax "
+       "error while parsing object key - unexpected end of input; expected string literal"},
+      {R"({"op":"get","path":[1e400 x]})",
+       "The command holds a number beyond the range of a double: [json.exception.out_of_range.406] number overflow "
+       "parsing '1e400'"},
+      {R"({"op":"get"} x)",
+       "The command is not valid JSON: [json.exception.parse_error.101] parse error at line 1, column 14: syntax "
+       "error while parsing value - invalid literal; last read: '\"get\"} x'; expected end of input"},
       {R"({"op":"frobnicate","path":["M"]})",
        R"(Unknown op "frobnicate"; the ops are create, set, get, list, delete, validate, save, open, undo, redo, begin, commit, rollback, transaction)"},
   };
@@ -83,6 +94,27 @@ TEST_F(LineTest, EachBadLineIsItsOwnErrorAndTheSessionGoesOn) {
   // The line after them all runs.
   cmdT_Ok(s, R"({"op":"set","path":["M","adaptiveMeshControls","C-1"],"values":{"curvatureRefinement":2}})");
   EXPECT_EQ(s.Failed(), std::size(cases));
+}
+
+TEST(CommandParse, AValidLineReadsAsTheJsonLibraryReadsIt) {
+  // Keys keep their order; the same key may appear in sibling and nested objects; numbers keep
+  // their kind (signed, unsigned, floating, negative zero); strings keep their escapes' meaning.
+  const char* const lines[] = {
+      R"({"op":"get","path":["M"]})",
+      R"({"b":1,"a":2,"c":{"b":3,"a":{"b":4}},"d":[{"a":1},{"a":2},[],{}]})",
+      R"({"i":-3,"u":18446744073709551615,"f":0.5,"z":-0.0,"e":1e308,"t":true,"n":null})",
+      R"({"s":"\u00e9\ud83d\ude00\n\"","k\u0041":[[[1]]]})",
+      R"(  [ 1 , "x" , { } ]  )",
+      R"("just a string")",
+      R"(42)",
+  };
+  for (const char* line : lines) {
+    SCOPED_TRACE(line);
+    const cmd_Json ours = cmd_ParseCommand(line);
+    const cmd_Json plain = cmd_Json::parse(line);
+    EXPECT_EQ(ours, plain);
+    EXPECT_EQ(ours.dump(), plain.dump());  // the same order and the same number kinds
+  }
 }
 
 TEST_F(LineTest, NestingUpToTheBoundIsParsed) {

@@ -94,6 +94,9 @@ void cls_ClassRegistrar::AddClassMD(cls_ClassMetadata* md) {
   byName_.emplace(md->Name().str(), md);
   byType_.emplace(md->TypeId(), md);
   order_.push_back(md);
+  // A class's constructor names are its own constants, known as it is registered.
+  if (const char* script = md->ScriptName(); *script) byScriptName_.emplace(script, md);
+  for (const char* variant : md->ScriptVariants()) byScriptName_.emplace(variant, md);
 }
 
 const cls_ClassMetadata* cls_ClassRegistrar::ByName(std::string_view name) const {
@@ -107,9 +110,8 @@ const cls_ClassMetadata* cls_ClassRegistrar::ByTypeId(unsigned typeId) const {
 }
 
 const cls_ClassMetadata* cls_ClassRegistrar::ByScriptName(std::string_view scriptName) const {
-  for (const auto* md : order_)
-    if (md->AnswersTo(scriptName)) return md;
-  return nullptr;
+  auto it = byScriptName_.find(scriptName);
+  return it == byScriptName_.end() ? nullptr : it->second;
 }
 
 void cls_MetadataRegistrar::initClassMetadata(InitFn fn, unsigned group) {

@@ -25,6 +25,9 @@ class cls_ClassRegistrar {
   std::vector<const cls_ClassMetadata*> order_;
   std::map<std::string, const cls_ClassMetadata*, std::less<>> byName_;
   std::map<unsigned, const cls_ClassMetadata*> byType_;
+  // Scripting names and constructor variants, each to the first class in order that answers to
+  // it: a script's every "create" looks its constructor up.
+  std::map<std::string, const cls_ClassMetadata*, std::less<>> byScriptName_;
 };
 
 // Hands class metadata functions to the framework with their group, remembering both.

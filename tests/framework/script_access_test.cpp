@@ -6,6 +6,9 @@
 #include "platform/base/nex_Exception.h"
 #include "tests/support/qmx_test.h"
 
+#include <string>
+#include <vector>
+
 namespace {
 
 const cls_ClassMetadata& Ctrl() {
@@ -59,6 +62,33 @@ TEST(ScriptAccess, RefusalsLeaveTheObjectUnchanged) {
   EXPECT_EQ(d.GetRegion().Name(), "Set-1");
   dom.FindScriptField("initialMeshSweeps")->set(&d, std::int32_t{0});
   EXPECT_EQ(d.GetInitialRemeshingSweeps(), 0);
+}
+
+// A constructor name finds the first registered class that answers to it, every scripting name
+// and variant of every class alike; a name no class answers to finds none.
+TEST(ScriptAccess, ConstructorNamesFindTheFirstClassThatAnswers) {
+  qmx_StartLibrary();
+  const cls_ClassRegistrar& classes = cls_ClassRegistrar::Instance();
+  std::size_t names = 0;
+  for (const cls_ClassMetadata* md : classes.All()) {
+    std::vector<std::string> own;
+    if (*md->ScriptName()) own.emplace_back(md->ScriptName());
+    for (const char* v : md->ScriptVariants()) own.emplace_back(v);
+    for (const std::string& name : own) {
+      const cls_ClassMetadata* first = nullptr;
+      for (const cls_ClassMetadata* c : classes.All())
+        if (c->AnswersTo(name)) {
+          first = c;
+          break;
+        }
+      ASSERT_NE(first, nullptr) << name;
+      EXPECT_EQ(classes.ByScriptName(name), first) << name;
+      ++names;
+    }
+  }
+  EXPECT_GT(names, 200u);  // every module's classes were seen
+  for (const char* none : {"", "material", "Material ", "kmaC_Material", "DiscreteFieldFromAnalyticX"})
+    EXPECT_EQ(classes.ByScriptName(none), nullptr) << none;
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ struct State {
   std::array<std::vector<unsigned char*>, kClasses> free;
   struct Queued {
     unsigned char* block;
-    int size;  // its class: the block itself is cold by the time it leaves the queue
+    int sizeClass;  // kept here: the block itself is cold by the time it leaves the queue
   };
   std::vector<Queued> queue = std::vector<Queued>(kQueued, Queued{nullptr, 0});
   std::size_t next = 0;
@@ -111,7 +111,7 @@ void Free(void* p) {
   const std::lock_guard<std::mutex> hold(s.lock);
   State::Queued& slot = s.queue[s.next];
   s.next = (s.next + 1) % kQueued;
-  if (slot.block) s.free[static_cast<std::size_t>(slot.size)].push_back(slot.block);
+  if (slot.block) s.free[static_cast<std::size_t>(slot.sizeClass)].push_back(slot.block);
   slot = State::Queued{block, ClassOf(whole)};
 }
 
